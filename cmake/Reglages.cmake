@@ -1,0 +1,41 @@
+# The settings every target of the project shares, tests and benchmarks included.
+function(reglages cible)
+    target_compile_features(${cible} PUBLIC cxx_std_20)
+    set_target_properties(${cible} PROPERTIES CXX_EXTENSIONS OFF)
+    target_include_directories(${cible} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_compile_options(${cible} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+        -Woverloaded-virtual -Wnon-virtual-dtor -Werror
+        # Results must not depend on whether the compiler fuses a product and a sum.
+        -ffp-contract=off)
+    if(ASSAINISSEURS)
+        target_compile_options(${cible} PRIVATE -fsanitize=${ASSAINISSEURS}
+            -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(${cible} PRIVATE -fsanitize=${ASSAINISSEURS})
+    endif()
+    if(AVEC_FUZZ AND NOT ASSAINISSEURS)
+        message(FATAL_ERROR "AVEC_FUZZ needs ASSAINISSEURS (preset fuzz)")
+    endif()
+endfunction()
+
+# bibliotheque(name SOURCES ... DEPENDANCES ...): one static library for one folder of src/.
+function(bibliotheque nom)
+    cmake_parse_arguments(B "" "" "SOURCES;DEPENDANCES" ${ARGN})
+    add_library(${nom} STATIC ${B_SOURCES})
+    reglages(${nom})
+    target_link_libraries(${nom} PUBLIC ${B_DEPENDANCES})
+endfunction()
+
+# suite_de_tests(folder SOURCES ... DEPENDANCES ...): one GoogleTest program for one folder.
+function(suite_de_tests dossier)
+    cmake_parse_arguments(S "" "" "SOURCES;DEPENDANCES" ${ARGN})
+    set(cible test_${dossier})
+    add_executable(${cible} ${S_SOURCES})
+    reglages(${cible})
+    target_include_directories(${cible} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_compile_definitions(${cible} PRIVATE
+        RACINE_DU_PROJET="${PROJECT_SOURCE_DIR}" DONNEES="${PROJECT_SOURCE_DIR}/tests/donnees")
+    target_link_libraries(${cible} PRIVATE ${S_DEPENDANCES} GTest::gtest_main)
+    gtest_discover_tests(${cible} TEST_PREFIX ${dossier}. DISCOVERY_TIMEOUT 60
+        PROPERTIES TIMEOUT 300)
+endfunction()

@@ -1,0 +1,175 @@
+#include "base/fichiers.h"
+
+#include "base/texte.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// An open file that closes itself; fermer() reports what close() says.
+class Descripteur {
+public:
+    explicit Descripteur(int numero) : numero_(numero) {}
+    Descripteur(const Descripteur&) = delete;
+    Descripteur& operator=(const Descripteur&) = delete;
+    ~Descripteur() { fermer(); }
+
+    int numero() const { return numero_; }
+    bool ouvert() const { return numero_ >= 0; }
+    bool fermer() {
+        const int n = numero_;
+        numero_ = -1;
+        return n < 0 || ::close(n) == 0;
+    }
+
+private:
+    int numero_;
+};
+
+bool ecrire_tout(int numero, std::string_view octets) {
+    while (!octets.empty()) {
+        const ssize_t n = ::write(numero, octets.data(), octets.size());
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            return false;
+        octets.remove_prefix(static_cast<std::size_t>(n));
+    }
+    return true;
+}
+
+mode_t droits_voulus(const fs::path& chemin) {
+    struct stat etat {};
+    if (::stat(chemin.c_str(), &etat) == 0)
+        return etat.st_mode & 07777U;
+    const mode_t masque = ::umask(0);
+    ::umask(masque);
+    return 0666U & ~masque;
+}
+
+// The file that a rename must replace: the one a symbolic link points to.
+fs::path cible_reelle(const fs::path& chemin) {
+    std::error_code erreur;
+    if (!fs::is_symlink(chemin, erreur))
+        return chemin;
+    const fs::path reelle = fs::weakly_canonical(chemin, erreur);
+    return erreur ? chemin : reelle;
+}
+
+void vider_dossier_sur_disque(const fs::path& dossier) {
+    const Descripteur d(::open(dossier.empty() ? "." : dossier.c_str(), O_RDONLY | O_DIRECTORY));
+    if (d.ouvert())
+        ::fsync(d.numero()); // best effort: the rename itself has succeeded
+}
+
+// The number n of "<nom>.<n>", -1 for any other name.
+long numero_de_version(const std::string& candidat, const std::string& nom) {
+    if (!candidat.starts_with(nom + "."))
+        return -1;
+    const std::string suffixe = candidat.substr(nom.size() + 1);
+    if (suffixe.empty() || suffixe.size() > 9 ||
+        suffixe.find_first_not_of("0123456789") != std::string::npos)
+        return -1;
+    return std::strtol(suffixe.c_str(), nullptr, 10);
+}
+
+} // namespace
+
+std::string lire_octets(const fs::path& chemin, std::size_t maximum) {
+    // Non-blocking, so that a FIFO in place of the file cannot hold the program up.
+    const Descripteur d(::open(chemin.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    struct stat etat {};
+    if (!d.ouvert() || ::fstat(d.numero(), &etat) != 0)
+        throw ErreurFichier(chemin, errno);
+    if (S_ISDIR(etat.st_mode))
+        throw ErreurFichier(chemin, EISDIR);
+    if (!S_ISREG(etat.st_mode))
+        throw ErreurFichier(chemin, "ce n'est pas un fichier ordinaire");
+    const auto taille = static_cast<std::size_t>(etat.st_size);
+    if (taille > maximum)
+        throw ErreurFichier(chemin, "le fichier est trop grand");
+    std::string octets(taille, '\0');
+    std::size_t lus = 0;
+    while (lus < taille) {
+        const ssize_t n = ::read(d.numero(), octets.data() + lus, taille - lus);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            throw ErreurFichier(chemin, errno);
+        if (n == 0)
+            break;
+        lus += static_cast<std::size_t>(n);
+    }
+    octets.resize(lus);
+    return octets;
+}
+
+void remplacer_fichier(const fs::path& chemin, std::string_view octets) {
+    const fs::path cible = cible_reelle(chemin);
+    std::error_code erreur_type;
+    if (fs::is_directory(cible, erreur_type))
+        throw ErreurFichier(chemin, EISDIR);
+    std::string modele = (cible.parent_path() / ".tavolmex-XXXXXX").string();
+    Descripteur d(::mkstemp(modele.data()));
+    if (!d.ouvert())
+        throw ErreurFichier(chemin, errno);
+    const bool ecrit =
+        ecrire_tout(d.numero(), octets) && ::fchmod(d.numero(), droits_voulus(cible)) == 0 &&
+        ::fsync(d.numero()) == 0 && d.fermer() && ::rename(modele.c_str(), cible.c_str()) == 0;
+    if (!ecrit) {
+        const int erreur = errno;
+        ::unlink(modele.c_str());
+        throw ErreurFichier(chemin, erreur);
+    }
+    vider_dossier_sur_disque(cible.parent_path());
+}
+
+fs::path trouver_fichier(const fs::path& dossier, std::string_view nom) {
+    const fs::path exact = dossier / nom;
+    std::error_code erreur;
+    if (fs::exists(exact, erreur))
+        return exact;
+    const std::string cherche = minuscules(nom);
+    fs::path trouve;
+    for (fs::directory_iterator i(dossier, erreur), fin; !erreur && i != fin; i.increment(erreur)) {
+        const std::string candidat = i->path().filename().string();
+        if (minuscules(candidat) == cherche && (trouve.empty() || i->path() < trouve))
+            trouve = i->path();
+    }
+    return trouve.empty() ? exact : trouve;
+}
+
+fs::path sauvegarder_version(const fs::path& chemin, const fs::path& dossier) {
+    constexpr std::size_t gardees = 10;
+    std::error_code erreur;
+    if (!fs::exists(chemin, erreur))
+        return {};
+    fs::create_directories(dossier, erreur);
+    if (erreur)
+        throw ErreurFichier(dossier, erreur.value());
+
+    const std::string nom = chemin.filename().string();
+    std::vector<std::pair<long, fs::path>> versions;
+    for (fs::directory_iterator i(dossier, erreur), fin; !erreur && i != fin; i.increment(erreur)) {
+        const long numero = numero_de_version(i->path().filename().string(), nom);
+        if (numero >= 0)
+            versions.emplace_back(numero, i->path());
+    }
+    std::sort(versions.begin(), versions.end());
+    const long suivant = versions.empty() ? 1 : versions.back().first + 1;
+    const fs::path copie = dossier / (nom + "." + std::to_string(suivant));
+    remplacer_fichier(copie, lire_octets(chemin));
+    versions.emplace_back(suivant, copie);
+    for (std::size_t i = 0; i + gardees < versions.size(); ++i)
+        fs::remove(versions[i].second, erreur);
+    return copie;
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "base/erreurs.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+/// Largest configuration or program file that is read whole; a larger one is refused at once.
+inline constexpr std::size_t taille_maximale = std::size_t{32} << 20;
+
+/// The whole content of a regular file, as bytes. @throws ErreurFichier when it cannot be opened
+/// or read, is no regular file (directory, FIFO, device) or is larger than `maximum`
+std::string lire_octets(const std::filesystem::path& chemin, std::size_t maximum = taille_maximale);
+
+/// Replaces (or creates) a file as a whole: written beside, flushed to the disk, renamed. Whatever
+/// happens, the file is either the old or the new one, and nothing is left beside it; a symbolic
+/// link stays one; an existing file keeps its permissions.
+/// @throws ErreurFichier
+void remplacer_fichier(const std::filesystem::path& chemin, std::string_view octets);
+
+/// `dossier`/`nom` if it exists; else the entry of `dossier` whose name differs from it in upper
+/// and lower case only, the first in alphabetical order; else `dossier`/`nom` all the same.
+std::filesystem::path trouver_fichier(const std::filesystem::path& dossier, std::string_view nom);
+
+/// Keeps the present version of a file before it is replaced: copies it to
+/// `dossier`/<name>.<n>, n one above the highest there, and deletes all but the ten newest of that
+/// name. Does nothing when the file does not exist. @returns the copy's path (empty if none)
+/// @throws ErreurFichier
+std::filesystem::path sauvegarder_version(const std::filesystem::path& chemin,
+                                          const std::filesystem::path& dossier);

@@ -1,0 +1,342 @@
+#include "base/texte.h"
+
+#include <iconv.h>
+
+#include <algorithm>
+#include <cassert>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+
+namespace {
+
+constexpr std::string_view marque_utf8 = "\xEF\xBB\xBF";
+
+bool est_chiffre(char c) {
+    return c >= '0' && c <= '9';
+}
+bool est_blanc(char c) {
+    return c == ' ' || c == '\t';
+}
+
+// Length of the valid UTF-8 sequence at the start of `s`, 0 if there is none.
+std::size_t longueur_sequence(std::string_view s) {
+    const auto octet = [&](std::size_t i) { return static_cast<unsigned char>(s[i]); };
+    const auto suite = [&](std::size_t i) { return i < s.size() && (octet(i) & 0xC0U) == 0x80U; };
+    const unsigned c = octet(0);
+    if (c < 0x80)
+        return 1;
+    if (c >= 0xC2 && c <= 0xDF)
+        return suite(1) ? 2 : 0;
+    if (c >= 0xE0 && c <= 0xEF) {
+        if (!suite(1) || !suite(2))
+            return 0;
+        // No overlong form, no surrogate.
+        const bool mauvais = (c == 0xE0 && octet(1) < 0xA0) || (c == 0xED && octet(1) > 0x9F);
+        return mauvais ? 0 : 3;
+    }
+    if (c >= 0xF0 && c <= 0xF4) {
+        if (!suite(1) || !suite(2) || !suite(3))
+            return 0;
+        const bool mauvais = (c == 0xF0 && octet(1) < 0x90) || (c == 0xF4 && octet(1) > 0x8F);
+        return mauvais ? 0 : 4;
+    }
+    return 0;
+}
+
+// One conversion by the C library; what it cannot convert becomes `remplacement`.
+class Convertisseur {
+public:
+    Convertisseur(const char* vers, const char* depuis) : etat_(iconv_open(vers, depuis)) {}
+    Convertisseur(const Convertisseur&) = delete;
+    Convertisseur& operator=(const Convertisseur&) = delete;
+    ~Convertisseur() {
+        if (ouvert())
+            iconv_close(etat_);
+    }
+
+    std::string convertir(std::string_view texte, std::string_view remplacement,
+                          bool entree_utf8) const {
+        std::string entree(texte);
+        std::string resultat(texte.size() * 3, '\0'); // a byte gives at most three
+        char* source = entree.data();
+        std::size_t reste = ouvert() ? entree.size() : 0;
+        char* sortie = resultat.data();
+        std::size_t place = resultat.size();
+        while (reste > 0 &&
+               iconv(etat_, &source, &reste, &sortie, &place) == static_cast<std::size_t>(-1)) {
+            const std::size_t saut =
+                entree_utf8 ? std::max<std::size_t>(1, longueur_sequence({source, reste})) : 1;
+            std::memcpy(sortie, remplacement.data(), remplacement.size());
+            sortie += remplacement.size();
+            place -= remplacement.size();
+            source += saut;
+            reste -= saut;
+        }
+        resultat.resize(resultat.size() - place);
+        return resultat;
+    }
+
+private:
+    bool ouvert() const {
+        // iconv_open's own sign of failure is the pointer -1.
+        return etat_ != reinterpret_cast<iconv_t>(-1); // NOLINT
+    }
+
+    iconv_t etat_;
+};
+
+// Letters whose case differs beyond ASCII: U+00C0..U+00DE and U+00E0..U+00FE lie in the second
+// byte after C3, less the signs × and ÷; Œ œ are C5 92, C5 93; Ÿ is C5 B8 and ÿ C3 BF.
+std::string changer_casse(std::string_view texte, bool vers_majuscules) {
+    std::string resultat(texte);
+    for (std::size_t i = 0; i < resultat.size(); ++i) {
+        const auto c = static_cast<unsigned char>(resultat[i]);
+        if (vers_majuscules ? (c >= 'a' && c <= 'z') : (c >= 'A' && c <= 'Z')) {
+            resultat[i] = static_cast<char>(c ^ 0x20U);
+            continue;
+        }
+        if ((c != 0xC3 && c != 0xC5) || i + 1 >= resultat.size())
+            continue;
+        const auto d = static_cast<unsigned char>(resultat[i + 1]);
+        unsigned char premier = c;
+        unsigned char second = d;
+        if (c == 0xC3 && vers_majuscules && d == 0xBF) {
+            premier = 0xC5;
+            second = 0xB8;
+        } else if (c == 0xC3 && vers_majuscules && d >= 0xA0 && d != 0xB7) {
+            second = static_cast<unsigned char>(d - 0x20);
+        } else if (c == 0xC3 && !vers_majuscules && d >= 0x80 && d <= 0x9E && d != 0x97) {
+            second = static_cast<unsigned char>(d + 0x20);
+        } else if (c == 0xC5 && (d == 0x92 || d == 0x93)) {
+            second = vers_majuscules ? 0x92 : 0x93;
+        } else if (c == 0xC5 && d == 0xB8 && !vers_majuscules) {
+            premier = 0xC3;
+            second = 0xBF;
+        }
+        resultat[i] = static_cast<char>(premier);
+        resultat[++i] = static_cast<char>(second);
+    }
+    return resultat;
+}
+
+// sign? digits ("." digits)? ([eE] sign? digits)?
+bool a_la_forme_d_un_nombre(std::string_view s) {
+    std::size_t i = 0;
+    const auto signe = [&] {
+        if (i < s.size() && (s[i] == '+' || s[i] == '-'))
+            ++i;
+    };
+    const auto chiffres = [&] {
+        const std::size_t debut = i;
+        while (i < s.size() && est_chiffre(s[i]))
+            ++i;
+        return i > debut;
+    };
+    signe();
+    if (!chiffres())
+        return false;
+    if (i < s.size() && s[i] == '.') {
+        ++i;
+        if (!chiffres())
+            return false;
+    }
+    if (i < s.size() && (s[i] == 'e' || s[i] == 'E')) {
+        ++i;
+        signe();
+        if (!chiffres())
+            return false;
+    }
+    return i == s.size();
+}
+
+constexpr std::string_view attendu_nombre = "un nombre (séparateur décimal : le point)";
+constexpr std::string_view attendu_entier = "un nombre entier de -32768 à 32767";
+
+template <typename T>
+bool convertir(std::string_view texte, T& valeur) {
+    std::string_view s = rogner(texte);
+    if (!a_la_forme_d_un_nombre(s))
+        return false;
+    if (s.front() == '+')
+        s.remove_prefix(1);
+    const auto [fin, erreur] = std::from_chars(s.data(), s.data() + s.size(), valeur);
+    if (erreur == std::errc::result_out_of_range) {
+        // Too small for the type is zero; too large is refused.
+        const std::size_t e = s.find_first_of("eE");
+        const bool minuscule = e == std::string_view::npos
+                                   ? s.substr(s.front() == '-').front() == '0'
+                                   : s[e + 1] == '-';
+        valeur = 0;
+        return minuscule;
+    }
+    return erreur == std::errc{} && fin == s.data() + s.size();
+}
+
+template <typename T>
+TexteCourt en_decimal(T valeur) {
+    std::array<char, 380> tampon{};
+    const auto [fin, erreur] = std::to_chars(tampon.data(), tampon.data() + tampon.size(),
+                                             valeur == 0 ? T{0} : valeur, std::chars_format::fixed);
+    assert(erreur == std::errc{});
+    TexteCourt texte;
+    texte.ajouter({tampon.data(), static_cast<std::size_t>(fin - tampon.data())});
+    return texte;
+}
+
+TexteCourt entier_arrondi(double valeur, std::size_t chiffres) {
+    const double arrondi = std::round(valeur); // halves away from zero
+    const TexteCourt nu = en_decimal(std::fabs(arrondi));
+    TexteCourt texte;
+    if (arrondi < 0)
+        texte.ajouter('-');
+    for (std::size_t n = nu.vue().size(); n < chiffres; ++n)
+        texte.ajouter('0');
+    texte.ajouter(nu);
+    return texte;
+}
+
+} // namespace
+
+bool est_utf8(std::string_view octets) {
+    std::size_t i = 0;
+    while (i < octets.size()) {
+        std::uint64_t huit = 0;
+        if (octets.size() - i >= sizeof huit) {
+            std::memcpy(&huit, octets.data() + i, sizeof huit);
+            if ((huit & 0x8080808080808080U) == 0) {
+                i += sizeof huit;
+                continue;
+            }
+        }
+        const std::size_t n = longueur_sequence(octets.substr(i));
+        if (n == 0)
+            return false;
+        i += n;
+    }
+    return true;
+}
+
+Encodage encodage_de(std::string_view octets) {
+    return est_utf8(octets) ? Encodage::utf8 : Encodage::windows1252;
+}
+
+std::string en_utf8(std::string octets) {
+    if (octets.starts_with(marque_utf8) && est_utf8(octets))
+        return octets.substr(marque_utf8.size());
+    if (est_utf8(octets))
+        return octets;
+    return Convertisseur("UTF-8", "WINDOWS-1252").convertir(octets, "\xEF\xBF\xBD", false);
+}
+
+std::string encoder(std::string_view texte, Encodage encodage) {
+    if (encodage == Encodage::utf8)
+        return std::string(texte);
+    return Convertisseur("WINDOWS-1252", "UTF-8").convertir(texte, "?", true);
+}
+
+std::string majuscules(std::string_view texte) {
+    return changer_casse(texte, true);
+}
+std::string minuscules(std::string_view texte) {
+    return changer_casse(texte, false);
+}
+
+std::string_view rogner(std::string_view texte) {
+    while (!texte.empty() && est_blanc(texte.front()))
+        texte.remove_prefix(1);
+    while (!texte.empty() && est_blanc(texte.back()))
+        texte.remove_suffix(1);
+    return texte;
+}
+
+bool contient_capitale_ou_chiffre(std::string_view texte) {
+    return std::any_of(texte.begin(), texte.end(),
+                       [](char c) { return (c >= 'A' && c <= 'Z') || est_chiffre(c); });
+}
+
+std::string_view premiers_caracteres(std::string_view texte, std::size_t n) {
+    std::size_t i = 0;
+    for (; i < texte.size(); ++i) {
+        const bool debut_de_caractere = (static_cast<unsigned char>(texte[i]) & 0xC0U) != 0x80U;
+        if (debut_de_caractere && n-- == 0)
+            break;
+    }
+    return texte.substr(0, i);
+}
+
+std::optional<std::string_view> Lignes::suivante() {
+    if (reste_.empty())
+        return std::nullopt;
+    const std::size_t fin = reste_.find_first_of("\r\n");
+    const std::string_view ligne = reste_.substr(0, fin);
+    if (fin == std::string_view::npos)
+        reste_ = {};
+    else
+        reste_.remove_prefix(fin + (reste_.substr(fin).starts_with(RetourLigne) ? 2 : 1));
+    return ligne;
+}
+
+double lire_nombre(std::string_view texte) {
+    double valeur = 0;
+    if (!convertir(texte, valeur))
+        throw ErreurConversion(texte, attendu_nombre);
+    return valeur;
+}
+
+Entier16 lire_entier16(std::string_view texte) {
+    double valeur = 0;
+    if (!convertir(texte, valeur))
+        throw ErreurConversion(texte, attendu_entier);
+    const double arrondi = std::nearbyint(valeur);
+    if (arrondi < -32768 || arrondi > 32767)
+        throw ErreurConversion(texte, attendu_entier);
+    return static_cast<int>(arrondi);
+}
+
+float lire_simple(std::string_view texte) {
+    float valeur = 0;
+    if (!convertir(texte, valeur))
+        throw ErreurConversion(texte, attendu_nombre);
+    return valeur;
+}
+
+void TexteCourt::ajouter(std::string_view texte) {
+    const std::size_t n = std::min(texte.size(), octets_.size() - longueur_);
+    std::copy_n(texte.begin(), n, octets_.begin() + static_cast<std::ptrdiff_t>(longueur_));
+    longueur_ += n;
+}
+
+TexteCourt texte_entier(std::int64_t valeur) {
+    std::array<char, 24> tampon{};
+    const auto fin = std::to_chars(tampon.data(), tampon.data() + tampon.size(), valeur).ptr;
+    TexteCourt texte;
+    texte.ajouter({tampon.data(), static_cast<std::size_t>(fin - tampon.data())});
+    return texte;
+}
+
+TexteCourt texte_simple(float valeur) {
+    return en_decimal(valeur);
+}
+
+TexteCourt texte_double15(double valeur) {
+    // Fifteen digits first (as scientific text), then the shortest plain decimal of that number.
+    std::array<char, 32> tampon{};
+    const auto fin = std::to_chars(tampon.data(), tampon.data() + tampon.size(), valeur,
+                                   std::chars_format::scientific, 14)
+                         .ptr;
+    double quinze = 0;
+    std::from_chars(tampon.data(), fin, quinze);
+    return en_decimal(quinze);
+}
+
+TexteCourt format_0(double valeur) {
+    return entier_arrondi(valeur, 1);
+}
+TexteCourt format_00(double valeur) {
+    return entier_arrondi(valeur, 2);
+}
+
+double arrondi_centiemes(double valeur) {
+    return std::round(valeur * 100) / 100;
+}

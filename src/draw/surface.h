@@ -1,0 +1,51 @@
+#pragma once
+
+#include "base/nombres.h"
+
+#include <cstdint>
+
+/// 24-bit colour.
+struct Couleur {
+    std::uint8_t rouge = 0, vert = 0, bleu = 0;
+    bool operator==(const Couleur&) const = default;
+};
+
+namespace couleurs {
+inline constexpr Couleur noir{0, 0, 0};
+inline constexpr Couleur blanc{255, 255, 255};
+inline constexpr Couleur rouge{255, 0, 0};
+inline constexpr Couleur vert{0, 128, 0};
+inline constexpr Couleur bleu{0, 0, 255};
+inline constexpr Couleur jaune{255, 255, 0};
+inline constexpr Couleur cyan{0, 255, 255};
+inline constexpr Couleur cyan_pale{176, 255, 254};
+inline constexpr Couleur orange_clair{255, 192, 128};
+} // namespace couleurs
+
+/// A drawing surface in table coordinates (cm, y upwards). One implementation paints in the window,
+/// one writes SVG, one does nothing, tests record the calls.
+class Surface {
+public:
+    /// The user coordinates of the four edges.
+    virtual void coordonnees(double gauche, double haut, double droite, double bas) = 0;
+    virtual void couleur_trait(Couleur couleur) = 0;
+    virtual void couleur_fond(Couleur couleur) = 0;
+    virtual void fond_plein(bool plein) = 0;          ///< false: transparent
+    virtual void trait_pointille(bool pointille) = 0; ///< false: solid
+    virtual void epaisseur(Entier16 pixels) = 0;      ///< 0: the thinnest visible line
+
+    /// A box filled with, and in, the foreground colour.
+    virtual void boite_pleine(double x1, double y1, double x2, double y2) = 0;
+    /// The outline of a box, filled as the fill style says.
+    virtual void boite(double x1, double y1, double x2, double y2, Couleur couleur) = 0;
+    virtual void ligne(double x1, double y1, double x2, double y2, Couleur couleur) = 0;
+    /// An outlined circle, filled as the fill style says.
+    virtual void cercle(double x, double y, double rayon, Couleur couleur) = 0;
+    /// An arc of ellipse, never filled. `rayon` is the larger semi-axis, `aspect` the vertical
+    /// radius divided by the horizontal one; angles in radians, anticlockwise.
+    virtual void arc(double x, double y, double rayon, Couleur couleur, double debut, double fin,
+                     double aspect) = 0;
+
+protected:
+    ~Surface() = default;
+};

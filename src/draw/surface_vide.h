@@ -1,0 +1,19 @@
+#pragma once
+
+#include "draw/surface.h"
+
+/// Draws nothing: only the drawing's arithmetic, and its errors, remain.
+class SurfaceVide final : public Surface {
+public:
+    void coordonnees(double, double, double, double) override {}
+    void couleur_trait(Couleur) override {}
+    void couleur_fond(Couleur) override {}
+    void fond_plein(bool) override {}
+    void trait_pointille(bool) override {}
+    void epaisseur(Entier16) override {}
+    void boite_pleine(double, double, double, double) override {}
+    void boite(double, double, double, double, Couleur) override {}
+    void ligne(double, double, double, double, Couleur) override {}
+    void cercle(double, double, double, Couleur) override {}
+    void arc(double, double, double, Couleur, double, double, double) override {}
+};

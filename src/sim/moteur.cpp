@@ -1,0 +1,90 @@
+#include "sim/moteur.h"
+
+#include "sim/actions.h"
+
+namespace {
+constexpr std::int32_t duree_du_match = 9000; ///< hundredths of a second
+} // namespace
+
+void Moteur::Run_Jeu() {
+    f.ecrire_nbre_carreaux("0");
+    e.NbreCarreaux = 0;
+    f.montrer_course(true);
+    if (!e.AffichageLent) {
+        f.Dessine_Table();
+        e.persistant = false;
+    }
+    e.logo_visible = false;
+    f.montrer_logo(false);
+    e.TempsEcoule = 0;
+    for (int i = 1; i <= e.NbRobot; ++i) {
+        e.NumAction(i) = 0;
+        e.ActionEnCours(i) = actions::AUCUNE;
+        e.ParamEnCours(i) = 0;
+        e.Param2EnCours(i) = 0;
+        e.CapRobot(i) = e.CapInit(i);
+        e.XRobot(i) = e.XInit(i);
+        e.YRobot(i) = e.YInit(i);
+        e.Xm(i) = e.XmInit(i);
+        e.Ym(i) = e.YmInit(i);
+        e.Xextr(i) = e.XextrInit(i);
+        e.Yextr(i) = e.YextrInit(i);
+        e.Incidence = 0;
+    }
+    e.ZoneRedessin = {0, e.XMax, 0, e.YMax};
+    f.regler_Timer(e.PasTemps * 10);
+}
+
+void Moteur::Fin_Jeu() {
+    e.ActionEnCours(1) = actions::FIN;
+    e.ParamEnCours(1) = 0;
+    e.Param2EnCours(1) = 0;
+    e.Progression(1) = 0;
+    f.regler_Timer(0);
+    e.logo_visible = true;
+    f.montrer_logo(true);
+    if (!e.persistant) {
+        e.persistant = true;
+        e.ZoneRedessin = {0, e.XMax, 0, e.YMax};
+        f.Dessine_Table();
+        f.Dessine_Robot();
+    }
+    f.montrer_course(false);
+}
+
+bool Moteur::Timer_Timer() {
+    try {
+        e.TempsEcoule += e.PasTemps;
+        if (!Executer_Actions())
+            return false;
+        f.apres_actions();
+        f.Dessine_Table();
+        f.Dessine_Robot();
+        const Nom10 action_pour_l_unite = e.ActionEnCours(1);
+        if (e.TempsEcoule > duree_du_match) {
+            Fin_Jeu();
+            if (e.RobotTele != 0)
+                f.Active_Desactive(true); // the match ended a console action
+        }
+        f.ecrire_Mess({.TempsEcoule = e.TempsEcoule,
+                       .NumAction = e.NumAction(1),
+                       .TrajNbActions = e.TrajNbActions(1),
+                       .ActionEnCours = e.ActionEnCours(1),
+                       .action_pour_l_unite = action_pour_l_unite,
+                       .Progression = e.Progression(1),
+                       .ParamEnCours = e.ParamEnCours(1),
+                       .Incidence = e.Incidence,
+                       .NbreCarreaux = e.NbreCarreaux});
+        return true;
+    } catch (const ErreurExecution&) {
+        return erreur_majeure(
+            "Erreur majeure d'exécution :   Vérifier le fichier de configuration Trajet.ini");
+    }
+}
+
+bool Moteur::erreur_majeure(const char* texte) {
+    f.regler_Timer(0); // no further tick while the message box is open
+    f.message(texte);
+    f.fin_du_programme();
+    return false;
+}

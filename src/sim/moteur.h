@@ -1,0 +1,66 @@
+#pragma once
+
+#include "sim/etat.h"
+#include "sim/fenetres.h"
+
+#include <cstdint>
+
+/// The simulation engine: works on one Etat, asks everything else of Fenetres. A run is
+/// Run_Jeu, then Timer_Timer once per tick, then Fin_Jeu. A tick allocates nothing.
+class Moteur {
+public:
+    Moteur(Etat& etat, Fenetres& fenetres) : e(etat), f(fenetres) {}
+
+    /// Resets robots 1..NbRobot to their initial pose and arms the timer at PasTemps x 10 ms.
+    void Run_Jeu();
+    /// Stops the timer, puts robot 1 on "FIN" and gives the controls back.
+    void Fin_Jeu();
+    /// One tick: PasTemps hundredths of a second. A run-time error shows a message and asks for
+    /// the end of the program. @returns false after such an error
+    bool Timer_Timer();
+    /// One step of every robot's action; its own errors end the program likewise.
+    /// @returns false after such an error
+    bool Executer_Actions();
+
+    /// Waits; done on the tick whose accumulated time exceeds `duree` (hundredths of a second).
+    void Action_Pause(Entier16 duree, Entier16 i);
+    /// Moves robot i straight on by one step; done on the tick that reaches |distance|: that last
+    /// step is trimmed so that the robot stops exactly there.
+    /// @param distance  cm, signed; below 1 (0 included) the robot steps backwards
+    void Action_Avance(Entier16 distance, Entier16 i);
+    /// Turns robot i on the spot by one step. @param angle  degrees, right is negative (below 1)
+    void Action_Tourne(Entier16 angle, Entier16 i);
+    /// Moves robot i along a circle of radius `rayon` (cm) whose centre lies 90 degrees off its
+    /// heading; the outer wheel keeps the linear speed.
+    /// @param angle  degrees, right is negative  @param cote  +90 or -90
+    /// @throws DivisionParZero when Entraxe(i) / 2 + rayon is 0
+    void Action_Virage(Entier16 angle, Entier16 rayon, Entier16 cote, Entier16 i);
+    /// One tick of the search for the right (Sens = 1) or left beacon.
+    void Chercher_Balise(std::uint8_t Sens, Entier16 i);
+
+    /// Predicts the tiles that the action just loaded crosses: adds them to NbreCarreaux and shows
+    /// the count. A walk that would overflow its step counter is abandoned and counts nothing.
+    void predire_carreaux(Entier16 i);
+
+private:
+    /// Cosine and sine of a heading, reused as long as the heading's bits do not change.
+    struct Direction {
+        float cap = 0;
+        double c = 1;
+        double s = 0;
+        void viser(float nouveau_cap);
+    };
+
+    void executer(Entier16 i);
+    void charger_action_suivante(Entier16 i);
+    void terminer(Entier16 i);
+    void ecrire_Info();
+    const Direction& direction_capteur();
+    void placer_extremites(const Direction& d);
+    bool erreur_majeure(const char* texte);
+
+    Etat& e;
+    Fenetres& f;
+    Direction incidence_;
+    Tableau<Direction, robots_max> caps_;
+};
