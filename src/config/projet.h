@@ -1,0 +1,54 @@
+#pragma once
+
+#include "sim/etat.h"
+#include "sim/fenetres.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+/// The options window's values, as the general settings file keeps them.
+struct ReglagesGeneraux {
+    bool rapide = true;       ///< Check1
+    bool allege = false;      ///< Check2
+    std::string nb_robot;     ///< caption of NbRO
+    bool horizontale = false; ///< Check3
+};
+
+/// Reads and installs a project's files for one Etat. Every failing reader shows "Erreur lors de la
+/// lecture du fichier " + path + " Ligne " + line number through Fenetres, stops, and falls back on
+/// the built-in data. A project is a name: the files of Configuration/ that begin with it.
+class Projet {
+public:
+    /// @param dossier_application  holds (or will hold) the directory Configuration
+    Projet(Etat& etat, Fenetres& fenetres, std::filesystem::path dossier_application);
+
+    const std::filesystem::path& dossier_application() const;
+    std::filesystem::path dossier_configuration() const;
+    /// Paths of the present project's files, found whatever the case of their names.
+    std::filesystem::path chemin_general() const;
+    std::filesystem::path chemin_table() const;
+    std::filesystem::path chemin_robot(int n) const;
+    std::filesystem::path chemin_trajet(int n) const;
+
+    /// Creates whichever of the present project's 20 files are missing, with the default content.
+    /// Errors are ignored: the file's reader reports it.
+    void Installe();
+    /// Reads the general settings into NomProjet and Options; installs a newly named project.
+    void LoadGeneral();
+    void LoadTable();
+    void LoadRobot();
+    void LoadTrajet();
+    /// LoadRobot, then empties the trajectories of robots 1..9 ("FIN" alone).
+    void Init_Robot();
+    /// LoadTrajet, then puts robots 1..9 on their initial pose.
+    void Init_Jeu();
+    /// Records `nom` and the settings in the general settings file, replaced as a whole. Errors are
+    /// ignored. The caller asks only when the options were modified.
+    void SaveGeneral(std::string_view nom, const ReglagesGeneraux& reglages);
+
+private:
+    Etat& e;
+    Fenetres& f;
+    std::filesystem::path dossier_;
+};
