@@ -32,8 +32,6 @@ public:
     virtual void Dessine_Robot() = 0;
     /// The poses of this tick stand: whoever keeps a trace of them reads them now.
     virtual void apres_actions() = 0;
-    /// The table's persistent drawing.
-    virtual void regler_persistance(bool persistante) = 0;
     /// True at a run's start: disables the option boxes and the robot count, captions the button
     /// "Arrêter". False at its end: the reverse.
     virtual void montrer_course(bool en_cours) = 0;

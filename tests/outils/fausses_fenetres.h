@@ -50,9 +50,6 @@ public:
     void Dessine_Table() override { appels.emplace_back("Dessine_Table"); }
     void Dessine_Robot() override { appels.emplace_back("Dessine_Robot"); }
     void apres_actions() override {}
-    void regler_persistance(bool persistante) override {
-        noter("persistance", persistante ? "1" : "0");
-    }
     void montrer_course(bool en_cours) override { noter("course", en_cours ? "1" : "0"); }
     void montrer_logo(bool visible) override { noter("logo", visible ? "1" : "0"); }
     void fin_du_programme() override {
