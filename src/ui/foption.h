@@ -28,6 +28,16 @@ protected:
     void paintEvent(QPaintEvent*) override;
 };
 
+/// A vertical scroll bar for a number: up is more, for its arrows, its groove, the keys and the
+/// wheel alike.
+class BarreNombre final : public QScrollBar {
+public:
+    BarreNombre();
+
+protected:
+    void mousePressEvent(QMouseEvent* evenement) override;
+};
+
 /// The control panel "Option", beside the main window. Every change is applied to the main window
 /// at once and marks the settings as modified.
 class FOption final : public QWidget {
@@ -77,6 +87,6 @@ private:
     Sim1& sim_;
     QCheckBox Check1, Check2, Check3;
     CaseLibelle Check4;
-    QScrollBar VScroll1;
+    BarreNombre VScroll1;
     QLabel NbRO, lb_utilcarreaux;
 };

@@ -4,6 +4,7 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QVBoxLayout>
@@ -41,6 +42,32 @@ void CaseLibelle::paintEvent(QPaintEvent*) {
     QStylePainter(this).drawItemText(rect(),
                                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic,
                                      palette(), isEnabled(), text(), QPalette::WindowText);
+}
+
+BarreNombre::BarreNombre() : QScrollBar(Qt::Vertical) {
+    setInvertedAppearance(true);
+    setInvertedControls(false);
+    setPageStep(1);
+    setTracking(false); // a drag counts when it ends
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void BarreNombre::mousePressEvent(QMouseEvent* evenement) {
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    // The style draws the groove upside down but still takes its upper half for "less".
+    switch (style()->hitTestComplexControl(QStyle::CC_ScrollBar, &option, evenement->pos(), this)) {
+    case QStyle::SC_ScrollBarSubLine:
+    case QStyle::SC_ScrollBarSubPage:
+        triggerAction(SliderSingleStepAdd);
+        break;
+    case QStyle::SC_ScrollBarAddLine:
+    case QStyle::SC_ScrollBarAddPage:
+        triggerAction(SliderSingleStepSub);
+        break;
+    default:
+        QScrollBar::mousePressEvent(evenement);
+    }
 }
 
 void FOption::nommer() {
@@ -96,12 +123,8 @@ void FOption::placer() {
 }
 
 QLayout* FOption::placer_robots() {
-    VScroll1.setOrientation(Qt::Vertical);
-    VScroll1.setRange(1, robots_des_fichiers);
-    VScroll1.setPageStep(1);
-    VScroll1.setTracking(false); // a drag counts when it ends
+    retablir_plage();
     VScroll1.setFixedHeight(56);
-    VScroll1.setFocusPolicy(Qt::StrongFocus);
     NbRO.setAlignment(Qt::AlignCenter);
     NbRO.setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Sunken));
     NbRO.setMinimumWidth(NbRO.fontMetrics().averageCharWidth() * 4);

@@ -54,11 +54,12 @@ void Sim1::connecter() {
 
 void Sim1::Form_Load() {
     garde(*this, [this] {
+        // Placed before it is shown: window managers heed a place that was asked for first.
+        move(screen()->availableGeometry().topLeft());
         show();
         e->NomProjet = "Defaut";
         ecrire_LNom("\r\n\r\nArdanel Fichier de configuration par défaut");
         Info.ecrire("");
-        move(screen()->availableGeometry().topLeft());
         charger_projet();
     });
     if (terminee_)
