@@ -9,6 +9,8 @@
 /// Writes every call into a list, in order, and answers questions from a queue ("Non" when empty).
 class FaussesFenetres : public Fenetres {
 public:
+    virtual ~FaussesFenetres() = default;
+
     std::vector<std::string> appels;
     std::vector<std::string> messages;
     std::deque<bool> reponses;
