@@ -162,5 +162,6 @@ QLayout* FOption::placer_boutons() {
         bouton->setEnabled(false); // until a procedure is given to it
         colonne->addWidget(bouton);
     }
+    Command1.setMinimumHeight(Command1.sizeHint().height() * 4 / 3);
     return colonne;
 }

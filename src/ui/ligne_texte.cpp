@@ -12,6 +12,8 @@ namespace {
 
 constexpr int marge = 6; ///< logical pixels left and right of the text
 constexpr int marge_verticale = 3;
+// The status line begins with five blanks; its second half is indented likewise.
+constexpr auto marge_du_texte = "     ";
 
 // A static text whose name is the line.
 class LigneAccessible final : public QAccessibleWidget {
@@ -30,6 +32,20 @@ private:
 QAccessibleInterface* fabriquer(const QString&, QObject* objet) {
     auto* ligne = dynamic_cast<LigneTexte*>(objet);
     return ligne != nullptr ? new LigneAccessible(*ligne) : nullptr;
+}
+
+// The status line has runs of blanks at its start, before "Action" and after the action's name.
+qsizetype fin_du_nom_d_action(const QString& texte) {
+    qsizetype fin = 0;
+    for (int suite = 0; suite < 3; ++suite) {
+        const qsizetype blancs = texte.indexOf(QStringLiteral("  "), fin);
+        if (blancs < 0)
+            return texte.size();
+        fin = blancs;
+        while (fin < texte.size() && texte[fin] == ' ')
+            ++fin;
+    }
+    return fin;
 }
 
 } // namespace
@@ -53,10 +69,12 @@ QString LigneTexte::texte() const {
         contenu_);
 }
 
-QSize LigneTexte::sizeHint() const {
-    // An even height keeps the table on whole pixels at 150 %.
-    const int hauteur = fontMetrics().height() + 2 * marge_verticale;
-    return {fontMetrics().averageCharWidth() * 60, hauteur + hauteur % 2};
+int LigneTexte::hauteur(int largeur) const {
+    const auto usuel = QStringLiteral("     Durée : 1 mn 30 s     Action 100/100 en cours : "
+                                      "BALISE DRO  -100/100 cm Incidence:359.5 Nbre carreaux:100");
+    const bool etroit = fontMetrics().horizontalAdvance(usuel) + 2 * marge > largeur;
+    const int h = fontMetrics().height() * (etroit ? 2 : 1) + 2 * marge_verticale;
+    return h + h % 2; // even: the table lies on whole pixels at 150 % as well
 }
 
 void LigneTexte::changer(const Contenu& contenu) {
@@ -68,6 +86,21 @@ void LigneTexte::paintEvent(QPaintEvent*) {
     QPainter peintre(this);
     peintre.fillRect(rect(), palette().window());
     peintre.setPen(palette().color(QPalette::WindowText));
-    peintre.drawText(rect().adjusted(marge, 0, -marge, 0), Qt::AlignVCenter | Qt::TextSingleLine,
-                     texte());
+    const QRect place = rect().adjusted(marge, marge_verticale, -marge, -marge_verticale);
+    if (std::holds_alternative<std::string>(contenu_))
+        peintre.drawText(place, Qt::AlignVCenter | Qt::TextWordWrap, texte());
+    else
+        peindre_valeurs(peintre, place);
+}
+
+void LigneTexte::peindre_valeurs(QPainter& peintre, const QRect& place) const {
+    const QFontMetrics mesure = fontMetrics();
+    const QString t = texte();
+    const bool sur_deux = place.height() >= 2 * mesure.height();
+    const qsizetype coupe = sur_deux ? fin_du_nom_d_action(t) : t.size();
+    const int y = place.top() + mesure.ascent();
+    peintre.drawText(place.left(), y, t.first(coupe));
+    if (coupe < t.size())
+        peintre.drawText(place.left(), y + mesure.height(),
+                         marge_du_texte + t.sliced(coupe).trimmed());
 }

@@ -47,7 +47,7 @@ public:
     bool question(std::string_view texte) override;
     void regler_Timer(Entier16 ms) override;
     void ecrire_Mess(const LigneMess& mess) override { Mess.ecrire(mess); }
-    void ecrire_Mess(std::string_view texte) override { Mess.ecrire(texte); }
+    void ecrire_texte_Mess(std::string_view texte) override { Mess.ecrire(texte); }
     void ecrire_Info(const LigneInfo& info) override { Info.ecrire(info); }
     void ecrire_LNom(std::string_view texte) override;
     void ecrire_nbre_carreaux(std::string_view texte) override;
@@ -69,7 +69,7 @@ private:
     void placer();
     void placer_logo();
     void placer_options();
-    struct MesuresEcran mesures() const;
+    struct MesuresEcran mesures(int largeur_Mess) const;
     void charger_projet();
     void Timer_Timer();
     void menu_robots(const QPoint& ou);
@@ -81,7 +81,7 @@ private:
     Boites boites_{*this};
     Projet projet_;
     Moteur moteur_;
-    QTimer Timer;
+    QTimer Timer{this};
     LigneTexte Mess, Info;
     ::Table Table;
     Banniere LNom;
