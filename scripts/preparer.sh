@@ -5,11 +5,12 @@
 
 racine=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-# Building and starting the program. qt6-wayland, fonts and x11-utils (xdpyinfo) serve at run time.
+# Building and starting the program. The fonts and x11-utils (xdpyinfo) serve at run time.
 PAQUETS_PROGRAMME=(
     ca-certificates cmake fonts-dejavu-core g++ libcli11-dev libqt6svg6 ninja-build
-    qt6-base-dev qt6-svg-dev qt6-wayland x11-utils
+    qt6-base-dev qt6-svg-dev x11-utils
 )
+PAQUETS_WAYLAND=(qt6-wayland) # for a session without X at all
 # Tests: second compiler, sanitizers, lint, and a small desktop for the end-to-end test.
 PAQUETS_TESTS=(
     at-spi2-core clang clang-format clang-tidy dbus gir1.2-atspi-2.0 libclang-rt-14-dev
