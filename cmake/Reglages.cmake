@@ -6,8 +6,6 @@ function(reglages cible)
     target_compile_options(${cible} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
         -Woverloaded-virtual -Wnon-virtual-dtor
-        # g++ 12 sees overlaps in "text" + std::string that cannot be (GCC bug 105651).
-        $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
         # Results must not depend on whether the compiler fuses a product and a sum.
         -ffp-contract=off)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
