@@ -47,7 +47,7 @@ public:
     bool question(std::string_view texte) override;
     void regler_Timer(Entier16 ms) override;
     void ecrire_Mess(const LigneMess& mess) override { Mess.ecrire(mess); }
-    void ecrire_Mess(std::string_view texte) override { Mess.ecrire(texte); }
+    void ecrire_texte_Mess(std::string_view texte) override { Mess.ecrire(texte); }
     void ecrire_Info(const LigneInfo& info) override { Info.ecrire(info); }
     void ecrire_LNom(std::string_view texte) override;
     void ecrire_nbre_carreaux(std::string_view texte) override;
