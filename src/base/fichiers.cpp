@@ -104,8 +104,12 @@ long numero_de_version(const std::string& candidat, const std::string& nom) {
 } // namespace
 
 std::string lire_octets(const fs::path& chemin, std::size_t maximum) {
+    return lire_octets_natif(chemin.c_str(), maximum);
+}
+
+std::string lire_octets_natif(const char* chemin, std::size_t maximum) {
     // Non-blocking, so that a FIFO in place of the file cannot hold the program up.
-    const Descripteur d(::open(chemin.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const Descripteur d(::open(chemin, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat etat {};
     if (!d.ouvert() || ::fstat(d.numero(), &etat) != 0)
         throw ErreurFichier(chemin, errno);
@@ -151,7 +155,8 @@ void remplacer_fichier(const fs::path& chemin, std::string_view octets) {
 }
 
 fs::path trouver_fichier(const fs::path& dossier, std::string_view nom) {
-    fs::path exact = dossier / nom;
+    // Put together as text: a name that begins with a separator stays below the directory.
+    fs::path exact(dossier.native() + "/" + std::string(nom));
     std::error_code erreur;
     if (fs::exists(exact, erreur))
         return exact;

@@ -51,7 +51,7 @@ std::string_view premiers_caracteres(std::string_view texte, std::size_t n);
 /// ends with a line end has no further empty line.
 class Lignes {
 public:
-    explicit Lignes(std::string_view texte) : texte_(texte), lf_(texte.find('\n')) {}
+    explicit Lignes(std::string_view texte);
 
     /// The next line without its end, or nothing after the last one.
     std::optional<std::string_view> suivante();
@@ -59,7 +59,7 @@ public:
 private:
     std::string_view texte_;
     std::size_t debut_ = 0;
-    std::size_t lf_; ///< the next LF: looked for once, not again for every CR before it
+    bool cr_seul_ = false; ///< some CR is not followed by LF; else lines end at LF alone
 };
 
 /// Reads blanks, sign, digits, optional decimal part with ".", optional exponent.
