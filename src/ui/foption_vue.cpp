@@ -124,9 +124,9 @@ void FOption::placer() {
 
 QLayout* FOption::placer_robots() {
     retablir_plage();
-    VScroll1.setFixedHeight(56);
+    VScroll1.setFixedHeight(76);
     NbRO.setAlignment(Qt::AlignCenter);
-    NbRO.setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Sunken));
+    NbRO.setFrameStyle(int(QFrame::Panel) | int(QFrame::Sunken));
     NbRO.setMinimumWidth(NbRO.fontMetrics().averageCharWidth() * 4);
     auto* rangee = new QHBoxLayout;
     rangee->addWidget(&Check4);
@@ -162,5 +162,6 @@ QLayout* FOption::placer_boutons() {
         bouton->setEnabled(false); // until a procedure is given to it
         colonne->addWidget(bouton);
     }
+    Command1.setMinimumHeight(Command1.sizeHint().height() * 4 / 3);
     return colonne;
 }

@@ -54,9 +54,9 @@ void Sim1::connecter() {
 
 void Sim1::Form_Load() {
     garde(*this, [this] {
-        // Placed before it is shown: window managers heed a place that was asked for first.
+        // Shown at the end, or under the first message: a window manager heeds the place and the
+        // size that a window asks for before it appears, and the user sees no half-made window.
         move(screen()->availableGeometry().topLeft());
-        show();
         e->NomProjet = "Defaut";
         ecrire_LNom("\r\n\r\nArdanel Fichier de configuration par défaut");
         Info.ecrire("");
@@ -141,10 +141,12 @@ void Sim1::closeEvent(QCloseEvent* evenement) {
 }
 
 void Sim1::message(std::string_view texte) {
+    show();
     boites_.message(texte);
 }
 
 bool Sim1::question(std::string_view texte) {
+    show();
     return boites_.question(texte);
 }
 

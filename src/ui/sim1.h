@@ -69,7 +69,7 @@ private:
     void placer();
     void placer_logo();
     void placer_options();
-    struct MesuresEcran mesures() const;
+    struct MesuresEcran mesures(int largeur_Mess) const;
     void charger_projet();
     void Timer_Timer();
     void menu_robots(const QPoint& ou);
@@ -81,7 +81,7 @@ private:
     Boites boites_{*this};
     Projet projet_;
     Moteur moteur_;
-    QTimer Timer;
+    QTimer Timer{this};
     LigneTexte Mess, Info;
     ::Table Table;
     Banniere LNom;

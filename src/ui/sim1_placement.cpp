@@ -11,7 +11,7 @@ namespace {
 
 /// Largest screen side that the layout is told of: its sizes are 16-bit twips.
 constexpr int ecran_maximal = 2000;
-/// Frame of a window, in logical pixels, while the window manager has not told it yet.
+/// Least frame of a window, in logical pixels: the window manager tells its own only later.
 constexpr QSize cadre_habituel{4, 38};
 /// Side of the logo, of the table's smaller one.
 constexpr double part_du_logo = 0.4;
@@ -26,7 +26,7 @@ int pixels(double twips) {
 
 QSize cadre(const QWidget& fenetre) {
     const QSize connu = fenetre.frameGeometry().size() - fenetre.size();
-    return connu.height() > 0 ? connu : cadre_habituel;
+    return connu.expandedTo(cadre_habituel);
 }
 
 double cote_logo(const Etat& e) {
@@ -35,23 +35,27 @@ double cote_logo(const Etat& e) {
 
 } // namespace
 
-// The options window's place is no room for the table.
-MesuresEcran Sim1::mesures() const {
+// The options window's place is no room for the table, whose width is rounded up by XMax / 2 twips
+// at most.
+MesuresEcran Sim1::mesures(int largeur_Mess) const {
     const QSize ecran = screen()->availableGeometry().size();
     const QSize bords = cadre(*this);
     const int pour_options = options_.sizeHint().width() + bords.width();
-    return {.largeur_ecran = twips(std::min(ecran.width() - pour_options, ecran_maximal)),
+    const int largeur = std::min(ecran.width() - pour_options, ecran_maximal);
+    return {.largeur_ecran = twips(largeur) - e->XMax / 2.0,
             .hauteur_ecran = twips(std::min(ecran.height(), ecran_maximal)),
             .cadre_horizontal = twips(bords.width()),
             .cadre_vertical = twips(bords.height()),
-            .hauteur_Mess = twips(Mess.sizeHint().height()),
-            .hauteur_Info = twips(Info.sizeHint().height()),
+            .hauteur_Mess = twips(Mess.hauteur(largeur_Mess)),
+            .hauteur_Info = twips(Info.hauteur(ecran_maximal)),
             .largeur_logo = cote_logo(*e),
             .hauteur_logo = cote_logo(*e)};
 }
 
 void Sim1::Init_Table() {
-    const MesuresEcran m = mesures();
+    // The status line takes two lines where the table is narrow.
+    MesuresEcran m = mesures(ecran_maximal);
+    m = mesures(pixels(::Init_Table(*e, m).largeur_Table));
     const Disposition d = ::Init_Table(*e, m);
     taille_Table_ = {pixels(d.largeur_Table), pixels(d.hauteur_Table)};
     resize(pixels(d.largeur_fenetre - m.cadre_horizontal),
@@ -62,12 +66,14 @@ void Sim1::Init_Table() {
 
 // The table keeps its proportions whatever size the user gives to the window.
 void Sim1::placer() {
-    const int h = Mess.sizeHint().height();
-    Mess.setGeometry(0, 0, width(), h);
-    Info.setGeometry(0, h, width(), h);
-    const QSize place(width(), std::max(0, height() - 2 * h));
+    const int h_Mess = Mess.hauteur(width());
+    const int h_Info = Info.hauteur(ecran_maximal);
+    Mess.setGeometry(0, 0, width(), h_Mess);
+    Info.setGeometry(0, h_Mess, width(), h_Info);
+    const int haut = h_Mess + h_Info;
+    const QSize place(width(), std::max(0, height() - haut));
     const QSize taille = taille_Table_.scaled(place, Qt::KeepAspectRatio);
-    Table.setGeometry((width() - taille.width()) / 2, 2 * h, taille.width(), taille.height());
+    Table.setGeometry((width() - taille.width()) / 2, haut, taille.width(), taille.height());
     placer_logo();
 }
 

@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <cmath>
+#include <cstring>
 
 namespace {
 
@@ -15,6 +16,15 @@ constexpr int bord_du_trait = 2; ///< logical pixels that a line reaches beyond 
 
 void regler(Surface& s, const Etat& e) {
     s.coordonnees(-marge_table, e.YMax + marge_table, e.XMax + marge_table, -marge_table);
+}
+
+// Gives a rectangle (device pixels) of one picture the look it has in another of the same size.
+void copier(QImage& vers, const QImage& de, const QRect& rectangle) {
+    const QRect r = rectangle.intersected(de.rect());
+    const auto octets = static_cast<std::size_t>(r.width()) * sizeof(QRgb);
+    for (int y = r.top(); y <= r.bottom(); ++y)
+        std::memcpy(reinterpret_cast<QRgb*>(vers.scanLine(y)) + r.left(),
+                    reinterpret_cast<const QRgb*>(de.constScanLine(y)) + r.left(), octets);
 }
 
 // The whole table as the region to draw, for as long as this lives.
@@ -49,16 +59,17 @@ Repere Table::repere() const {
 void Table::Dessine_Table() {
     if (cle() == cle_du_fond_ || !peindre_fond())
         return;
-    calculer_rectangles();
+    peindre_robots();
     update();
 }
 
 void Table::Dessine_Robot() {
-    signaler_traits(); // what they leave
+    effacer_robots();
+    signaler_robots(); // what they leave
     contours_.vider();
     ::Dessine_Robot(e, contours_, f);
-    calculer_rectangles();
-    signaler_traits(); // what they cover
+    peindre_robots();
+    signaler_robots(); // what they cover
 }
 
 Table::Cle Table::cle() const {
@@ -67,7 +78,7 @@ Table::Cle Table::cle() const {
 
 bool Table::peindre_fond() {
     const Cle nouvelle = cle();
-    QPixmap image(nouvelle.taille.expandedTo({1, 1}));
+    QImage image(nouvelle.taille.expandedTo({1, 1}), QImage::Format_RGB32);
     image.setDevicePixelRatio(devicePixelRatioF());
     image.fill(couleur_qt(couleurs::vert));
     QPainter peintre(&image);
@@ -78,53 +89,83 @@ bool Table::peindre_fond() {
         return false;
     peintre.end();
     fond_ = image;
+    image_ = image.copy();
     cle_du_fond_ = nouvelle;
     return true;
 }
 
-void Table::signaler_traits() {
+void Table::peindre_robots() {
+    calculer_rectangles();
+    if (image_.isNull() || nombre_rectangles_ == 0)
+        return;
+    QPainter peintre(&image_);
+    SurfaceQt surface(peintre, size());
+    regler(surface, e);
+    for (const Contours::Trait& t : contours_)
+        surface.ligne(t.x1, t.y1, t.x2, t.y2, t.couleur);
+}
+
+void Table::effacer_robots() {
+    const double densite = image_.devicePixelRatio();
+    for (int i = 0; i < nombre_rectangles_; ++i) {
+        const QRect& r = rectangles_[static_cast<std::size_t>(i)];
+        copier(image_, fond_,
+               QRectF(QPointF(r.topLeft()) * densite, QSizeF(r.size()) * densite).toAlignedRect());
+    }
+}
+
+void Table::signaler_robots() {
     for (int i = 0; i < nombre_rectangles_; ++i)
         update(rectangles_[static_cast<std::size_t>(i)]);
 }
 
-// One rectangle for outlines that touch, so that two distant robots do not repaint what lies
-// between them.
 void Table::calculer_rectangles() {
     nombre_rectangles_ = 0;
     const Repere r = repere();
     for (const Contours::Trait& t : contours_) {
         if (!std::isfinite(t.x1 + t.y1 + t.x2 + t.y2))
             continue;
-        const QRectF visible =
-            r.boite(t.x1, t.y1, t.x2, t.y2)
-                .adjusted(-bord_du_trait, -bord_du_trait, bord_du_trait, bord_du_trait)
-                .intersected(rect());
-        const QRect pixels = visible.toAlignedRect();
-        const auto dernier = static_cast<std::size_t>(nombre_rectangles_);
-        if (nombre_rectangles_ > 0 &&
-            (nombre_rectangles_ == rectangles_max || rectangles_[dernier - 1].intersects(pixels)))
-            rectangles_[dernier - 1] |= pixels;
-        else {
-            rectangles_[dernier] = pixels;
-            ++nombre_rectangles_;
-        }
+        const QRectF boite = r.boite(t.x1, t.y1, t.x2, t.y2);
+        ajouter_rectangle(
+            boite.adjusted(-bord_du_trait, -bord_du_trait, bord_du_trait, bord_du_trait)
+                .intersected(rect())
+                .toAlignedRect());
     }
+}
+
+// One rectangle for outlines that touch, so that two distant robots do not repaint what lies
+// between them.
+void Table::ajouter_rectangle(QRect r) {
+    if (r.isEmpty())
+        return;
+    const auto debut = rectangles_.begin();
+    auto fin = debut + nombre_rectangles_;
+    for (auto it = debut; it != fin;)
+        if (it->intersects(r)) {
+            r |= *it;
+            *it = *--fin;
+            it = debut; // larger now, it may meet those before
+        } else
+            ++it;
+    if (fin == rectangles_.end())
+        *(fin - 1) |= r;
+    else
+        *fin++ = r;
+    nombre_rectangles_ = static_cast<int>(fin - debut);
 }
 
 void Table::paintEvent(QPaintEvent* evenement) {
     const Cle maintenant = cle();
     if (maintenant.taille != cle_du_fond_.taille && maintenant.version == cle_du_fond_.version &&
         maintenant.Echelle == cle_du_fond_.Echelle && peindre_fond())
-        calculer_rectangles();
+        peindre_robots();
     QPainter peintre(this);
-    if (fond_.isNull()) // before the first drawing
+    if (image_.isNull()) // before the first drawing
         peintre.fillRect(evenement->rect(), palette().window());
+    else if (maintenant.taille == cle_du_fond_.taille)
+        peintre.drawImage(0, 0, image_);
     else
-        peintre.drawPixmap(QRectF(rect()), fond_, QRectF(fond_.rect()));
-    SurfaceQt surface(peintre, size());
-    regler(surface, e);
-    for (const Contours::Trait& t : contours_)
-        surface.ligne(t.x1, t.y1, t.x2, t.y2, t.couleur);
+        peintre.drawImage(rect(), image_);
 }
 
 void Table::mouseReleaseEvent(QMouseEvent* evenement) {

@@ -5,7 +5,7 @@
 #include "sim/fenetres.h"
 #include "ui/surface_qt.h"
 
-#include <QPixmap>
+#include <QImage>
 #include <QWidget>
 
 #include <array>
@@ -45,8 +45,9 @@ private:
 };
 
 /// The drawing surface of the main window. The table is painted once into a picture, again only
-/// when its records, its size or the screen's density change; a tick repaints the pixels that the
-/// robots left and those that they cover now.
+/// when its records, its size or the screen's density change. A second picture shows the robots on
+/// it: a tick gives back the pixels that they left and draws them where they are; the screen gets
+/// those pixels alone.
 class Table final : public QWidget {
 public:
     Table(Etat& etat, Fenetres& fenetres, QWidget* parent);
@@ -77,12 +78,16 @@ private:
 
     Cle cle() const;
     bool peindre_fond();
-    void signaler_traits();
+    void peindre_robots();
+    void effacer_robots();
+    void signaler_robots();
     void calculer_rectangles();
+    void ajouter_rectangle(QRect r);
 
     Etat& e;
     Fenetres& f;
-    QPixmap fond_;
+    QImage fond_;  ///< the table
+    QImage image_; ///< the table and the robots
     Cle cle_du_fond_;
     Contours contours_;
     std::array<QRect, rectangles_max> rectangles_{}; ///< pixels that the robots cover

@@ -21,7 +21,10 @@ protected:
     Banc() {
         QObject::connect(&veilleur_, &QTimer::timeout, [this] { repondre(); });
         veilleur_.start(1);
+        std::filesystem::current_path(dossier.chemin()); // as the program does
     }
+
+    ~Banc() override { std::filesystem::current_path(std::filesystem::temp_directory_path()); }
 
     void demarrer() {
         sim = std::make_unique<Sim1>(dossier.chemin(), [this](int code) { fins.push_back(code); });

@@ -34,6 +34,7 @@ TEST_F(Options, tourner_la_table_change_la_fenetre_et_le_mode_de_dessin) {
     cocher("Check3", true);
     EXPECT_EQ(e().XMax, 320);
     EXPECT_GT(sim->width(), sim->height());
+    EXPECT_TRUE(messages.empty()) << messages[0];
     EXPECT_FALSE(e().persistant); // the fast display goes back to direct drawing
     cocher("Check1", false);
     cocher("Check3", false);

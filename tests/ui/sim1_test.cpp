@@ -30,6 +30,7 @@ TEST_F(Demarrage, la_fenetre_d_options_reste_a_cote_et_dans_l_ecran) {
     for (const bool horizontale : {false, true}) {
         demarrer();
         cocher("Check3", horizontale);
+        EXPECT_TRUE(messages.empty()) << messages[0];
         const QRect ecran = sim->screen()->availableGeometry();
         EXPECT_TRUE(ecran.contains(sim->options().frameGeometry())) << horizontale;
         EXPECT_TRUE(ecran.contains(sim->frameGeometry())) << horizontale;
@@ -61,7 +62,7 @@ TEST_F(Demarrage, les_reglages_du_fichier_atteignent_l_etat) {
 }
 
 TEST_F(Demarrage, une_table_impossible_a_dessiner_finit_le_programme) {
-    dossier.ecrire("Configuration/Defaut Table.ini", "XMax, 200\r\nYMax, 320\r\nE, 5, 5, 5, 9\r\n");
+    dossier.ecrire("Configuration/Defaut Table.ini", "L, 0, 0, 200, 320\r\nLE, 5, 5, 5, 9\r\n");
     demarrer();
     sim->Dessine_Table(); // nothing more is said afterwards
     ASSERT_EQ(messages.size(), 1U);
@@ -95,9 +96,9 @@ TEST_F(Course, le_bouton_lance_puis_arrete_et_fige_les_options) {
     EXPECT_TRUE(Timer.isActive());
     EXPECT_EQ(e().RobotTele, 0);
     EXPECT_TRUE(QTest::qWaitFor([this] { return e().TempsEcoule >= 3; }));
-    EXPECT_TRUE(
-        trouver<LigneTexte>("Mess").texte().startsWith("     Durée : 0 mn 00 s     Action 1/"));
-    EXPECT_TRUE(trouver<LigneTexte>("Info").texte().startsWith("Xm="));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return trouver<LigneTexte>("Info").texte().startsWith("Xm="); }));
+    EXPECT_TRUE(trouver<LigneTexte>("Mess").texte().startsWith("     Durée : 0 mn 0"));
 
     cliquer("Command1");
     EXPECT_EQ(Command1.text(), "Démarrer");

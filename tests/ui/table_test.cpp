@@ -77,8 +77,7 @@ TEST_F(TableTest, un_tick_ne_repeint_que_le_robot_qui_part_et_qui_arrive) {
     EXPECT_TRUE(espion.region.contains(quitte));
     EXPECT_TRUE(espion.region.contains(couvre));
     EXPECT_FALSE(espion.region.contains(table.repere().point(100, 200).toPoint()));
-    EXPECT_EQ(e->ZoneRedessin.xmax,
-              173); // the engine's own region follows: 150 + 22.4 + 1, rounded
+    EXPECT_EQ(e->ZoneRedessin.xmax, 171); // the engine's: 150 + 22.4 cos 0.46, and one more
 }
 
 TEST_F(TableTest, les_robots_eloignes_ne_font_pas_repeindre_l_espace_entre_eux) {
