@@ -104,13 +104,17 @@ void comparer(Difference& difference, const Programme& depart,
 
 } // namespace
 
-Apercu preparer_apercu(const Demande& demande, bool ecraser) {
-    const Programme depart(lire_octets(demande.depart));
-    const std::string entree = lire_octets(demande.entree);
+Apercu preparer_apercu(const Demande& demande, const Programme& depart, std::string_view entree,
+                       bool ecraser) {
     const Composition c =
         composer(demande, depart, entree, [ecraser](std::string_view) { return ecraser; });
     Difference difference;
     comparer(difference, depart, c.modifications());
     difference.changer_toutes(SorteLigne::ajoutee, c.ajout);
     return {std::move(difference).lignes(), avertissements(demande, depart, c, entree)};
+}
+
+Apercu preparer_apercu(const Demande& demande, bool ecraser) {
+    const Programme depart(lire_octets(demande.depart));
+    return preparer_apercu(demande, depart, lire_octets(demande.entree), ecraser);
 }

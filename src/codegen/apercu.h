@@ -1,6 +1,7 @@
 #pragma once
 
 #include "codegen/demande.h"
+#include "codegen/programme.h"
 
 #include <cstddef>
 #include <string>
@@ -32,3 +33,7 @@ struct Apercu {
 /// @param ecraser  the answer to every question about an older subroutine
 /// @throws ErreurExecution as generer() does before it writes
 Apercu preparer_apercu(const Demande& demande, bool ecraser);
+
+/// The same for a program and the bytes of an input file that are already read.
+Apercu preparer_apercu(const Demande& demande, const Programme& depart, std::string_view entree,
+                       bool ecraser);
