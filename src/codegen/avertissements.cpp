@@ -16,9 +16,6 @@ constexpr std::size_t maximum_par_sorte = 20;
 class Sorte {
 public:
     explicit Sorte(std::vector<std::string>& liste) : liste_(liste) {}
-    Sorte(const Sorte&) = delete;
-    Sorte& operator=(const Sorte&) = delete;
-    ~Sorte() = default;
 
     void ajouter(std::string phrase) {
         if (++nombre_ <= maximum_par_sorte)
@@ -113,16 +110,18 @@ Besoins examiner_mouvements(const Demande& demande, std::string_view entree,
 
 void signaler_manques(const Besoins& besoins, const Inventaire& inventaire,
                       std::vector<std::string>& liste) {
-    const std::string ou = inventaire.inclut
-                               ? " dans ce programme (peut-être dans un fichier inclus)"
-                               : " dans le programme";
+    const std::string ou =
+        inventaire.inclut ? " (sauf dans un fichier que le programme inclut)" : "";
+    const auto signaler = [&](std::string debut, const std::string& nom, const char* suite) {
+        liste.push_back(debut.append(nom).append(suite).append(ou));
+    };
     for (const std::string& nom : besoins.sous_programmes) {
         if (!inventaire.etiquettes.contains(minuscules(nom)))
-            liste.push_back("Le sous-programme " + nom + " n'existe pas" + ou);
+            signaler("Le sous-programme ", nom, " n'existe pas dans le programme");
     }
     for (const std::string& nom : besoins.noms) {
         if (!inventaire.noms.contains(minuscules(nom)))
-            liste.push_back("La variable ou constante " + nom + " n'est pas déclarée" + ou);
+            signaler("La variable ou constante ", nom, " n'est pas déclarée dans le programme");
     }
 }
 

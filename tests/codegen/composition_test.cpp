@@ -135,7 +135,7 @@ TEST(Menu, rien_n_est_insere_apres_une_ancre_manquante) {
     for (const auto& [retiree, ancre, insertions] : cas) {
         std::string texte;
         for (std::size_t i = 0; i < lignes.size(); ++i)
-            texte += i == retiree ? "" : lignes[i] + "\n";
+            texte.append(i == retiree ? "" : lignes[i]).append(i == retiree ? "" : "\n");
         const Programme programme(texte);
         const PassageMenu menu = integrer_au_menu(programme, "p.bas", "F", "\n");
         EXPECT_EQ(menu.ancre_manquante, ancre) << retiree;

@@ -102,14 +102,14 @@ TEST(Generateur, un_disque_plein_laisse_chaque_fichier_entier) {
     const std::string depart_apres = temoin.dossier.lire("depart.bas");
     // Room for nothing, for the copies and the shorter starting file, for everything.
     const std::pair<rlim_t, bool> cas[] = {{100, false}, {programme.size(), true}};
-    for (const auto& [maximum, depart_change] : cas) {
+    for (const auto& c : cas) {
         Atelier atelier(programme, "#\n");
         atelier.dossier.ecrire("cible.bas", "ancienne");
-        EXPECT_EQ(dans_un_processus([&] { return generer_sur_disque_limite(atelier, maximum); },
+        EXPECT_EQ(dans_un_processus([&] { return generer_sur_disque_limite(atelier, c.first); },
                                     [](pid_t) {}),
                   1);
         EXPECT_EQ(atelier.dossier.lire("cible.bas"), "ancienne");
-        EXPECT_EQ(atelier.dossier.lire("depart.bas"), depart_change ? depart_apres : programme);
+        EXPECT_EQ(atelier.dossier.lire("depart.bas"), c.second ? depart_apres : programme);
         for (const auto& reste : fs::directory_iterator(atelier.dossier.chemin()))
             EXPECT_NE(reste.path().filename().string().front(), '.') << reste.path();
     }
