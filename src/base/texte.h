@@ -3,8 +3,10 @@
 #include "base/nombres.h"
 
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -22,6 +24,7 @@ Encodage encodage_de(std::string_view octets);
 
 /// The bytes of a text file as UTF-8: a UTF-8 byte-order mark is dropped, bytes that are not valid
 /// UTF-8 are read as Windows-1252 (its five unassigned bytes become U+FFFD).
+/// @throws ErreurExecution when the system cannot convert Windows-1252 (encoder likewise)
 std::string en_utf8(std::string octets);
 
 /// UTF-8 to the bytes of `encodage`; a character that Windows-1252 lacks becomes "?".
@@ -31,6 +34,8 @@ std::string encoder(std::string_view texte, Encodage encodage);
 /// (Latin-1, œ, ÿ): "Défaut" is "DÉFAUT".
 std::string majuscules(std::string_view texte);
 std::string minuscules(std::string_view texte);
+/// majuscules in place: the length in bytes never changes.
+void mettre_en_majuscules(std::span<char> texte);
 
 /// Without leading and trailing blanks; a TAB counts as a blank.
 std::string_view rogner(std::string_view texte);
@@ -45,13 +50,15 @@ std::string_view premiers_caracteres(std::string_view texte, std::size_t n);
 /// ends with a line end has no further empty line.
 class Lignes {
 public:
-    explicit Lignes(std::string_view texte) : reste_(texte) {}
+    explicit Lignes(std::string_view texte) : texte_(texte), lf_(texte.find('\n')) {}
 
     /// The next line without its end, or nothing after the last one.
     std::optional<std::string_view> suivante();
 
 private:
-    std::string_view reste_;
+    std::string_view texte_;
+    std::size_t debut_ = 0;
+    std::size_t lf_; ///< the next LF: looked for once, not again for every CR before it
 };
 
 /// Reads blanks, sign, digits, optional decimal part with ".", optional exponent.
@@ -101,7 +108,10 @@ double arrondi_centiemes(double valeur);
 /// Ten characters, left-justified and padded with blanks: the name of an action.
 class Nom10 {
 public:
-    constexpr Nom10() { octets_.fill(' '); }
+    constexpr Nom10() {
+        for (std::size_t i = 0; i < longueur; ++i)
+            octets_[i] = ' ';
+    }
     /// Cut after the tenth character.
     constexpr Nom10(std::string_view nom) : Nom10() {
         for (std::size_t i = 0; i < nom.size() && i < longueur; ++i)
@@ -111,9 +121,16 @@ public:
 
     std::string_view vue() const { return {octets_.data(), longueur}; }
     std::string_view sans_blancs() const { return rogner(vue()); }
-    constexpr bool operator==(const Nom10&) const = default;
+    constexpr bool operator==(const Nom10& autre) const {
+        const auto a = std::bit_cast<Mots>(octets_);
+        const auto b = std::bit_cast<Mots>(autre.octets_);
+        return a == b;
+    }
 
 private:
     static constexpr std::size_t longueur = 10;
-    std::array<char, longueur> octets_{};
+    // Two machine words, zero beyond the tenth character: the interpreter compares names at every
+    // step of every robot.
+    using Mots = std::array<std::uint64_t, 2>;
+    alignas(8) std::array<char, sizeof(Mots)> octets_{};
 };

@@ -1,7 +1,6 @@
-#include "cli/etiquettes.h"
-
-#include "base/fichiers.h"
 #include "codegen/etiquettes.h"
+#include "base/fichiers.h"
+#include "cli/verbes.h"
 
 #include <iostream>
 #include <memory>

@@ -1,14 +1,13 @@
-#include "cli/generer.h"
-
 #include "base/texte.h"
+#include "cli/verbes.h"
 #include "codegen/apercu.h"
 #include "codegen/generateur.h"
+#include "config/dossier.h"
 
 #include <unistd.h>
 
 #include <iostream>
 #include <memory>
-#include <utility>
 
 namespace fs = std::filesystem;
 
@@ -20,7 +19,7 @@ struct ChoixGenerer {
     std::string entree;
     std::string ecraser; ///< "oui", "non", or empty: ask
     bool apercu = false;
-    std::optional<std::string> dossier;
+    std::optional<fs::path> dossier;
 };
 
 // The answer of --ecraser, else the terminal's, else Non.
@@ -50,7 +49,7 @@ void afficher_apercu(const Demande& demande, bool ecraser) {
         std::cerr << "Avertissement : " << avertissement << '\n';
 }
 
-int executer(ChoixGenerer& choix, const ChoisirDossier& choisir_dossier) {
+int executer(ChoixGenerer& choix) {
     Demande& demande = choix.demande;
     demande.depart = choix.depart;
     demande.entree = choix.entree;
@@ -65,7 +64,8 @@ int executer(ChoixGenerer& choix, const ChoisirDossier& choisir_dossier) {
         afficher_apercu(demande, choix.ecraser == "oui");
         return 0;
     }
-    const fs::path sauvegardes = choisir_dossier(choix.dossier) / "Configuration" / "Sauvegardes";
+    const fs::path sauvegardes =
+        dossier_application(choix.dossier) / "Configuration" / "Sauvegardes";
     const Generation generation =
         generer(demande, sauvegardes,
                 [&choix](std::string_view question) { return repondre(choix, question); });
@@ -108,12 +108,10 @@ void declarer_options(CLI::App& verbe, ChoixGenerer& choix) {
 
 } // namespace
 
-void declarer_generer(CLI::App& app, ChoisirDossier choisir_dossier, int& code_de_sortie) {
+void declarer_generer(CLI::App& app, int& code_de_sortie) {
     const auto choix = std::make_shared<ChoixGenerer>();
     CLI::App* verbe = app.add_subcommand(
         "generer", "Génère le code PICBASIC d'un trajet dans le programme de l'équipe");
     declarer_options(*verbe, *choix);
-    verbe->callback([choix, choisir = std::move(choisir_dossier), &code_de_sortie] {
-        code_de_sortie = executer(*choix, choisir);
-    });
+    verbe->callback([choix, &code_de_sortie] { code_de_sortie = executer(*choix); });
 }

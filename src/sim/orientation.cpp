@@ -70,9 +70,9 @@ void vertical(Etat& e) {
     tourner_boites(e, [W](auto& q) {
         const auto ancien = q;
         q.X1 = W - ancien.Y2;
-        q.Y1 = ancien.X2;
+        q.Y1 = ancien.X1;
         q.X2 = W - ancien.Y1;
-        q.Y2 = ancien.X1;
+        q.Y2 = ancien.X2;
     });
     tourner_centres(e, [W](Entier16& x, Entier16& y) {
         const Entier16 ancien_x = x;

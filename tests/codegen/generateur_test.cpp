@@ -4,7 +4,6 @@
 #include "codegen/outils_generation.h"
 
 #include <csignal>
-#include <regex>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -59,24 +58,6 @@ TEST(Generateur, depart_et_cible_peuvent_etre_le_meme_fichier) {
         EXPECT_EQ(lire_octets(generation.sauvegardes.front()), programme);
     }
     EXPECT_TRUE(fs::is_symlink(meme.dossier / "lien.bas"));
-}
-
-TEST(Generateur, les_dix_dernieres_copies_datees_de_chaque_fichier_restent) {
-    Atelier atelier("", "#\n");
-    const fs::path autre = atelier.dossier.ecrire("autre/cible.bas", "autre");
-    sauvegarder_version(autre, atelier.sauvegardes());
-    for (int i = 1; i <= 13; ++i) {
-        atelier.dossier.ecrire("cible.bas", std::to_string(i));
-        const Generation generation = atelier.generer(toujours(true));
-        ASSERT_EQ(generation.sauvegardes.size(), 1U);
-        EXPECT_EQ(lire_octets(generation.sauvegardes.front()), std::to_string(i));
-    }
-    EXPECT_EQ(atelier.copies("cible.bas.").size(), 11U) << "ten, and that of the other folder";
-    EXPECT_TRUE(atelier.copies("depart.bas.").empty()) << "it never changed";
-    const std::string nom = atelier.copies("cible.bas.").front();
-    EXPECT_TRUE(std::regex_match(
-        nom, std::regex(R"(cible\.bas\.\d{4}-\d\d-\d\d_\d\dh\d\dm\d\d\.[0-9a-f]{8}\.\d+)")))
-        << nom;
 }
 
 TEST(Generateur, un_fichier_illisible_ou_un_dossier_absent_ne_change_rien) {

@@ -9,6 +9,8 @@
 /// Writes every call into a list, in order, and answers questions from a queue ("Non" when empty).
 class FaussesFenetres : public Fenetres {
 public:
+    virtual ~FaussesFenetres() = default;
+
     std::vector<std::string> appels;
     std::vector<std::string> messages;
     std::deque<bool> reponses;
@@ -36,7 +38,7 @@ public:
         Mess = mess.texte();
         appels.emplace_back("Mess");
     }
-    void ecrire_Mess(std::string_view texte) override {
+    void ecrire_texte_Mess(std::string_view texte) override {
         Mess = texte;
         noter("Mess", texte);
     }

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "draw/a_vide.h"
+#include "sim/fenetres.h"
+
+#include <ostream>
+
+/// The engine's outlet without a window: messages go to one stream, a line each; the drawing's
+/// arithmetic is done on an empty surface; the timer is a number that a loop reads.
+class FenetresTerminal : public Fenetres {
+public:
+    FenetresTerminal(Etat& etat, std::ostream& erreurs) : e(etat), erreurs_(erreurs) {}
+    virtual ~FenetresTerminal() = default;
+
+    void message(std::string_view texte) override;
+    bool question(std::string_view texte) override;
+    void regler_Timer(Entier16 ms) override { intervalle_ = ms; }
+    void ecrire_Mess(const LigneMess&) override {}
+    void ecrire_texte_Mess(std::string_view) override {}
+    void ecrire_Info(const LigneInfo&) override {}
+    void ecrire_LNom(std::string_view) override {}
+    void ecrire_nbre_carreaux(std::string_view) override {}
+    void Active_Desactive(bool) override {}
+    void apres_actions() override {}
+    void Dessine_Table() override { dessin_.table(e, *this); }
+    void Dessine_Robot() override { dessin_.robots(e, *this); }
+    void montrer_course(bool en_cours) override;
+    void montrer_logo(bool) override {}
+    void fin_du_programme() override { terminee_ = true; }
+
+    /// The simulation clock runs.
+    bool en_marche() const { return intervalle_ > 0 && !terminee_; }
+    /// A major error has asked for the end of the program.
+    bool terminee() const { return terminee_; }
+    int nb_messages() const { return nb_messages_; }
+    /// 0 when no message was shown, 1 when one was, 3 after a major error.
+    int code_de_sortie() const;
+
+protected:
+    Etat& e;
+
+private:
+    std::ostream& erreurs_;
+    DessinAVide dessin_;
+    Entier16 intervalle_;
+    bool terminee_ = false;
+    int nb_messages_ = 0;
+};

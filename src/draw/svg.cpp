@@ -1,0 +1,142 @@
+#include "draw/svg.h"
+
+#include "base/texte.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+// Four decimals of a centimetre are more than any screen shows.
+TexteCourt decimal(double valeur) {
+    return texte_double15(std::round(valeur * 1e4) / 1e4);
+}
+
+std::string hexadecimal(Couleur c) {
+    constexpr std::string_view chiffres = "0123456789abcdef";
+    std::string texte = "#";
+    for (const unsigned octet : {c.rouge, c.vert, c.bleu}) {
+        texte += chiffres[octet >> 4U];
+        texte += chiffres[octet & 15U];
+    }
+    return texte;
+}
+
+std::string echapper(std::string_view texte) {
+    std::string resultat;
+    for (const char c : texte) {
+        if (c == '&')
+            resultat += "&amp;";
+        else if (c == '<')
+            resultat += "&lt;";
+        else if (static_cast<unsigned char>(c) >= 0x20)
+            resultat += c;
+    }
+    return resultat;
+}
+
+} // namespace
+
+void SurfaceSvg::coordonnees(double gauche, double haut, double droite, double bas) {
+    gauche_ = gauche;
+    haut_ = haut;
+    droite_ = droite;
+    bas_ = bas;
+}
+
+void SurfaceSvg::nombre(std::string_view attribut, double valeur) {
+    corps_.append(" ").append(attribut).append("=\"").append(decimal(valeur).vue()).append("\"");
+}
+
+// SVG's y grows downwards: every y changes its sign.
+void SurfaceSvg::rectangle(double x1, double y1, double x2, double y2) {
+    corps_ += "<rect";
+    nombre("x", std::min(x1, x2));
+    nombre("y", -std::max(y1, y2));
+    nombre("width", std::fabs(x2 - x1));
+    nombre("height", std::fabs(y2 - y1));
+}
+
+void SurfaceSvg::contour(Couleur couleur, bool rempli) {
+    corps_ += " fill=\"" + (rempli ? hexadecimal(fond_) : "none") + "\" stroke=\"" +
+              hexadecimal(couleur) + "\"";
+    nombre("stroke-width", std::max(epaisseur_, 1));
+    if (pointille_)
+        corps_ += " stroke-dasharray=\"1 2\"";
+    corps_ += " vector-effect=\"non-scaling-stroke\"/>\n";
+}
+
+void SurfaceSvg::boite_pleine(double x1, double y1, double x2, double y2) {
+    rectangle(x1, y1, x2, y2);
+    corps_ += " fill=\"" + hexadecimal(trait_) + "\"/>\n";
+}
+
+void SurfaceSvg::boite(double x1, double y1, double x2, double y2, Couleur couleur) {
+    rectangle(x1, y1, x2, y2);
+    contour(couleur, plein_);
+}
+
+void SurfaceSvg::ligne(double x1, double y1, double x2, double y2, Couleur couleur) {
+    corps_ += "<line";
+    nombre("x1", x1);
+    nombre("y1", -y1);
+    nombre("x2", x2);
+    nombre("y2", -y2);
+    contour(couleur, false);
+}
+
+void SurfaceSvg::cercle(double x, double y, double rayon, Couleur couleur) {
+    corps_ += "<circle";
+    nombre("cx", x);
+    nombre("cy", -y);
+    nombre("r", std::fabs(rayon));
+    contour(couleur, plein_);
+}
+
+void SurfaceSvg::arc(double x, double y, double rayon, Couleur couleur, double debut, double fin,
+                     double aspect) {
+    const double rx = aspect > 1 ? rayon / aspect : rayon;
+    const double ry = aspect > 1 ? rayon : rayon * aspect;
+    if (ry == 0)
+        return ligne(x - rx, y, x + rx, y, couleur); // a flat ellipse
+    const std::array<double, 7> valeurs{
+        x + rx * std::cos(debut), -(y + ry * std::sin(debut)), rx, ry, fin - debut > Pi ? 1.0 : 0.0,
+        x + rx * std::cos(fin),   -(y + ry * std::sin(fin))};
+    constexpr std::array<std::string_view, 7> devant{"<path d=\"M", " ",   " A", " ",
+                                                     " 0 ",         " 0 ", " "};
+    for (std::size_t i = 0; i < valeurs.size(); ++i)
+        corps_.append(devant[i]).append(decimal(valeurs[i]).vue());
+    corps_ += "\"";
+    contour(couleur, false);
+}
+
+void SurfaceSvg::chemin(std::span<const PointTable> points, Couleur couleur) {
+    corps_ += "<polyline points=\"";
+    for (const PointTable& p : points)
+        corps_.append(decimal(p.x).vue()).append(",").append(decimal(-p.y).vue()).append(" ");
+    corps_ += "\"";
+    contour(couleur, false);
+}
+
+void SurfaceSvg::repere(PointTable centre, double rayon, Couleur couleur, std::string_view bulle) {
+    corps_ += "<circle";
+    nombre("cx", centre.x);
+    nombre("cy", -centre.y);
+    nombre("r", rayon);
+    corps_ +=
+        " fill=\"" + hexadecimal(couleur) + "\"><title>" + echapper(bulle) + "</title></circle>\n";
+}
+
+std::string SurfaceSvg::document(std::string_view titre) const {
+    std::string texte = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                        "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"";
+    texte.append(decimal(largeur_).vue()).append("\" height=\"").append(decimal(hauteur_).vue());
+    texte += "\" viewBox=\"";
+    for (const double valeur : {gauche_, -haut_, droite_ - gauche_})
+        texte.append(decimal(valeur).vue()).append(" ");
+    texte.append(decimal(haut_ - bas_).vue());
+    // The window squeezes the margin into its picture: the two scales differ by a hair.
+    texte += "\" preserveAspectRatio=\"none\">\n<title>" + echapper(titre) + "</title>\n";
+    return texte + corps_ + "</svg>\n";
+}

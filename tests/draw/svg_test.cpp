@@ -1,0 +1,38 @@
+#include "draw/svg.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(SurfaceSvg, retourne_l_axe_des_y_et_garde_les_epaisseurs_en_pixels) {
+    SurfaceSvg s(400, 600);
+    s.coordonnees(-5, 325, 205, -5);
+    s.couleur_trait({0, 128, 0});
+    s.boite_pleine(10, 30, 0, 20);
+    s.couleur_fond({255, 255, 0});
+    s.cercle(1.00004, 2, 3, {255, 0, 0});
+    s.trait_pointille(true);
+    s.ligne(0, 0, 1.5, -2, {0, 0, 0});
+    const std::string svg = s.document("a < b & c");
+    for (
+        const char* attendu :
+        {R"(width="400" height="600" viewBox="-5 -325 210 330" preserveAspectRatio="none")",
+         R"(<rect x="0" y="-30" width="10" height="10" fill="#008000"/>)",
+         R"(<circle cx="1" cy="-2" r="3" fill="#ffff00" stroke="#ff0000" stroke-width="1")",
+         R"(<line x1="0" y1="0" x2="1.5" y2="2" fill="none" stroke="#000000" stroke-width="1" stroke-dasharray="1 2")",
+         "<title>a &lt; b &amp; c</title>"})
+        EXPECT_NE(svg.find(attendu), std::string::npos) << attendu << "\n" << svg;
+}
+
+TEST(SurfaceSvg, un_arc_suit_l_ellipse_de_sa_boite) {
+    SurfaceSvg s(1, 1);
+    s.arc(20, 50, 30, {255, 255, 255}, 0, 6.28, 3); // 20 wide, 60 high
+    EXPECT_NE(s.document("").find(R"(<path d="M30 -50 A10 30 0 1 0 )"), std::string::npos)
+        << s.document("");
+    SurfaceSvg plate(1, 1);
+    plate.arc(5, 5, 5, {255, 255, 255}, 0, 6.28, 0);
+    EXPECT_NE(plate.document("").find(R"(<line x1="0" y1="-5" x2="10" y2="-5")"),
+              std::string::npos);
+}
+
+} // namespace
