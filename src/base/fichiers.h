@@ -28,8 +28,9 @@ void remplacer_fichier(const std::filesystem::path& chemin, std::string_view oct
 std::filesystem::path trouver_fichier(const std::filesystem::path& dossier, std::string_view nom);
 
 /// Keeps the present version of a file before it is replaced: copies it to
-/// `dossier`/<name>.<n>, n one above the highest there, and deletes all but the ten newest of that
-/// name. Does nothing when the file does not exist. @returns the copy's path (empty if none)
+/// `dossier`/<name>.<date>_<time>.<folder>.<n>, where <folder> tells files of the same name in
+/// different folders apart and n is one above the highest there; deletes all but the ten newest of
+/// that file. Does nothing when the file does not exist. @returns the copy's path (empty if none)
 /// @throws ErreurFichier
 std::filesystem::path sauvegarder_version(const std::filesystem::path& chemin,
                                           const std::filesystem::path& dossier);
