@@ -15,6 +15,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr std::string_view pas_ordinaire = "ce n'est pas un fichier ordinaire";
+
 // An open file that closes itself; fermer() reports what close() says.
 class Descripteur {
 public:
@@ -56,13 +58,30 @@ mode_t droits_voulus(const fs::path& chemin) {
     return 0666U & ~masque;
 }
 
-// The file that a rename must replace: the one a symbolic link points to.
+// The file that a rename must replace: the one a symbolic link points to, even if it is missing.
 fs::path cible_reelle(const fs::path& chemin) {
+    constexpr int liens_max = 40;
     std::error_code erreur;
-    if (!fs::is_symlink(chemin, erreur))
-        return chemin;
-    const fs::path reelle = fs::weakly_canonical(chemin, erreur);
-    return erreur ? chemin : reelle;
+    fs::path cible = chemin;
+    for (int i = 0; fs::is_symlink(cible, erreur); ++i) {
+        if (i == liens_max)
+            throw ErreurFichier(chemin, ELOOP);
+        cible = cible.parent_path() / fs::read_symlink(cible, erreur);
+    }
+    return cible;
+}
+
+// A rename would replace a device or a write-protected file without asking.
+void refuser_si_intouchable(const fs::path& chemin, const fs::path& cible) {
+    struct stat etat {};
+    if (::stat(cible.c_str(), &etat) != 0)
+        return;
+    if (S_ISDIR(etat.st_mode))
+        throw ErreurFichier(chemin, EISDIR);
+    if (!S_ISREG(etat.st_mode))
+        throw ErreurFichier(chemin, pas_ordinaire);
+    if (::access(cible.c_str(), W_OK) != 0)
+        throw ErreurFichier(chemin, errno);
 }
 
 void vider_dossier_sur_disque(const fs::path& dossier) {
@@ -93,7 +112,7 @@ std::string lire_octets(const fs::path& chemin, std::size_t maximum) {
     if (S_ISDIR(etat.st_mode))
         throw ErreurFichier(chemin, EISDIR);
     if (!S_ISREG(etat.st_mode))
-        throw ErreurFichier(chemin, "ce n'est pas un fichier ordinaire");
+        throw ErreurFichier(chemin, pas_ordinaire);
     const auto taille = static_cast<std::size_t>(etat.st_size);
     if (taille > maximum)
         throw ErreurFichier(chemin, "le fichier est trop grand");
@@ -115,9 +134,7 @@ std::string lire_octets(const fs::path& chemin, std::size_t maximum) {
 
 void remplacer_fichier(const fs::path& chemin, std::string_view octets) {
     const fs::path cible = cible_reelle(chemin);
-    std::error_code erreur_type;
-    if (fs::is_directory(cible, erreur_type))
-        throw ErreurFichier(chemin, EISDIR);
+    refuser_si_intouchable(chemin, cible);
     std::string modele = (cible.parent_path() / ".tavolmex-XXXXXX").string();
     Descripteur d(::mkstemp(modele.data()));
     if (!d.ouvert())

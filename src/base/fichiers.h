@@ -16,7 +16,8 @@ std::string lire_octets(const std::filesystem::path& chemin, std::size_t maximum
 
 /// Replaces (or creates) a file as a whole: written beside, flushed to the disk, renamed. Whatever
 /// happens, the file is either the old or the new one, and nothing is left beside it; a symbolic
-/// link stays one; an existing file keeps its permissions.
+/// link stays one; an existing file keeps its permissions. A write-protected file, a directory or a
+/// device is refused.
 /// @throws ErreurFichier
 void remplacer_fichier(const std::filesystem::path& chemin, std::string_view octets);
 

@@ -47,20 +47,21 @@ std::size_t longueur_sequence(std::string_view s) {
 // One conversion by the C library; what it cannot convert becomes `remplacement`.
 class Convertisseur {
 public:
-    Convertisseur(const char* vers, const char* depuis) : etat_(iconv_open(vers, depuis)) {}
+    Convertisseur(const char* vers, const char* depuis) : etat_(iconv_open(vers, depuis)) {
+        // iconv_open's own sign of failure is the pointer -1.
+        if (etat_ == reinterpret_cast<iconv_t>(-1)) // NOLINT
+            throw ErreurExecution("ce système ne sait pas convertir un texte Windows-1252");
+    }
     Convertisseur(const Convertisseur&) = delete;
     Convertisseur& operator=(const Convertisseur&) = delete;
-    ~Convertisseur() {
-        if (ouvert())
-            iconv_close(etat_);
-    }
+    ~Convertisseur() { iconv_close(etat_); }
 
     std::string convertir(std::string_view texte, std::string_view remplacement,
                           bool entree_utf8) const {
         std::string entree(texte);
         std::string resultat(texte.size() * 3, '\0'); // a byte gives at most three
         char* source = entree.data();
-        std::size_t reste = ouvert() ? entree.size() : 0;
+        std::size_t reste = entree.size();
         char* sortie = resultat.data();
         std::size_t place = resultat.size();
         while (reste > 0 &&
@@ -78,18 +79,12 @@ public:
     }
 
 private:
-    bool ouvert() const {
-        // iconv_open's own sign of failure is the pointer -1.
-        return etat_ != reinterpret_cast<iconv_t>(-1); // NOLINT
-    }
-
     iconv_t etat_;
 };
 
 // Letters whose case differs beyond ASCII: U+00C0..U+00DE and U+00E0..U+00FE lie in the second
 // byte after C3, less the signs × and ÷; Œ œ are C5 92, C5 93; Ÿ is C5 B8 and ÿ C3 BF.
-std::string changer_casse(std::string_view texte, bool vers_majuscules) {
-    std::string resultat(texte);
+void changer_casse(std::span<char> resultat, bool vers_majuscules) {
     for (std::size_t i = 0; i < resultat.size(); ++i) {
         const auto c = static_cast<unsigned char>(resultat[i]);
         if (vers_majuscules ? (c >= 'a' && c <= 'z') : (c >= 'A' && c <= 'Z')) {
@@ -117,7 +112,6 @@ std::string changer_casse(std::string_view texte, bool vers_majuscules) {
         resultat[i] = static_cast<char>(premier);
         resultat[++i] = static_cast<char>(second);
     }
-    return resultat;
 }
 
 // sign? digits ("." digits)? ([eE] sign? digits)?
@@ -150,6 +144,26 @@ bool a_la_forme_d_un_nombre(std::string_view s) {
     return i == s.size();
 }
 
+// True when |s| < 1, for a text of that form: no number is too large and below 1.
+bool inferieur_a_un(std::string_view s) {
+    const std::size_t e = std::min(s.find_first_of("eE"), s.size());
+    const std::string_view mantisse = s.substr(0, e);
+    const std::size_t point = std::min(mantisse.find('.'), e);
+    const std::size_t premier = mantisse.find_first_of("123456789");
+    if (premier == std::string_view::npos)
+        return true;
+    // The number is 0.ddd x 10^ordre, its first d not 0.
+    auto ordre = static_cast<long>(point) - static_cast<long>(premier) + (premier > point ? 1 : 0);
+    long exposant = 0;
+    std::string_view chiffres = s.substr(std::min(e + 1, s.size()));
+    if (chiffres.starts_with('+'))
+        chiffres.remove_prefix(1);
+    const auto lu = std::from_chars(chiffres.data(), chiffres.data() + chiffres.size(), exposant);
+    if (lu.ec == std::errc::result_out_of_range)
+        return chiffres.starts_with('-');
+    return exposant <= -ordre;
+}
+
 constexpr std::string_view attendu_nombre = "un nombre (séparateur décimal : le point)";
 constexpr std::string_view attendu_entier = "un nombre entier de -32768 à 32767";
 
@@ -163,12 +177,8 @@ bool convertir(std::string_view texte, T& valeur) {
     const auto [fin, erreur] = std::from_chars(s.data(), s.data() + s.size(), valeur);
     if (erreur == std::errc::result_out_of_range) {
         // Too small for the type is zero; too large is refused.
-        const std::size_t e = s.find_first_of("eE");
-        const bool minuscule = e == std::string_view::npos
-                                   ? s.substr(s.front() == '-').front() == '0'
-                                   : s[e + 1] == '-';
         valeur = 0;
-        return minuscule;
+        return inferieur_a_un(s);
     }
     return erreur == std::errc{} && fin == s.data() + s.size();
 }
@@ -222,8 +232,8 @@ Encodage encodage_de(std::string_view octets) {
 }
 
 std::string en_utf8(std::string octets) {
-    if (octets.starts_with(marque_utf8) && est_utf8(octets))
-        return octets.substr(marque_utf8.size());
+    if (octets.starts_with(marque_utf8))
+        octets.erase(0, marque_utf8.size());
     if (est_utf8(octets))
         return octets;
     return Convertisseur("UTF-8", "WINDOWS-1252").convertir(octets, "\xEF\xBF\xBD", false);
@@ -236,10 +246,17 @@ std::string encoder(std::string_view texte, Encodage encodage) {
 }
 
 std::string majuscules(std::string_view texte) {
-    return changer_casse(texte, true);
+    std::string resultat(texte);
+    changer_casse(resultat, true);
+    return resultat;
 }
 std::string minuscules(std::string_view texte) {
-    return changer_casse(texte, false);
+    std::string resultat(texte);
+    changer_casse(resultat, false);
+    return resultat;
+}
+void mettre_en_majuscules(std::span<char> texte) {
+    changer_casse(texte, true);
 }
 
 std::string_view rogner(std::string_view texte) {
@@ -266,15 +283,21 @@ std::string_view premiers_caracteres(std::string_view texte, std::size_t n) {
 }
 
 std::optional<std::string_view> Lignes::suivante() {
-    if (reste_.empty())
+    if (debut_ >= texte_.size())
         return std::nullopt;
-    const std::size_t fin = reste_.find_first_of("\r\n");
-    const std::string_view ligne = reste_.substr(0, fin);
-    if (fin == std::string_view::npos)
-        reste_ = {};
-    else
-        reste_.remove_prefix(fin + (reste_.substr(fin).starts_with(RetourLigne) ? 2 : 1));
-    return ligne;
+    if (lf_ < debut_)
+        lf_ = texte_.find('\n', debut_);
+    const std::size_t fin = std::min(lf_, texte_.size());
+    const std::string_view jusqu_au_lf = texte_.substr(debut_, fin - debut_);
+    const std::size_t cr = jusqu_au_lf.find('\r');
+    if (cr == std::string_view::npos) {
+        debut_ = fin + 1;
+        return jusqu_au_lf;
+    }
+    debut_ += cr + 1;
+    if (debut_ == lf_)
+        ++debut_;
+    return jusqu_au_lf.substr(0, cr);
 }
 
 double lire_nombre(std::string_view texte) {
@@ -285,6 +308,12 @@ double lire_nombre(std::string_view texte) {
 }
 
 Entier16 lire_entier16(std::string_view texte) {
+    // Nearly every field: a plain whole number.
+    const std::string_view s = rogner(texte);
+    int entier = 0;
+    const auto [fin, erreur] = std::from_chars(s.data(), s.data() + s.size(), entier);
+    if (erreur == std::errc{} && fin == s.data() + s.size() && std::in_range<std::int16_t>(entier))
+        return entier;
     double valeur = 0;
     if (!convertir(texte, valeur))
         throw ErreurConversion(texte, attendu_entier);

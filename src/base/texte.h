@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,7 @@ Encodage encodage_de(std::string_view octets);
 
 /// The bytes of a text file as UTF-8: a UTF-8 byte-order mark is dropped, bytes that are not valid
 /// UTF-8 are read as Windows-1252 (its five unassigned bytes become U+FFFD).
+/// @throws ErreurExecution when the system cannot convert Windows-1252 (encoder likewise)
 std::string en_utf8(std::string octets);
 
 /// UTF-8 to the bytes of `encodage`; a character that Windows-1252 lacks becomes "?".
@@ -31,6 +33,8 @@ std::string encoder(std::string_view texte, Encodage encodage);
 /// (Latin-1, œ, ÿ): "Défaut" is "DÉFAUT".
 std::string majuscules(std::string_view texte);
 std::string minuscules(std::string_view texte);
+/// majuscules in place: the length in bytes never changes.
+void mettre_en_majuscules(std::span<char> texte);
 
 /// Without leading and trailing blanks; a TAB counts as a blank.
 std::string_view rogner(std::string_view texte);
@@ -45,13 +49,15 @@ std::string_view premiers_caracteres(std::string_view texte, std::size_t n);
 /// ends with a line end has no further empty line.
 class Lignes {
 public:
-    explicit Lignes(std::string_view texte) : reste_(texte) {}
+    explicit Lignes(std::string_view texte) : texte_(texte), lf_(texte.find('\n')) {}
 
     /// The next line without its end, or nothing after the last one.
     std::optional<std::string_view> suivante();
 
 private:
-    std::string_view reste_;
+    std::string_view texte_;
+    std::size_t debut_ = 0;
+    std::size_t lf_; ///< the next LF: looked for once, not again for every CR before it
 };
 
 /// Reads blanks, sign, digits, optional decimal part with ".", optional exponent.

@@ -4,6 +4,7 @@
 #include "sim/fenetres.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,8 @@ public:
     std::filesystem::path chemin_table() const;
     std::filesystem::path chemin_robot(int n) const;
     std::filesystem::path chemin_trajet(int n) const;
+    /// The file whose name is the project's name and `suite`: " Table.ini".
+    std::filesystem::path chemin(std::string_view suite) const;
 
     /// Creates whichever of the present project's 20 files are missing, with the default content.
     /// Errors are ignored: the file's reader reports it.
@@ -47,8 +50,19 @@ public:
     /// ignored. The caller asks only when the options were modified.
     void SaveGeneral(std::string_view nom, const ReglagesGeneraux& reglages);
 
+    /// From now on `nom` takes the place of the project name that LoadGeneral reads.
+    void imposer_projet(std::string nom);
+    /// Reads every file of the project as the start-up does, into the Etat, but installs and writes
+    /// nothing. What is wrong comes out as messages.
+    void verifier();
+
 private:
+    template <typename Lecteur>
+    bool lire(const std::filesystem::path& chemin, const Entier16& NoLigne, Lecteur lecteur);
+
     Etat& e;
     Fenetres& f;
     std::filesystem::path dossier_;
+    std::optional<std::string> projet_impose_;
+    bool installation_ = true; ///< LoadGeneral may create files
 };

@@ -1,0 +1,66 @@
+#include "cli/choix.h"
+#include "cli/verbes.h"
+#include "config/dossier.h"
+
+#include <iostream>
+#include <utility>
+#include <vector>
+
+namespace {
+
+// Runs `action` on a project of its own, then gives the exit code.
+template <typename Action>
+int avec_projet(const ChoixDeLigne& choix, std::filesystem::path dossier, Action action) {
+    const auto etat = std::make_unique<Etat>();
+    FenetresTerminal fenetres(*etat, std::cerr);
+    Projet projet(*etat, fenetres, std::move(dossier));
+    if (choix.projet)
+        projet.imposer_projet(*choix.projet);
+    action(projet, fenetres);
+    return fenetres.code_de_sortie();
+}
+
+// The files of the default project and, if another one is named, its own. The window leaves a file
+// that cannot be written to its reader; here the user asked for it, and is told.
+void installer(Projet& projet, Fenetres& fenetres) {
+    projet.Installe();
+    projet.LoadGeneral();
+    std::vector<std::filesystem::path> attendus{projet.chemin_table()};
+    for (int n = 1; n <= robots_des_fichiers; ++n) {
+        attendus.push_back(projet.chemin_robot(n));
+        attendus.push_back(projet.chemin_trajet(n));
+    }
+    for (const auto& chemin : attendus) {
+        std::error_code erreur;
+        if (!std::filesystem::exists(chemin, erreur))
+            fenetres.message("Le fichier " + chemin.string() + " n'a pas pu être écrit");
+    }
+}
+
+CLI::App* verbe_de_projet(CLI::App& app, const char* nom, const char* description,
+                          ChoixDeLigne& choix) {
+    CLI::App* verbe = app.add_subcommand(nom, description);
+    ajouter_dossier(*verbe, choix);
+    ajouter_projet(*verbe, choix);
+    return verbe;
+}
+
+} // namespace
+
+void declarer_installer(CLI::App& app, int& code_de_sortie) {
+    const auto choix = std::make_shared<ChoixDeLigne>();
+    verbe_de_projet(app, "installer", "Écrit les fichiers par défaut qui manquent", *choix)
+        ->callback([choix, &code_de_sortie] {
+            code_de_sortie = avec_projet(*choix, ouvrir_dossier(choix->dossier), installer);
+        });
+}
+
+void declarer_verifier(CLI::App& app, int& code_de_sortie) {
+    const auto choix = std::make_shared<ChoixDeLigne>();
+    verbe_de_projet(app, "verifier", "Lit tous les fichiers du projet sans rien changer", *choix)
+        ->callback([choix, &code_de_sortie] {
+            // Changes nothing: the application directory is not even made.
+            code_de_sortie = avec_projet(*choix, dossier_application(choix->dossier),
+                                         [](Projet& projet, Fenetres&) { projet.verifier(); });
+        });
+}

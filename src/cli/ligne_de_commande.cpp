@@ -1,0 +1,44 @@
+#include "cli/ligne_de_commande.h"
+
+#include "base/erreurs.h"
+#include "cli/francais.h"
+#include "cli/verbes.h"
+
+#include <iostream>
+
+namespace {
+
+constexpr int code_usage = 2;
+
+int executer(int argc, char** argv) {
+    CLI::App app("Tavolmex : simulateur de robot de concours, en ligne de commande",
+                 "tavolmex-cli");
+    parler_francais(app);
+    app.set_version_flag("--version", "tavolmex-cli " TAVOLMEX_VERSION, "Affiche la version");
+    app.require_subcommand(1);
+    int code = 0;
+    for (const auto declarer :
+         {declarer_installer, declarer_verifier, declarer_simuler, declarer_dessiner})
+        declarer(app, code);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& demande) {
+        return app.exit(demande, std::cout, std::cerr);
+    } catch (const CLI::ParseError& erreur) {
+        std::cerr << "tavolmex-cli : " << en_francais(erreur) << "\n"
+                  << "Essayez « tavolmex-cli --help ».\n";
+        return code_usage;
+    }
+    return code;
+}
+
+} // namespace
+
+int executer_ligne_de_commande(int argc, char** argv) {
+    try {
+        return executer(argc, argv);
+    } catch (const std::exception& erreur) {
+        std::cerr << "Erreur d'exécution : " << erreur.what() << "\n";
+        return 1;
+    }
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+
+/// A progress bar on standard error, shown only on a terminal and only for what takes longer than
+/// half a second.
+class Progres {
+public:
+    Progres(std::string titre, std::int64_t total);
+    Progres(const Progres&) = delete;
+    Progres& operator=(const Progres&) = delete;
+    ~Progres();
+
+    void avancer(std::int64_t fait) {
+        if (actif_ && ++appels_ % 256 == 0)
+            montrer(fait);
+    }
+
+private:
+    void montrer(std::int64_t fait);
+
+    std::string titre_;
+    std::int64_t total_;
+    bool actif_;
+    bool visible_ = false;
+    unsigned appels_ = 0;
+    std::chrono::steady_clock::time_point debut_ = std::chrono::steady_clock::now();
+    std::int64_t montre_ = -1;
+};

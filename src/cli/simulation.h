@@ -1,0 +1,57 @@
+#pragma once
+
+#include "cli/fenetres_terminal.h"
+#include "config/projet.h"
+#include "sim/etat.h"
+#include "sim/moteur.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+/// What the command line puts in the place of the settings read.
+struct ChoixDeLigne {
+    std::optional<std::filesystem::path> dossier; ///< application directory
+    std::optional<std::string> projet;
+    std::optional<int> robots; ///< 1..9
+    bool allege = false;
+    bool horizontale = false;
+};
+
+/// The application directory, made the process's current directory. @throws ErreurFichier
+std::filesystem::path ouvrir_dossier(const std::optional<std::filesystem::path>& demande);
+
+/// The sizes that the drawing on the command line takes for a screen: 1280 x 720 pixels.
+struct Image {
+    double largeur = 0; ///< pixels
+    double hauteur = 0;
+};
+
+/// A whole simulator without a window: state, outlet, engine and project, started like the window.
+class Simulation {
+public:
+    /// Reads the project and applies the settings. Messages go through `fenetres`, which works on
+    /// `etat`.
+    Simulation(Etat& etat, FenetresTerminal& fenetres, const ChoixDeLigne& choix);
+
+    /// Plays ticks until the run ends by itself or TempsEcoule reaches `duree` (hundredths of a
+    /// second).
+    void jouer(std::int32_t duree);
+
+    Etat& etat() { return e; }
+    Moteur& moteur() { return moteur_; }
+    Projet& projet() { return projet_; }
+    Image image() const { return image_; }
+
+private:
+    void demarrer(const ChoixDeLigne& choix);
+    void appliquer_options(const ChoixDeLigne& choix);
+    void disposer();
+
+    Etat& e;
+    FenetresTerminal& f;
+    Moteur moteur_;
+    Projet projet_;
+    Image image_;
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "sim/etat.h"
+
+#include <functional>
+#include <string_view>
+
+/// Empties the table's records and its extent. The slots keep their contents beyond the counts,
+/// PointX and PointY keep their values.
+void vider_table(Etat& e);
+
+/// Adds a table file's records to an emptied table.
+/// @param texte    the file's content, UTF-8
+/// @param nommer   receives the caption of each "M" record, its commas as CR LF
+/// @param NoLigne  counts the lines: the faulty one after an exception
+/// @throws ErreurExecution on the first faulty line (the records before it stay), on a record
+/// beyond
+///         its table's capacity (the count stays at the capacity), and at the end when the extent
+///         is empty
+void lire_table(std::string_view texte, Etat& e,
+                const std::function<void(std::string_view)>& nommer, Entier16& NoLigne);

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "base/erreurs.h"
+#include "base/nombres.h"
+#include "base/texte.h"
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+// The line syntax that all configuration files share: "#" starts a comment, fields are separated by
+// commas, the first one is the key. Nothing here copies a line or allocates.
+
+/// The text before the first "#".
+std::string_view sans_commentaire(std::string_view ligne);
+
+/// Hands every line that counts, without its comment, to `lire`. Stops at the first exception.
+/// @param NoLigne  grows by one for every line, counted or not, before the line is looked at: after
+///                 an exception it is the number of the faulty line
+/// @param compte   tells whether a line counts; the others are skipped
+/// @throws Debordement beyond 32767 lines, and whatever `lire` throws
+template <typename Lire>
+void pour_chaque_ligne(std::string_view texte, Entier16& NoLigne, Lire lire,
+                       bool (*compte)(std::string_view) = contient_capitale_ou_chiffre) {
+    Lignes lignes(texte);
+    while (const auto ligne = lignes.suivante()) {
+        NoLigne = NoLigne + 1;
+        const std::string_view utile = sans_commentaire(*ligne);
+        if (compte(utile))
+            lire(utile);
+    }
+}
+
+/// A line's key, trimmed and upper-cased. A key longer than any known one reads as "".
+class Cle {
+public:
+    explicit Cle(std::string_view texte);
+    std::string_view vue() const { return {octets_.data(), longueur_}; }
+
+private:
+    std::array<char, 16> octets_; // only the first longueur_ bytes are written
+    std::size_t longueur_ = 0;
+};
+
+/// Walks over the fields of one line, from the key on.
+class Champs {
+public:
+    explicit Champs(std::string_view ligne) : ligne_(ligne) {}
+
+    /// The text up to the next comma. @throws ErreurLecture when there is none
+    std::string_view suivant();
+    /// Everything after the last comma passed.
+    std::string_view reste() const { return ligne_.substr(debut_); }
+    /// Position of the last comma passed, the line's first character being 0; -1 before the first.
+    std::ptrdiff_t virgule() const { return static_cast<std::ptrdiff_t>(debut_) - 1; }
+
+    Cle cle() { return Cle(suivant()); }
+    Entier16 entier() { return lire_entier16(suivant()); }
+    Entier16 dernier_entier() const { return lire_entier16(reste()); }
+
+private:
+    std::string_view ligne_;
+    std::size_t debut_ = 0;
+};
+
+/// A reader met a key that it does not know. @throws ErreurLecture
+[[noreturn]] void refuser_cle(std::string_view cle);

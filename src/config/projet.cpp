@@ -1,0 +1,175 @@
+#include "config/projet.h"
+
+#include "base/fichiers.h"
+#include "config/defauts.h"
+#include "config/ecriture.h"
+#include "config/lecteur_general.h"
+#include "config/lecteur_robot.h"
+#include "config/lecteur_table.h"
+#include "config/lecteur_trajet.h"
+#include "sim/secours.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A reader accepts 32767 lines at most: this leaves more than a hundred characters for each.
+constexpr std::size_t taille_lisible = std::size_t{4} << 20;
+
+/// Writes a default file unless something of that name is there. A name that would lead out of the
+/// configuration directory is left alone, as one that cannot be written.
+template <typename Contenu>
+void creer_si_absent(const fs::path& chemin, Contenu contenu) {
+    std::error_code erreur;
+    if (fs::symlink_status(chemin, erreur).type() != fs::file_type::not_found)
+        return;
+    const std::string octets = contenu();
+    if (std::find(chemin.begin(), chemin.end(), "..") != chemin.end())
+        return;
+    try {
+        remplacer_fichier(chemin, octets);
+    } catch (const ErreurFichier&) { // NOLINT(bugprone-empty-catch)
+        // The file stays missing; its reader says so.
+    }
+}
+
+} // namespace
+
+Projet::Projet(Etat& etat, Fenetres& fenetres, fs::path dossier_application)
+    : e(etat), f(fenetres), dossier_(std::move(dossier_application)) {}
+
+const fs::path& Projet::dossier_application() const {
+    return dossier_;
+}
+fs::path Projet::dossier_configuration() const {
+    return dossier_ / "Configuration";
+}
+fs::path Projet::chemin_general() const {
+    return trouver_fichier(dossier_configuration(), "Tavolmex.ini");
+}
+fs::path Projet::chemin(std::string_view suite) const {
+    // A name that begins with a separator stays below the directory.
+    const fs::path nom = fs::path(e.NomProjet + std::string(suite)).relative_path();
+    return trouver_fichier(dossier_configuration(), nom.native());
+}
+fs::path Projet::chemin_table() const {
+    return chemin(" Table.ini");
+}
+fs::path Projet::chemin_robot(int n) const {
+    return chemin(" Robot" + std::to_string(n) + ".ini");
+}
+fs::path Projet::chemin_trajet(int n) const {
+    return chemin(" Trajet" + std::to_string(n) + ".ini");
+}
+
+void Projet::imposer_projet(std::string nom) {
+    projet_impose_ = std::move(nom);
+}
+
+void Projet::Installe() {
+    std::error_code ignoree;
+    // Deliberate: created where the process stands, while the files go below the application
+    // directory.
+    fs::create_directory("Configuration", ignoree);
+    creer_si_absent(chemin_general(), general_par_defaut);
+    creer_si_absent(chemin_table(), [this] {
+        Init_Table_Old(e);
+        return table_par_defaut();
+    });
+    for (int n = 1; n <= robots_des_fichiers; ++n) {
+        creer_si_absent(chemin_robot(n), [&] { return robot_par_defaut(e.NomProjet, n); });
+        creer_si_absent(chemin_trajet(n), [&] {
+            Init_Jeu_Old(e);
+            return trajet_par_defaut(e.NomProjet, n);
+        });
+    }
+}
+
+template <typename Lecteur>
+bool Projet::lire(const fs::path& chemin, const Entier16& NoLigne, Lecteur lecteur) {
+    try {
+        const std::string texte = en_utf8(lire_octets(chemin, taille_lisible));
+        lecteur(std::string_view(texte));
+        return true;
+    } catch (const ErreurExecution&) { // NOLINT(bugprone-empty-catch)
+        // Whatever happened, the message names the file and the line.
+    }
+    f.message("Erreur lors de la lecture du fichier " + chemin.string() + " Ligne " +
+              std::to_string(NoLigne));
+    return false;
+}
+
+void Projet::LoadGeneral() {
+    const std::string ancien = std::exchange(e.NomProjet, "Defaut");
+    Entier16 NoLigne;
+    lire(chemin_general(), NoLigne,
+         [&](std::string_view texte) { lire_general(texte, e, NoLigne); });
+    if (projet_impose_)
+        e.NomProjet = *projet_impose_;
+    if (e.NomProjet != ancien && installation_)
+        Installe();
+}
+
+void Projet::LoadTable() {
+    Entier16 NoLigne;
+    vider_table(e);
+    f.ecrire_LNom("");
+    const auto nommer = [this](std::string_view nom) { f.ecrire_LNom(nom); };
+    if (!lire(chemin_table(), NoLigne,
+              [&](std::string_view texte) { lire_table(texte, e, nommer, NoLigne); }))
+        Init_Table_Old(e);
+}
+
+void Projet::LoadRobot() {
+    LecteurRobot lecteur(e);
+    for (int n = 1; n <= robots_des_fichiers; ++n) {
+        Entier16 NoLigne;
+        if (!lire(chemin_robot(n), NoLigne,
+                  [&](std::string_view texte) { lecteur.lire(texte, n, NoLigne); }))
+            return Init_Robot_Old(e, n);
+    }
+}
+
+void Projet::LoadTrajet() {
+    LecteurTrajet lecteur(e);
+    Entier16 NoLigne; // deliberately counts over all nine files
+    for (int n = 1; n <= robots_des_fichiers; ++n) {
+        if (!lire(chemin_trajet(n), NoLigne,
+                  [&](std::string_view texte) { lecteur.lire(texte, n, NoLigne); }))
+            return Init_Jeu_Old(e);
+    }
+}
+
+void Projet::Init_Robot() {
+    LoadRobot();
+    Init_Jeu_Old(e);
+}
+
+void Projet::Init_Jeu() {
+    LoadTrajet();
+    for (int i = 1; i <= robots_des_fichiers; ++i) {
+        e.CapRobot(i) = e.CapInit(i);
+        e.XRobot(i) = e.XInit(i);
+        e.YRobot(i) = e.YInit(i);
+    }
+}
+
+void Projet::verifier() {
+    installation_ = false;
+    LoadGeneral();
+    LoadTable();
+    Init_Robot();
+    Init_Jeu();
+    installation_ = true;
+}
+
+void Projet::SaveGeneral(std::string_view nom, const ReglagesGeneraux& reglages) {
+    try {
+        remplacer_fichier(chemin_general(), general_en_texte(nom, reglages));
+    } catch (const ErreurFichier&) { // NOLINT(bugprone-empty-catch)
+        // The settings of the last successful writing stay.
+    }
+}
