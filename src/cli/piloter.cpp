@@ -71,8 +71,13 @@ public:
           fenetres_(*etat_, options.sauver),
           simulation_(*etat_, fenetres_, options.choix),
           reprise_(*etat_, simulation_.projet().dossier_configuration()),
-          console_(*etat_, fenetres_, simulation_.moteur(), reprise_a_tenir()) {
+          tient_la_reprise_(!std::filesystem::exists(reprise_.chemin())),
+          console_(*etat_, fenetres_, simulation_.moteur(),
+                   tient_la_reprise_ ? &reprise_ : nullptr) {
         fenetres_.suivre(console_);
+        if (!tient_la_reprise_)
+            std::cerr << "Un trajet enregistré attend dans " << reprise_.chemin().string()
+                      << " : la fenêtre le proposera." << std::endl;
     }
 
     int jouer() {
@@ -80,20 +85,12 @@ public:
         if (code == code_commande)
             return code;
         const int commandes = fenetres_.terminee() ? 0 : lire_commandes();
-        finir();
-        return commandes != 0 ? commandes : fenetres_.code_de_sortie();
+        // The saving shows a path, which is no error.
+        const int deroulement = commandes != 0 ? commandes : fenetres_.code_de_sortie();
+        return finir() || deroulement != 0 ? deroulement : 1;
     }
 
 private:
-    // A recording left by the window is its business: it is neither taken up nor replaced here.
-    Reprise* reprise_a_tenir() {
-        if (!std::filesystem::exists(reprise_.chemin()))
-            return &reprise_;
-        std::cerr << "Un trajet enregistré attend dans " << reprise_.chemin().string()
-                  << " : la fenêtre le proposera." << std::endl;
-        return nullptr;
-    }
-
     int commencer() {
         Etat& e = *etat_;
         e.utiliDamier = options_.damier;
@@ -160,12 +157,21 @@ private:
                std::string(format_0(etat_->CapRobot(i))) + "°  " + texte_duree(etat_->TempsEcoule);
     }
 
-    void finir() {
+    // @returns false when something could not be saved
+    bool finir() {
         if (console_.phase() != Console::Phase::arret)
             console_.Command9_Click({});
-        const BilanSauvegarde bilan = reprise_.sauver(fenetres_);
+        const BilanSauvegarde bilan = sauver();
         if (!bilan.complete())
             fenetres_.message(bilan.message());
+        return bilan.complete();
+    }
+
+    BilanSauvegarde sauver() {
+        if (tient_la_reprise_)
+            return reprise_.sauver(fenetres_);
+        const std::filesystem::path dossier = simulation_.projet().dossier_configuration();
+        return {SauvRobot(*etat_, fenetres_, dossier), {}, "un autre trajet attend déjà"};
     }
 
     OptionsPiloter options_;
@@ -173,6 +179,8 @@ private:
     FenetresPiloter fenetres_;
     Simulation simulation_;
     Reprise reprise_;
+    // A recording left by the window is its business: neither taken up nor replaced here.
+    bool tient_la_reprise_;
     Console console_;
 };
 
