@@ -15,3 +15,7 @@ void ajouter_projet(CLI::App& verbe, ChoixDeLigne& choix) {
 void ajouter_horizontale(CLI::App& verbe, ChoixDeLigne& choix) {
     verbe.add_flag("--horizontale", choix.horizontale, "Table tournée d'un quart de tour");
 }
+
+CLI::Validator entier_entre(int minimum, int maximum) {
+    return CLI::Range(minimum, maximum).description("");
+}

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <iostream>
+#include <limits>
 #include <vector>
 
 namespace {
@@ -99,7 +100,7 @@ void declarer_dessiner(CLI::App& app, int& code_de_sortie) {
     ajouter_projet(*verbe, options->choix);
     ajouter_horizontale(*verbe, options->choix);
     verbe->add_option("--temps", options->temps, "Moment du match, en centièmes de seconde")
-        ->check(CLI::NonNegativeNumber)
+        ->check(entier_entre(0, std::numeric_limits<std::int32_t>::max()))
         ->type_name("CENTIEMES");
     verbe->add_flag("--trace", options->trace,
                     "Ajoute le chemin des robots, un repère par seconde");

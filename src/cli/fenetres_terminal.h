@@ -16,7 +16,7 @@ public:
     bool question(std::string_view texte) override;
     void regler_Timer(Entier16 ms) override { intervalle_ = ms; }
     void ecrire_Mess(const LigneMess&) override {}
-    void ecrire_Mess(std::string_view) override {}
+    void ecrire_texte_Mess(std::string_view) override {}
     void ecrire_Info(const LigneInfo&) override {}
     void ecrire_LNom(std::string_view) override {}
     void ecrire_nbre_carreaux(std::string_view) override {}

@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// French headings in the help of a command and of its verbs, declared before or after.
+/// French headings in the help of a command and of its verbs, declared before.
 void parler_francais(CLI::App& app);
 
 /// What the argument parser complains of, in French.

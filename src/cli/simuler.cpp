@@ -63,12 +63,12 @@ void declarer_simuler(CLI::App& app, int& code_de_sortie) {
     ajouter_dossier(*verbe, options->choix);
     ajouter_projet(*verbe, options->choix);
     verbe->add_option("--robots", options->choix.robots, "Nombre de robots")
-        ->check(CLI::Range(1, robots_des_fichiers))
+        ->check(entier_entre(1, robots_des_fichiers))
         ->type_name("N");
     verbe->add_flag("--allege", options->choix.allege, "Traitement allégé : pas de 5 centièmes");
     ajouter_horizontale(*verbe, options->choix);
     verbe->add_option("--duree", options->duree, "Durée simulée, en centièmes de seconde")
-        ->check(CLI::NonNegativeNumber)
+        ->check(entier_entre(0, std::numeric_limits<std::int32_t>::max()))
         ->type_name("CENTIEMES");
     verbe->add_option("--trace", options->trace, "Écrit les positions à chaque pas")
         ->type_name("F.csv");

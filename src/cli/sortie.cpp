@@ -7,7 +7,9 @@
 #include <iostream>
 
 std::filesystem::path place_demandee(const std::string& chemin) {
-    return chemin.empty() || chemin == "-" ? chemin : std::filesystem::absolute(chemin);
+    if (chemin.empty() || chemin == "-")
+        return chemin;
+    return std::filesystem::absolute(chemin);
 }
 
 void ecrire_resultat(const std::filesystem::path& chemin, std::string_view octets) {

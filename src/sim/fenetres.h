@@ -20,7 +20,7 @@ public:
     virtual void ecrire_Mess(const LigneMess& mess) = 0;
     virtual void ecrire_Info(const LigneInfo& info) = 0;
     /// The status label as plain text: the question of a path's saving.
-    virtual void ecrire_Mess(std::string_view texte) = 0;
+    virtual void ecrire_texte_Mess(std::string_view texte) = 0;
     /// The project's banner, lines separated by CR LF.
     virtual void ecrire_LNom(std::string_view texte) = 0;
     /// The options window's tile count.

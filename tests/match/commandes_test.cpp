@@ -32,10 +32,10 @@ TEST(Commandes, une_ligne_mal_comprise_est_dite_en_francais_avec_le_code_2) {
     const DossierTemporaire d;
     const std::pair<std::vector<std::string>, const char*> cas[] = {
         {{}, "il manque la commande"},
-        {{"danser"}, "argument inconnu : danser"},
+        {{"danser"}, "commande inconnue : danser"},
         {{"simuler", "--vite"}, "argument inconnu : --vite"},
-        {{"simuler", "--robots", "10"}, "--robots : valeur refusée"},
-        {{"simuler", "--duree", "abc"}, "valeur illisible"},
+        {{"simuler", "--robots", "10"}, "--robots : « 10 » n'est pas un nombre de 1 à 9"},
+        {{"simuler", "--duree", "abc"}, "« abc » n'est pas un nombre"},
         {{"dessiner"}, "il manque --sortie"},
     };
     for (const auto& [arguments, message] : cas) {

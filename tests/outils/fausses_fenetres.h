@@ -38,7 +38,7 @@ public:
         Mess = mess.texte();
         appels.emplace_back("Mess");
     }
-    void ecrire_Mess(std::string_view texte) override {
+    void ecrire_texte_Mess(std::string_view texte) override {
         Mess = texte;
         noter("Mess", texte);
     }
