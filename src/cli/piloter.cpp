@@ -29,7 +29,7 @@ public:
     bool interactif() const { return ::isatty(STDIN_FILENO) != 0; }
 
     bool question(std::string_view texte) override {
-        std::cerr << texte << std::endl;
+        FenetresTerminal::message(texte);
         if (!reponse_.empty() || !interactif())
             return reponse_ == "oui";
         std::string reponse;
@@ -140,8 +140,8 @@ private:
         try {
             console_.Command4_Click(commande->legende, commande->Text1, commande->Text4);
         } catch (const ErreurExecution& erreur) {
-            fenetres_.message("Ligne " + std::to_string(numero) +
-                              " : Erreur d'exécution : " + erreur.what());
+            fenetres_.message("Erreur d'exécution : ligne " + std::to_string(numero) + ", " +
+                              erreur.what());
         }
         laisser_tourner();
         if (etat_->logo_visible && !fenetres_.terminee())

@@ -74,7 +74,7 @@ bool demander(Etat& e, Fenetres& f, int i, const fs::path& chemin) {
     texte += "Doit-on le sauvegarder ?";
     texte += RetourLigne;
     texte += "( Fichier : " + chemin.string();
-    f.ecrire_Mess(texte);
+    f.ecrire_texte_Mess(texte);
     const bool oui = f.question(texte);
     e.TrajetModifie(i) = false;
     return oui;
