@@ -82,6 +82,7 @@ void BoucleMinimale::jouer() {
     }
     incidence_ = 0;
     carreaux_ = 0;
+    prediction_ = 0;
     for (int temps = 0; temps <= 9000;) {
         temps += pas_temps_;
         for (Robot& r : robots_)
@@ -242,9 +243,43 @@ void BoucleMinimale::predire(const Robot& r) {
     case Code::gauche:
         return marcher(xd, yd, f32(xd + p * std::cos(rad(incidence_))),
                        f32(yd + p * std::sin(rad(incidence_))));
+    case Code::avdr:
+    case Code::arga:
+        return predire_arc(r, 90);
+    case Code::avga:
+    case Code::ardr:
+        return predire_arc(r, -90);
     default:
         return;
     }
+}
+
+void BoucleMinimale::predire_arc(const Robot& r, int cote) {
+    if (!avec_arcs)
+        return;
+    const float xd = robots_[0].xextr;
+    const float yd = robots_[0].yextr;
+    const int rayon = r.action.p2;
+    const double a1 = rad(cote + double{r.cap});
+    const double a2 = rad(r.action.p1 + double{r.cap} + cote);
+    marcher_si_fini(xd, yd, f32(xd - rayon * std::cos(a1) + rayon * std::cos(a2)),
+                    f32(yd - rayon * std::sin(a1) + rayon * std::sin(a2)));
+}
+
+void BoucleMinimale::marcher_si_fini(float xd, float yd, float xf, float yf) {
+    if (prediction_ == finis_.size()) {
+        int k = 0;
+        float x = xd;
+        float y = yd;
+        while (k <= 32767 && (x < xf || y < yf)) {
+            ++k;
+            x = f32(xd + k * std::cos(rad(incidence_)));
+            y = f32(yd + k * std::sin(rad(incidence_)));
+        }
+        finis_.push_back(k <= 32767);
+    }
+    if (finis_[prediction_++])
+        marcher(xd, yd, xf, yf);
 }
 
 void BoucleMinimale::marcher(float xd, float yd, float xf, float yf) {

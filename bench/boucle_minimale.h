@@ -19,6 +19,10 @@ public:
     float y(int i) const { return robots_[static_cast<std::size_t>(i - 1)].y; }
     int carreaux() const { return carreaux_; }
 
+    /// Predicts the arcs' tiles too. The walks that never end are noted by the first match, which
+    /// walks them to their limit, and skipped by the next ones.
+    bool avec_arcs = false;
+
 private:
     enum class Code : std::uint8_t {
         fin,
@@ -58,10 +62,14 @@ private:
     void chercher(Robot& r, bool a_droite);
     void predire(const Robot& r);
     void marcher(float xd, float yd, float xf, float yf);
+    void predire_arc(const Robot& r, int cote);
+    void marcher_si_fini(float xd, float yd, float xf, float yf);
 
     std::vector<Robot> robots_;
     PointBalise point_x_, point_y_;
     int pas_temps_;
     float incidence_ = 0;
     int carreaux_ = 0;
+    std::vector<bool> finis_;
+    std::size_t prediction_ = 0;
 };

@@ -88,6 +88,8 @@ template <typename F>
 void exiger_meme_fin(benchmark::State& state, Banc<F>& b, BoucleMinimale& base) {
     b.jouer();
     base.jouer();
+    if (base.avec_arcs && base.carreaux() != b.e.NbreCarreaux)
+        state.SkipWithError("the baseline counts other tiles");
     for (int i = 1; i <= b.e.NbRobot; ++i) {
         if (base.x(i) != b.e.XRobot(i) || base.y(i) != b.e.YRobot(i))
             state.SkipWithError("the baseline ends elsewhere");
@@ -98,6 +100,9 @@ void exiger_meme_fin(benchmark::State& state, Banc<F>& b, BoucleMinimale& base) 
 void match_par_defaut(benchmark::State& state) {
     Banc<> b;
     charger_defaut(b, static_cast<int>(state.range(0)));
+    BoucleMinimale temoin(b.e); // arcs predicted too: the same tiles must come out
+    temoin.avec_arcs = true;
+    exiger_meme_fin(state, b, temoin);
     BoucleMinimale base(b.e);
     exiger_meme_fin(state, b, base);
     comparer(
@@ -137,7 +142,7 @@ void ajouter(Etat& e, Nom10 action, int p1, int p2) {
     e.TrajParam2(1, e.TrajNbActions(1)) = p2;
 }
 
-// Arcs, each with its prediction, against the arcs alone: at most 1.1.
+// Arcs, each with its prediction, against the minimal loop doing the same: at most 1.1.
 void arcs_avec_prediction(benchmark::State& state) {
     Banc<> b;
     preparer(b.e);
@@ -147,6 +152,7 @@ void arcs_avec_prediction(benchmark::State& state) {
             ajouter(b.e, arc, 90 + 10 * n, 20 + 5 * n);
     }
     BoucleMinimale base(b.e);
+    base.avec_arcs = true;
     exiger_meme_fin(state, b, base);
     comparer(
         state, [&] { base.jouer(); }, [&] { b.jouer(); });

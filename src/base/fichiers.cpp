@@ -151,7 +151,7 @@ void remplacer_fichier(const fs::path& chemin, std::string_view octets) {
 }
 
 fs::path trouver_fichier(const fs::path& dossier, std::string_view nom) {
-    const fs::path exact = dossier / nom;
+    fs::path exact = dossier / nom;
     std::error_code erreur;
     if (fs::exists(exact, erreur))
         return exact;
@@ -183,7 +183,7 @@ fs::path sauvegarder_version(const fs::path& chemin, const fs::path& dossier) {
     }
     std::sort(versions.begin(), versions.end());
     const long suivant = versions.empty() ? 1 : versions.back().first + 1;
-    const fs::path copie = dossier / (nom + "." + std::to_string(suivant));
+    fs::path copie = dossier / (nom + "." + std::to_string(suivant));
     remplacer_fichier(copie, lire_octets(chemin));
     versions.emplace_back(suivant, copie);
     for (std::size_t i = 0; i + gardees < versions.size(); ++i)

@@ -3,6 +3,7 @@
 #include "base/nombres.h"
 
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -107,7 +108,10 @@ double arrondi_centiemes(double valeur);
 /// Ten characters, left-justified and padded with blanks: the name of an action.
 class Nom10 {
 public:
-    constexpr Nom10() { octets_.fill(' '); }
+    constexpr Nom10() {
+        for (std::size_t i = 0; i < longueur; ++i)
+            octets_[i] = ' ';
+    }
     /// Cut after the tenth character.
     constexpr Nom10(std::string_view nom) : Nom10() {
         for (std::size_t i = 0; i < nom.size() && i < longueur; ++i)
@@ -117,9 +121,16 @@ public:
 
     std::string_view vue() const { return {octets_.data(), longueur}; }
     std::string_view sans_blancs() const { return rogner(vue()); }
-    constexpr bool operator==(const Nom10&) const = default;
+    constexpr bool operator==(const Nom10& autre) const {
+        const auto a = std::bit_cast<Mots>(octets_);
+        const auto b = std::bit_cast<Mots>(autre.octets_);
+        return a == b;
+    }
 
 private:
     static constexpr std::size_t longueur = 10;
-    std::array<char, longueur> octets_{};
+    // Two machine words, zero beyond the tenth character: the interpreter compares names at every
+    // step of every robot.
+    using Mots = std::array<std::uint64_t, 2>;
+    alignas(8) std::array<char, sizeof(Mots)> octets_{};
 };

@@ -50,7 +50,8 @@ void Moteur::Chercher_Balise(std::uint8_t Sens, Entier16 i) {
                    .d = d,
                    .dmin = dmin,
                    .d2 = d2});
-    // The sensor line's end lies between its origin and the beacon: straight ahead.
-    if (arrondi_centiemes(dmin) == arrondi_centiemes(d2))
+    // To two decimals, the sensor line's end lies between its origin and the beacon: straight
+    // ahead.
+    if (std::round(dmin * 100) == std::round(d2 * 100))
         terminer(i);
 }

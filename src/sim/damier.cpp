@@ -1,6 +1,8 @@
 #include "sim/damier.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -9,31 +11,42 @@ constexpr int derniere_colonne = 6;
 constexpr int derniere_rangee = 9;
 constexpr int pas_maximum = 32767; ///< what a 16-bit step counter holds
 
-struct Case {
-    int i = 0;
-    int j = 0;
+// Where a coordinate lies among the squares' edges. Between two edges every point looks up the same
+// column (or row); so do all those beyond the last edge, and all those below the first one.
+struct Bande {
+    int rang = 0;  ///< column or row; -1 on an edge or outside
+    float bas = 0; ///< its bounds, infinite outside
+    float haut = 0;
+    bool operator==(const Bande&) const = default;
 };
 
-bool dans_colonne(const Etat& e, int i, float x) {
-    const auto bord = static_cast<float>(e.DamierX(i));
-    return bord < x && x < bord + cote;
+Bande bande_de(float v, int dernier) {
+    constexpr float infini = std::numeric_limits<float>::infinity();
+    const auto fin = static_cast<float>(cote * (dernier + 1));
+    if (!(v > 0))
+        return {-1, -infini, 0};
+    if (v >= fin)
+        return {-1, fin, infini};
+    const int rang = static_cast<int>(v) / cote;
+    const auto bas = static_cast<float>(cote * rang);
+    if (v == bas)
+        return {-1, bas, bas}; // on an edge: alone
+    return {rang, bas, bas + cote};
 }
 
-bool dans_rangee(const Etat& e, int j, float y) {
-    const auto bord = static_cast<float>(e.DamierY(j));
-    return bord < y && y < bord + cote;
-}
+struct Case {
+    Bande colonne, rangee;
+    bool operator==(const Case&) const = default;
 
-// A point on an edge or off the board ends in the last column, and the last column always reads
-// row 0: the sensor's own rule.
-Case chercher_case(const Etat& e, float x, float y) {
-    Case c;
-    while (!dans_colonne(e, c.i, x) && c.i < derniere_colonne)
-        ++c.i;
-    while (!dans_rangee(e, c.j, y) && c.i < derniere_colonne && c.j < derniere_rangee)
-        ++c.j;
-    return c;
-}
+    // A point on an edge or off the board ends in the last column, and the last column always reads
+    // row 0: the sensor's own rule.
+    int i() const { return colonne.rang < 0 ? derniere_colonne : colonne.rang; }
+    int j() const {
+        if (i() == derniere_colonne)
+            return 0;
+        return rangee.rang < 0 ? derniere_rangee : rangee.rang;
+    }
+};
 
 // Point k of a walk: k cm from its start.
 struct Marche {
@@ -42,7 +55,66 @@ struct Marche {
 
     float x(int k) const { return simple(xDebut + k * cosinus); }
     float y(int k) const { return simple(yDebut + k * sinus); }
+    Case case_du_pas(int k) const {
+        return {bande_de(x(k), derniere_colonne), bande_de(y(k), derniere_rangee)};
+    }
+    int dernier_pas_estime(const Case& c, int k) const;
+    int nombre_de_pas(float xFin, float yFin) const;
 };
+
+// About how far the walk stays in the bands of step k, from the distance to their edges.
+int Marche::dernier_pas_estime(const Case& c, int k) const {
+    const auto pas = [](const Bande& b, float v, double vitesse) {
+        const double reste = (vitesse < 0 ? b.bas - v : b.haut - v) / vitesse;
+        return reste < pas_maximum ? static_cast<int>(reste) : pas_maximum; // NaN: no limit
+    };
+    return std::min(k + std::min(pas(c.colonne, x(k), cosinus), pas(c.rangee, y(k), sinus)),
+                    pas_maximum);
+}
+
+// The first step at which x >= xFin and y >= yFin, -1 if none of the first 32767 is one.
+int Marche::nombre_de_pas(float xFin, float yFin) const {
+    const auto x_arrive = [&](int k) { return !(x(k) < xFin); };
+    const auto y_arrive = [&](int k) { return !(y(k) < yFin); };
+    // Each coordinate moves in one direction only. The growing ones arrive from some step on: find
+    // it by halving; the falling ones must then be there still.
+    const auto croissantes_arrivees = [&](int k) {
+        return (cosinus < 0 || x_arrive(k)) && (sinus < 0 || y_arrive(k));
+    };
+    if (!croissantes_arrivees(pas_maximum))
+        return -1;
+    int avant = -1;
+    int arrivee = pas_maximum;
+    while (arrivee - avant > 1) {
+        const int milieu = (avant + arrivee) / 2;
+        (croissantes_arrivees(milieu) ? arrivee : avant) = milieu;
+    }
+    return x_arrive(arrivee) && y_arrive(arrivee) ? arrivee : -1;
+}
+
+// Counts the colour changes among the points 0..nb_pas - 1.
+void compter(Etat& e, const Marche& marche, int nb_pas) {
+    e.NouvelleCouleur = 0;
+    Case c = marche.case_du_pas(0);
+    Entier16 couleur = e.Damier(c.i(), c.j());
+    for (int k = 0; k < nb_pas;) {
+        detecterCouleur(e, static_cast<std::uint8_t>(c.i()), static_cast<std::uint8_t>(c.j()),
+                        e.NouvelleCouleur, couleur);
+        if (e.NouvelleCouleur) {
+            e.NouvelleCouleur = 0;
+            e.NbreCarreaux = e.NbreCarreaux + 1;
+        }
+        // Each coordinate moves in one direction only: when a later point lies in the same bands,
+        // so do all those between.
+        const int saut = std::min(marche.dernier_pas_estime(c, k), nb_pas);
+        if (saut > k + 1 && marche.case_du_pas(saut) == c) {
+            k = saut;
+        } else {
+            ++k;
+            c = marche.case_du_pas(k);
+        }
+    }
+}
 
 } // namespace
 
@@ -67,46 +139,16 @@ void calculer_nbre_carreaux(Etat& e, float xDebut, float yDebut, float xFin, flo
     // Incidence does not change on the way, so its cosine and sine are taken once.
     Marche marche{xDebut, yDebut, 0, 0};
     ::sincos(radians(e.Incidence), &marche.sinus, &marche.cosinus);
-
-    e.NouvelleCouleur = 0;
-    float x = xDebut;
-    float y = yDebut;
-    Entier16 k = 0;
-    Case c = chercher_case(e, x, y);
-    Entier16 couleur = e.Damier(c.i, c.j);
-    while (x < xFin || y < yFin) {
-        // Most steps stay in the square they were in.
-        if (!dans_colonne(e, c.i, x) || !dans_rangee(e, c.j, y))
-            c = chercher_case(e, x, y);
-        detecterCouleur(e, static_cast<std::uint8_t>(c.i), static_cast<std::uint8_t>(c.j),
-                        e.NouvelleCouleur, couleur);
-        if (e.NouvelleCouleur) {
-            e.NouvelleCouleur = 0;
-            e.NbreCarreaux = e.NbreCarreaux + 1;
-        }
-        k = k + 1;
-        x = marche.x(k);
-        y = marche.y(k);
-    }
+    const int nb_pas = marche.nombre_de_pas(xFin, yFin);
+    compter(e, marche, nb_pas < 0 ? pas_maximum + 1 : nb_pas);
+    if (nb_pas < 0)
+        lever_Debordement(pas_maximum + 1); // the step counter
 }
 
-bool marche_se_termine(float xDebut, float yDebut, float xFin, float yFin, double cosinus,
-                       double sinus) {
+void predire_marche(Etat& e, float xDebut, float yDebut, float xFin, float yFin, double cosinus,
+                    double sinus) {
     const Marche marche{xDebut, yDebut, cosinus, sinus};
-    const auto x_arrive = [&](int k) { return !(marche.x(k) < xFin); };
-    const auto y_arrive = [&](int k) { return !(marche.y(k) < yFin); };
-    // Each coordinate moves in one direction only. The growing ones arrive from some step on: find
-    // it by halving; the falling ones must then be there still.
-    const auto croissantes_arrivees = [&](int k) {
-        return (cosinus < 0 || x_arrive(k)) && (sinus < 0 || y_arrive(k));
-    };
-    if (!croissantes_arrivees(pas_maximum))
-        return false;
-    int avant = -1;
-    int arrivee = pas_maximum;
-    while (arrivee - avant > 1) {
-        const int milieu = (avant + arrivee) / 2;
-        (croissantes_arrivees(milieu) ? arrivee : avant) = milieu;
-    }
-    return x_arrive(arrivee) && y_arrive(arrivee);
+    const int nb_pas = marche.nombre_de_pas(xFin, yFin);
+    if (nb_pas >= 0)
+        compter(e, marche, nb_pas);
 }

@@ -16,6 +16,7 @@ void detecterCouleur(const Etat& e, std::uint8_t I, std::uint8_t j,
 /// @throws Debordement after 32767 steps: the end lies where the walk never gets
 void calculer_nbre_carreaux(Etat& e, float xDebut, float yDebut, float xFin, float yFin);
 
-/// True if that walk ends within 32767 steps; found without walking it.
-bool marche_se_termine(float xDebut, float yDebut, float xFin, float yFin, double cosinus,
-                       double sinus);
+/// The same walk along the heading whose cosine and sine are given; one that would overflow its
+/// step counter is recognised without walking it and counts nothing.
+void predire_marche(Etat& e, float xDebut, float yDebut, float xFin, float yFin, double cosinus,
+                    double sinus);

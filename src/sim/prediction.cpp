@@ -46,7 +46,6 @@ void Moteur::predire_carreaux(Entier16 i) {
     const double p = e.ParamEnCours(i);
     const Point fin = droit ? Point{simple(depart.x + p * d.c), simple(depart.y + p * d.s)}
                             : fin_d_arc(e, i, depart);
-    if (marche_se_termine(depart.x, depart.y, fin.x, fin.y, d.c, d.s))
-        calculer_nbre_carreaux(e, depart.x, depart.y, fin.x, fin.y);
+    predire_marche(e, depart.x, depart.y, fin.x, fin.y, d.c, d.s);
     f.ecrire_nbre_carreaux(texte_entier(e.NbreCarreaux));
 }

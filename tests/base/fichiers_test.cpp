@@ -1,0 +1,149 @@
+#include "base/fichiers.h"
+
+#include "outils/dossier_temporaire.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// The reason that `action` gives for failing, "" when it does not fail.
+template <typename Action>
+std::string raison(Action action) {
+    try {
+        action();
+    } catch (const ErreurFichier& erreur) {
+        return erreur.raison();
+    }
+    return "";
+}
+
+int entrees(const fs::path& dossier) {
+    return static_cast<int>(std::distance(fs::directory_iterator(dossier), {}));
+}
+
+} // namespace
+
+TEST(LireOctets, refuse_tout_de_suite_ce_qui_n_est_pas_un_fichier_lisible) {
+    const DossierTemporaire d;
+    EXPECT_EQ(lire_octets(d.ecrire("plein", std::string("a\0b\r\n", 5))),
+              std::string("a\0b\r\n", 5));
+    EXPECT_EQ(lire_octets(d.ecrire("vide", "")), "");
+    fs::create_directory(d / "dossier");
+    ASSERT_EQ(::mkfifo((d / "tube").c_str(), 0600), 0);
+    fs::resize_file(d.ecrire("creux", ""), std::uintmax_t{1} << 30);
+    fs::create_symlink("boucle", d / "boucle");
+    const std::pair<fs::path, std::string_view> cas[] = {
+        {d / "absent", "le fichier n'existe pas"},
+        {d / "dossier", "c'est un dossier"},
+        {d / "tube", "ce n'est pas un fichier ordinaire"},
+        {"/dev/zero", "ce n'est pas un fichier ordinaire"},
+        {d / "creux", "le fichier est trop grand"},
+        {d / "boucle", "trop de liens symboliques"},
+        {d / "plein/x", "une partie du chemin n'est pas un dossier"},
+        {d / std::string(300, 'x'), "le nom est trop long"}};
+    for (const auto& [chemin, attendue] : cas)
+        EXPECT_EQ(raison([&] { lire_octets(chemin); }), attendue) << chemin;
+    if (::geteuid() != 0) {
+        fs::permissions(d / "plein", fs::perms::none);
+        EXPECT_EQ(raison([&] { lire_octets(d / "plein"); }), "accès refusé");
+    }
+}
+
+TEST(RemplacerFichier, garde_les_droits_et_le_lien_et_ne_laisse_rien_a_cote) {
+    const DossierTemporaire d;
+    d.ecrire("vrai", "ancien");
+    fs::permissions(d / "vrai", fs::perms{0640});
+    fs::create_directory(d / "sous");
+    fs::create_symlink("../vrai", d / "sous/lien");
+    remplacer_fichier(d / "sous/lien", "nouveau\r\n");
+    EXPECT_EQ(d.lire("vrai"), "nouveau\r\n");
+    EXPECT_TRUE(fs::is_symlink(d / "sous/lien"));
+    EXPECT_EQ(fs::status(d / "vrai").permissions(), fs::perms{0640});
+    EXPECT_EQ(entrees(d.chemin()), 2);
+    EXPECT_EQ(entrees(d / "sous"), 1);
+
+    fs::create_symlink("futur", d / "pendant");
+    remplacer_fichier(d / "pendant", "x");
+    EXPECT_TRUE(fs::is_symlink(d / "pendant"));
+    EXPECT_EQ(d.lire("futur"), "x");
+}
+
+TEST(RemplacerFichier, refuse_un_dossier_un_tube_une_boucle_et_un_dossier_absent) {
+    const DossierTemporaire d;
+    fs::create_directory(d / "dossier");
+    ASSERT_EQ(::mkfifo((d / "tube").c_str(), 0600), 0);
+    fs::create_symlink("boucle", d / "boucle");
+    fs::create_symlink("/dev/full", d / "peripherique");
+    EXPECT_EQ(raison([&] { remplacer_fichier(d / "dossier", ""); }), "c'est un dossier");
+    for (const char* nom : {"tube", "peripherique"})
+        EXPECT_EQ(raison([&] { remplacer_fichier(d / nom, "x"); }),
+                  "ce n'est pas un fichier ordinaire");
+    EXPECT_EQ(raison([&] { remplacer_fichier(d / "boucle", ""); }), "trop de liens symboliques");
+    EXPECT_EQ(raison([&] { remplacer_fichier(d / "absent/f", ""); }), "le fichier n'existe pas");
+    EXPECT_TRUE(fs::is_fifo(d / "tube"));
+    EXPECT_EQ(entrees(d.chemin()), 4);
+}
+
+// A limit on the size of files fails in the middle of a write, as a full disk does.
+TEST(RemplacerFichier, une_ecriture_interrompue_laisse_l_ancien_fichier_seul) {
+    const DossierTemporaire d;
+    d.ecrire("f", "ancien");
+    rlimit avant{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &avant), 0);
+    const auto signal_avant = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit petit{4096, avant.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &petit), 0);
+    const std::string pourquoi =
+        raison([&] { remplacer_fichier(d / "f", std::string(100000, 'x')); });
+    ::setrlimit(RLIMIT_FSIZE, &avant);
+    std::signal(SIGXFSZ, signal_avant);
+    EXPECT_EQ(pourquoi, "le fichier est trop grand");
+    EXPECT_EQ(d.lire("f"), "ancien");
+    EXPECT_EQ(entrees(d.chemin()), 1);
+}
+
+TEST(RemplacerFichier, respecte_la_protection_en_ecriture) {
+    if (::geteuid() == 0)
+        GTEST_SKIP() << "root may write everywhere";
+    const DossierTemporaire d;
+    d.ecrire("f", "ancien");
+    fs::permissions(d / "f", fs::perms{0444});
+    EXPECT_EQ(raison([&] { remplacer_fichier(d / "f", "x"); }), "accès refusé");
+    fs::permissions(d.chemin(), fs::perms{0555});
+    EXPECT_EQ(raison([&] { remplacer_fichier(d / "g", "x"); }), "accès refusé");
+    fs::permissions(d.chemin(), fs::perms{0755});
+    EXPECT_EQ(d.lire("f"), "ancien");
+    EXPECT_EQ(entrees(d.chemin()), 1);
+}
+
+TEST(TrouverFichier, exact_d_abord_puis_sans_egard_a_la_casse) {
+    const DossierTemporaire d;
+    d.ecrire("ÉTÉ table.ini", "");
+    d.ecrire("ÉTÉ TABLE.INI", "");
+    EXPECT_EQ(trouver_fichier(d.chemin(), "Été Table.ini"), d / "ÉTÉ TABLE.INI") << "first by name";
+    EXPECT_EQ(trouver_fichier(d.chemin(), "ÉTÉ table.ini"), d / "ÉTÉ table.ini");
+    EXPECT_EQ(trouver_fichier(d.chemin(), "Ete Table.ini"), d / "Ete Table.ini");
+    EXPECT_EQ(trouver_fichier(d / "absent", "f"), d / "absent/f");
+}
+
+TEST(SauvegarderVersion, numerote_et_garde_les_dix_dernieres) {
+    const DossierTemporaire d;
+    EXPECT_EQ(sauvegarder_version(d / "absent", d / "versions"), fs::path());
+    EXPECT_FALSE(fs::exists(d / "versions"));
+    d.ecrire("versions/f.x", "not a version");
+    for (int i = 1; i <= 12; ++i)
+        EXPECT_EQ(sauvegarder_version(d.ecrire("f", std::to_string(i)), d / "versions"),
+                  d / ("versions/f." + std::to_string(i)));
+    EXPECT_EQ(entrees(d / "versions"), 11);
+    EXPECT_FALSE(fs::exists(d / "versions/f.2"));
+    EXPECT_EQ(d.lire("versions/f.3"), "3");
+    EXPECT_EQ(d.lire("versions/f.12"), "12");
+}

@@ -1,0 +1,112 @@
+"""Drives a program as its user would, through the accessibility bus: by roles and visible names."""
+
+import os
+import re
+import subprocess
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+import pyatspi  # noqa: E402  (only after the version above)
+
+DELAI = 20.0  # seconds before a wait is given up
+
+
+def attendre(quoi, condition, delai=DELAI):
+    """The first true value of condition(), polled; an AssertionError naming `quoi` after `delai` s."""
+    limite = time.monotonic() + delai
+    while True:
+        try:
+            valeur = condition()
+        except (LookupError, RuntimeError, gi.repository.GLib.Error):
+            valeur = None  # the tree changed while it was read
+        if valeur:
+            return valeur
+        assert time.monotonic() < limite, f"rien après {delai:g} s : {quoi}"
+        time.sleep(0.05)
+
+
+def visible(a):
+    return a.getState().contains(pyatspi.STATE_SHOWING)
+
+
+def descendants(a):
+    for enfant in a:
+        yield enfant
+        yield from descendants(enfant)
+
+
+class Programme:
+    """A started program, its windows reached through the accessibility bus."""
+
+    def __init__(self, commande, **environnement):
+        self.processus = subprocess.Popen(commande, env={**os.environ, **environnement})
+        self.racine = attendre("le programme sur le bus d'accessibilité", self._application)
+
+    def _application(self):
+        assert self.processus.poll() is None, f"terminé avec {self.processus.returncode}"
+        bureau = pyatspi.Registry.getDesktop(0)
+        return next((a for a in bureau if a and a.get_process_id() == self.processus.pid), None)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        if self.processus.poll() is None:
+            self.processus.kill()
+            self.processus.wait()
+
+    def fenetre(self, titre):
+        """The visible top-level window of that title, waited for."""
+        return attendre(f"fenêtre « {titre} »", lambda: next(
+            (f for f in self.racine if f.name == titre and visible(f)), None))
+
+    def _chercher(self, role, motif):
+        return next((a for a in descendants(self.racine) if a.getRoleName() == role
+                     and re.search(motif, a.name) and visible(a)), None)
+
+    def objet(self, role, motif):
+        """The visible object of that role whose name matches, waited for."""
+        return attendre(f"{role} « {motif} »", lambda: self._chercher(role, motif))
+
+    def texte(self, motif):
+        """The text of the visible label that matches, waited for."""
+        return self.objet("label", motif).name
+
+    def agir(self, role, motif, action):
+        """Does that object's action ("Press", "Toggle")."""
+        actions = self.objet(role, motif).queryAction()
+        noms = [actions.getName(i) for i in range(actions.nActions)]
+        assert action in noms, f"« {motif} » ne sait faire que {noms}"
+        actions.doAction(noms.index(action))
+
+    def presser(self, motif):
+        self.agir("push button", motif, "Press")
+
+    def basculer(self, motif):
+        """Toggles a check box and waits until it shows so."""
+        avant = self.coche(motif)
+        self.agir("check box", motif, "Toggle")
+        attendre(f"« {motif} » bascule", lambda: self.coche(motif) != avant)
+
+    def coche(self, motif):
+        return self.objet("check box", motif).getState().contains(pyatspi.STATE_CHECKED)
+
+    def actif(self, role, motif):
+        return self.objet(role, motif).getState().contains(pyatspi.STATE_ENABLED)
+
+    def code_de_fin(self):
+        return self.processus.wait(timeout=DELAI)
+
+    def arbre(self):
+        """What the bus shows, for the message of a failed test."""
+        lignes = []
+
+        def visiter(a, retrait):
+            lignes.append(f"{'  ' * retrait}{a.getRoleName()} « {a.name} »")
+            for enfant in a:
+                visiter(enfant, retrait + 1)
+
+        visiter(self.racine, 0)
+        return "\n".join(lignes)
