@@ -36,7 +36,8 @@ void creer_si_absent(const fs::path& chemin, Contenu contenu) {
     if (fs::symlink_status(chemin, erreur).type() != fs::file_type::not_found)
         return;
     const std::string octets = contenu();
-    if (std::find(chemin.begin(), chemin.end(), "..") != chemin.end())
+    if (std::find(chemin.begin(), chemin.end(), "..") != chemin.end() ||
+        chemin.native().find('\0') != std::string::npos)
         return;
     try {
         remplacer_fichier(chemin, octets);
