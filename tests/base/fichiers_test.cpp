@@ -52,7 +52,7 @@ TEST(LireOctets, refuse_tout_de_suite_ce_qui_n_est_pas_un_fichier_lisible) {
         {d / "plein/x", "une partie du chemin n'est pas un dossier"},
         {d / std::string(300, 'x'), "le nom est trop long"}};
     for (const auto& [chemin, attendue] : cas)
-        EXPECT_EQ(raison([&] { lire_octets(chemin); }), attendue) << chemin;
+        EXPECT_EQ(raison([&, chemin = chemin] { lire_octets(chemin); }), attendue) << chemin;
     if (::geteuid() != 0) {
         fs::permissions(d / "plein", fs::perms::none);
         EXPECT_EQ(raison([&] { lire_octets(d / "plein"); }), "accès refusé");
