@@ -22,6 +22,11 @@ struct ChoixGenerer {
     std::optional<fs::path> dossier;
 };
 
+// The parser's form of a check: the complaint, empty when there is none.
+std::string oui_ou_non(const std::string& valeur) {
+    return valeur == "oui" || valeur == "non" ? "" : "répondre oui ou non";
+}
+
 // The answer of --ecraser, else the terminal's, else Non.
 bool repondre(const ChoixGenerer& choix, std::string_view question) {
     if (!choix.ecraser.empty())
@@ -96,7 +101,7 @@ void declarer_options(CLI::App& verbe, ChoixGenerer& choix) {
         .add_option("--ecraser", choix.ecraser,
                     "Écraser une fonction du même nom : oui ou non (sans cette option, la question "
                     "est posée sur le terminal)")
-        ->check(CLI::IsMember({"oui", "non"}))
+        ->check(oui_ou_non)
         ->type_name("oui|non");
     verbe.add_flag("--apercu", choix.apercu,
                    "Montrer ce qui changerait, avec les avertissements, sans rien écrire");

@@ -114,10 +114,11 @@ TEST(Traduction, une_mauvaise_valeur_nomme_fichier_ligne_et_texte) {
     for (const auto& [ligne, raison] : cas) {
         Demande demande;
         demande.entree = "projet.ini";
-        const std::string attendue = "projet.ini Ligne 4 : « " + ligne;
+        std::string attendue = "projet.ini Ligne 4 : « ";
+        attendue.append(ligne).append(" » : ").append(raison);
         const Composition c =
             composer(demande, depart, "#\rAVANCE:1\r\n\n" + ligne, toujours(false));
-        EXPECT_EQ(c.erreur, attendue + " » : " + raison);
+        EXPECT_EQ(c.erreur, attendue);
     }
 }
 

@@ -17,6 +17,7 @@ struct Resultat {
 inline Resultat lancer(std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), "tavolmex-cli");
     std::vector<char*> argv;
+    argv.reserve(arguments.size());
     for (std::string& a : arguments)
         argv.push_back(a.data());
     testing::internal::CaptureStdout();
