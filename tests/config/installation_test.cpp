@@ -70,7 +70,8 @@ TEST_F(Installation, ne_recree_que_ce_qui_manque) {
 }
 
 TEST_F(Installation, un_nom_de_projet_ne_sort_pas_de_la_configuration) {
-    for (const std::string nom : {"../x", "a/../../x", "/x", std::string("x\0y", 3).c_str()}) {
+    for (const std::string& nom : {std::string("../x"), std::string("a/../../x"), std::string("/x"),
+                                   std::string("x\0y", 3)}) {
         e.NomProjet = nom;
         projet.Installe();
         EXPECT_FALSE(fs::exists(d / "x Table.ini")) << nom;
