@@ -71,12 +71,7 @@ TEST_F(Installation, ne_recree_que_ce_qui_manque) {
 }
 
 TEST_F(Installation, un_nom_de_projet_ne_sort_pas_de_la_configuration) {
-<<<<<<< HEAD
     for (const auto nom : {"../x"sv, "a/../../x"sv, "/x"sv, "x\0y"sv}) {
-=======
-    for (const std::string& nom : {std::string("../x"), std::string("a/../../x"), std::string("/x"),
-                                   std::string("x\0y", 3)}) {
->>>>>>> infra
         e.NomProjet = nom;
         projet.Installe();
         EXPECT_FALSE(fs::exists(d / "x Table.ini")) << nom;
