@@ -17,7 +17,8 @@ int executer(int argc, char** argv) {
     app.require_subcommand(1);
     int code = 0;
     for (const auto declarer :
-         {declarer_installer, declarer_verifier, declarer_simuler, declarer_dessiner})
+         {declarer_installer, declarer_verifier, declarer_simuler, declarer_dessiner,
+          declarer_piloter, declarer_generer, declarer_etiquettes})
         declarer(app, code);
     parler_francais(app);
     try {

@@ -1,0 +1,211 @@
+#include "cli/verbes.h"
+
+#include "cli/choix.h"
+#include "cli/commande.h"
+#include "record/console.h"
+
+#include <unistd.h>
+
+#include <iostream>
+
+namespace {
+
+constexpr int code_commande = 2;
+
+struct OptionsPiloter {
+    ChoixDeLigne choix;
+    int robot = 1;
+    std::string position, sauver;
+    bool damier = false;
+};
+
+// The outlet of the console: its questions go to whoever sits at the terminal, or have one answer.
+class FenetresPiloter final : public FenetresTerminal {
+public:
+    FenetresPiloter(Etat& etat, std::string reponse)
+        : FenetresTerminal(etat, std::cerr), reponse_(std::move(reponse)) {}
+
+    void suivre(Console& console) { console_ = &console; }
+    bool interactif() const { return ::isatty(STDIN_FILENO) != 0; }
+
+    bool question(std::string_view texte) override {
+        FenetresTerminal::message(texte);
+        if (!reponse_.empty() || !interactif())
+            return reponse_ == "oui";
+        std::string reponse;
+        std::cerr << "(oui/non) ? " << std::flush;
+        std::getline(std::cin, reponse);
+        return minuscules(rogner(reponse)).starts_with('o');
+    }
+    void Active_Desactive(bool Status) override {
+        if (Status && console_ != nullptr)
+            console_->action_finie();
+    }
+    void montrer_course(bool en_cours) override {
+        FenetresTerminal::montrer_course(en_cours);
+        if (!en_cours && console_ != nullptr)
+            console_->action_finie();
+    }
+
+private:
+    std::string reponse_;
+    Console* console_ = nullptr;
+};
+
+// "X,Y,CAP" as the three fields.
+ChampsPose lire_position(const std::string& texte) {
+    const std::size_t premiere = texte.find(',');
+    const std::size_t seconde =
+        premiere == std::string::npos ? premiere : texte.find(',', premiere + 1);
+    if (seconde == std::string::npos)
+        throw ErreurConversion(texte, "une position X,Y,CAP");
+    return {texte.substr(0, premiere), texte.substr(premiere + 1, seconde - premiere - 1),
+            texte.substr(seconde + 1)};
+}
+
+// One session: start, commands, end, saving.
+class Seance {
+public:
+    explicit Seance(const OptionsPiloter& options)
+        : options_(options),
+          fenetres_(*etat_, options.sauver),
+          simulation_(*etat_, fenetres_, options.choix),
+          reprise_(*etat_, simulation_.projet().dossier_configuration()),
+          tient_la_reprise_(!std::filesystem::exists(reprise_.chemin())),
+          console_(*etat_, fenetres_, simulation_.moteur(),
+                   tient_la_reprise_ ? &reprise_ : nullptr) {
+        fenetres_.suivre(console_);
+        if (!tient_la_reprise_)
+            std::cerr << "Un trajet enregistré attend dans " << reprise_.chemin().string()
+                      << " : la fenêtre le proposera." << std::endl;
+    }
+
+    int jouer() {
+        const int code = fenetres_.terminee() ? 0 : commencer();
+        if (code == code_commande)
+            return code;
+        const int commandes = fenetres_.terminee() ? 0 : lire_commandes();
+        // The saving shows a path, which is no error.
+        const int deroulement = commandes != 0 ? commandes : fenetres_.code_de_sortie();
+        return finir() || deroulement != 0 ? deroulement : 1;
+    }
+
+private:
+    int commencer() {
+        Etat& e = *etat_;
+        e.utiliDamier = options_.damier;
+        if (e.NbRobot < options_.robot)
+            e.NbRobot = options_.robot;
+        try {
+            const ChampsPose actuelle = console_.VScroll1_Change(options_.robot);
+            console_.Command9_Click(options_.position.empty() ? actuelle
+                                                              : lire_position(options_.position));
+        } catch (const ErreurExecution& erreur) {
+            fenetres_.message(std::string("--position : ") + erreur.what());
+            return code_commande;
+        }
+        laisser_tourner();
+        return 0;
+    }
+
+    void laisser_tourner() {
+        while (fenetres_.en_marche() && simulation_.moteur().Timer_Timer()) {
+        }
+    }
+
+    int lire_commandes() {
+        std::string ligne;
+        for (int numero = 1; !fenetres_.terminee() && demander(ligne); ++numero) {
+            try {
+                executer(ligne, numero);
+            } catch (const ErreurExecution& erreur) {
+                std::cerr << "Ligne " << numero << " : " << erreur.what() << std::endl;
+                if (!fenetres_.interactif())
+                    return code_commande;
+            }
+        }
+        return 0;
+    }
+
+    bool demander(std::string& ligne) {
+        if (fenetres_.interactif())
+            std::cerr << pose() << " > " << std::flush;
+        return static_cast<bool>(std::getline(std::cin, ligne));
+    }
+
+    void executer(const std::string& ligne, int numero) {
+        const auto commande = lire_commande(ligne);
+        if (!commande)
+            return;
+        try {
+            console_.Command4_Click(commande->legende, commande->Text1, commande->Text4);
+        } catch (const ErreurExecution& erreur) {
+            fenetres_.message("Erreur d'exécution : ligne " + std::to_string(numero) + ", " +
+                              erreur.what());
+        }
+        laisser_tourner();
+        if (etat_->logo_visible && !fenetres_.terminee())
+            fenetres_.message("Ligne " + std::to_string(numero) +
+                              " : le match de 90 s est fini, la prochaine action repart de la "
+                              "position initiale et recommence le trajet");
+    }
+
+    std::string pose() const {
+        const int i = options_.robot;
+        return "x " + std::string(format_0(etat_->XRobot(i))) + " y " +
+               std::string(format_0(etat_->YRobot(i))) + " cap " +
+               std::string(format_0(etat_->CapRobot(i))) + "°  " + texte_duree(etat_->TempsEcoule);
+    }
+
+    // @returns false when something could not be saved
+    bool finir() {
+        if (console_.phase() != Console::Phase::arret)
+            console_.Command9_Click({});
+        const BilanSauvegarde bilan = sauver();
+        if (!bilan.complete())
+            fenetres_.message(bilan.message());
+        return bilan.complete();
+    }
+
+    BilanSauvegarde sauver() {
+        if (tient_la_reprise_)
+            return reprise_.sauver(fenetres_);
+        const std::filesystem::path dossier = simulation_.projet().dossier_configuration();
+        return {SauvRobot(*etat_, fenetres_, dossier), {}, "un autre trajet attend déjà"};
+    }
+
+    OptionsPiloter options_;
+    std::unique_ptr<Etat> etat_ = std::make_unique<Etat>();
+    FenetresPiloter fenetres_;
+    Simulation simulation_;
+    Reprise reprise_;
+    // A recording left by the window is its business: neither taken up nor replaced here.
+    bool tient_la_reprise_;
+    Console console_;
+};
+
+} // namespace
+
+void declarer_piloter(CLI::App& app, int& code_de_sortie) {
+    const auto options = std::make_shared<OptionsPiloter>();
+    CLI::App* verbe =
+        app.add_subcommand("piloter", "Pilote un robot action par action et enregistre son trajet");
+    verbe->footer("Commandes, une par ligne sur l'entrée standard :\n" + aide_des_commandes() +
+                  "« # » commence un commentaire.");
+    ajouter_dossier(*verbe, options->choix);
+    verbe->add_option("--robot", options->robot, "Numéro du robot")
+        ->check(CLI::Range(1, robots_des_fichiers))
+        ->type_name("N");
+    verbe
+        ->add_option("--position", options->position,
+                     "Position initiale, telle que la télécommande la montre")
+        ->type_name("X,Y,CAP");
+    verbe->add_flag("--damier", options->damier, "Compte les carreaux du damier");
+    verbe
+        ->add_option("--sauver", options->sauver,
+                     "Réponse à la question de sauvegarde (sinon : posée sur un terminal, non "
+                     "ailleurs)")
+        ->check(CLI::IsMember({"oui", "non"}))
+        ->type_name("oui|non");
+    verbe->callback([options, &code_de_sortie] { code_de_sortie = Seance(*options).jouer(); });
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "sim/moteur.h"
+
+/// Everything that one action of the console changes, as it was before it: taking it back leaves no
+/// trace of the action, on the table or in the recording.
+class Instantane {
+public:
+    /// Before an action of robot `robot`, 0..10, which will be recorded as trajectory entry
+    /// `entree`.
+    Instantane(const Etat& e, Entier16 robot, Entier16 entree);
+
+    /// Puts the recording, every robot and the clock back. The run is ended again when the action
+    /// had begun one, and goes on when it ended since; the driven robot stays the driven one.
+    void retablir(Etat& e, Moteur& moteur, Fenetres& f) const;
+
+private:
+    struct Robot {
+        float x, y, cap, xm, ym, xextr, yextr, progression;
+        Nom10 action;
+        Entier16 param, param2, num_action;
+    };
+
+    void retablir_course(Etat& e) const;
+    void retablir_enregistrement(Etat& e) const;
+
+    Tableau<Robot, robots_max> robots_{};
+    std::int32_t TempsEcoule_;
+    float Incidence_;
+    Entier16 NbreCarreaux_;
+    Entier16 TableHorizontale_;
+    bool logo_visible_;
+
+    Entier16 robot_, entree_;
+    Entier16 TrajNbActions_;
+    Nom10 action_;
+    Entier16 param1_, param2_;
+    Entier16 nb_a_generer_;
+};

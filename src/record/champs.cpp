@@ -1,0 +1,35 @@
+#include "record/champs.h"
+
+#include "base/texte.h"
+
+namespace {
+
+[[noreturn]] void refuser(const Champ& champ, std::string_view attendu) {
+    const std::string debut = "champ « " + std::string(champ.nom) + " » : ";
+    if (rogner(champ.texte).empty())
+        throw ErreurExecution(debut + "il est vide, il faut " + std::string(attendu));
+    throw ErreurExecution(debut + ErreurConversion(champ.texte, attendu).what());
+}
+
+Entier16 lire(const Champ& champ, std::string_view attendu) {
+    try {
+        return lire_entier16(champ.texte);
+    } catch (const ErreurConversion&) {
+        refuser(champ, attendu);
+    }
+}
+
+} // namespace
+
+Entier16 lire_champ(const Champ& champ) {
+    return lire(champ, "un nombre entier de -32768 à 32767");
+}
+
+std::uint8_t lire_champ_octet(const Champ& champ) {
+    constexpr std::string_view attendu =
+        "un nombre entier de 0 à 255, le seul que la génération PICBASIC sache garder";
+    const Entier16 valeur = lire(champ, attendu);
+    if (valeur < 0 || valeur > 255)
+        refuser(champ, attendu);
+    return static_cast<std::uint8_t>(valeur);
+}

@@ -1,0 +1,163 @@
+#include "record/console.h"
+
+#include "record/champs.h"
+#include "sim/actions.h"
+
+ChampsPose Console::VScroll1_Change(Entier16 numero) {
+    if (phase_ == Phase::arret)
+        robot_ = numero;
+    return tele_get_xya(e, robot_);
+}
+
+void Console::exiger_robot_sur_la_table() const {
+    // Another robot's action would never end: the engine plays robots 1..NbRobot.
+    if (robot_ < 1 || robot_ > e.NbRobot)
+        throw ErreurExecution(
+            "le robot " + std::to_string(robot_) +
+            " n'est pas sur la table (nombre de robots : " + std::to_string(e.NbRobot) + ")");
+}
+
+void Console::Command9_Click(const ChampsPose& champs) {
+    if (phase_ != Phase::arret) {
+        action_finie();
+        phase_ = Phase::arret;
+        return;
+    }
+    exiger_robot_sur_la_table();
+    Entier16 x = lire_champ({"X", champs.TextX});
+    Entier16 y = lire_champ({"Y", champs.TextY});
+    Entier16 a = lire_champ({"Cap", champs.TextA});
+    tele_set_xya(e, moteur_, f, robot_, x, y, a);
+    Set_Sauv_Robot(e, robot_);
+    etapes_.clear();
+    phase_ = Phase::repos;
+}
+
+void Console::Command4_Click(std::string_view legende, const std::string& Text1,
+                             const std::string& Text4) {
+    if (phase_ != Phase::repos)
+        return;
+    exiger_robot_sur_la_table();
+    const std::string action = majuscules(legende);
+    const Entier16 a = lire_champ({nom_Text4, Text4});
+    const Entier16 b = lire_champ({nom_Text1, Text1});
+    saisie_ = {Text1, Text4};
+    const ActionConsole* const connue = action_de_nom(action);
+    const Parametres p = connue == nullptr ? Parametres::longueur : connue->parametres;
+    if (p == Parametres::angle)
+        tele_action(robot_, action, a, 0);
+    else if (p == Parametres::rayon_et_angle)
+        tele_action(robot_, action, a, b);
+    else if (p == Parametres::aucun)
+        tele_action(robot_, action, 0, 0);
+    else
+        tele_action(robot_, action, b, 0);
+}
+
+void Console::tele_action(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2) {
+    memoriser(I, action, p1, p2);
+    if (e.logo_visible)
+        moteur_.Run_Jeu();
+    else
+        f.regler_Timer(e.PasTemps * 10);
+    phase_ = Phase::action;
+    e.ActionEnCours(I) = Nom10(action);
+    e.ParamEnCours(I) = p1;
+    e.Param2EnCours(I) = p2;
+    e.Progression(I) = 0;
+    e.RobotTele = I;
+    // What is recorded goes into the recovery file even if the rest of it is refused.
+    try {
+        ajouter_au_trajet(I, p1, p2);
+        if (e.utiliDamier)
+            moteur_.predire_carreaux(I);
+        remplir_TableauAGenerer(action);
+    } catch (const ErreurExecution&) {
+        if (reprise_ != nullptr)
+            reprise_->ecrire_ou_prevenir(f);
+        throw;
+    }
+    if (reprise_ != nullptr)
+        reprise_->ecrire_ou_prevenir(f);
+}
+
+void Console::memoriser(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2) {
+    // A run that has ended starts again from its first action, and so does the trajectory.
+    const bool recommence = e.logo_visible;
+    const Entier16 numero = (recommence ? 0 : int{e.NumAction(I)}) + 1;
+    const std::int32_t debut = recommence ? 0 : e.TempsEcoule;
+    etapes_.push_back({Instantane(e, I, numero), numero, action, p1, p2, debut, debut,
+                       recommence && !etapes_.empty()});
+}
+
+void Console::ajouter_au_trajet(Entier16 I, Entier16 p1, Entier16 p2) {
+    if (e.NumAction(I) >= actions_max)
+        throw Debordement("le trajet est plein : " + std::to_string(actions_max) +
+                          " actions au plus, celle-ci n'est pas enregistrée");
+    const Entier16 n = e.NumAction(I) + 1;
+    e.NumAction(I) = n;
+    e.TrajAction(I, n) = e.ActionEnCours(I);
+    e.TrajParam1(I, n) = p1;
+    e.TrajParam2(I, n) = p2;
+    e.TrajNbActions(I) = n;
+}
+
+void Console::remplir_TableauAGenerer(const std::string& action) {
+    const ActionConsole* const connue = action_de_nom(action);
+    if (connue == nullptr)
+        return f.message("PB remplissage tableau à générer");
+    const auto Text1 = [this] { return lire_champ_octet({nom_Text1, saisie_.Text1}); };
+    const auto Text4 = [this] { return lire_champ_octet({nom_Text4, saisie_.Text4}); };
+    std::uint8_t p1 = 0;
+    std::uint8_t p2 = 0;
+    // The table has an arc's radius first, its angle second: the reverse of the trajectory.
+    if (connue->utilise_Text1())
+        p1 = Text1();
+    if (connue->utilise_Text4())
+        (connue->utilise_Text1() ? p2 : p1) = Text4();
+    ajouter_ligne(connue->code, p1, p2);
+    if (connue->compte_carreaux && e.utiliDamier) {
+        const TexteCourt nbre_carreaux = texte_entier(e.NbreCarreaux);
+        ajouter_ligne(Code::carreaux, lire_champ_octet({"Nbre Carreaux", nbre_carreaux}), 0);
+    }
+}
+
+void Console::ajouter_ligne(Code code, std::uint8_t p1, std::uint8_t p2) {
+    const int n = e.nb_a_generer;
+    if (n > actions_max)
+        throw Debordement("le tableau à générer est plein : " + std::to_string(actions_max + 1) +
+                          " lignes au plus");
+    e.TableauAGenerer(n, 0) = static_cast<std::uint8_t>(code);
+    e.TableauAGenerer(n, 1) = p1;
+    e.TableauAGenerer(n, 2) = p2;
+    e.nb_a_generer = n + 1;
+}
+
+void Console::action_finie() {
+    if (phase_ != Phase::action)
+        return;
+    phase_ = Phase::repos;
+    if (!etapes_.empty())
+        etapes_.back().fin = e.TempsEcoule;
+}
+
+void Console::arreter_action() {
+    if (phase_ == Phase::action)
+        e.ActionEnCours(robot_) = actions::AUCUNE;
+}
+
+bool Console::annulation_possible() const {
+    const bool course_sans_console = !e.logo_visible && e.RobotTele == 0;
+    return phase_ == Phase::repos && !etapes_.empty() && !course_sans_console;
+}
+
+void Console::annuler() {
+    if (!annulation_possible())
+        return;
+    const Etape derniere = std::move(etapes_.back());
+    etapes_.pop_back();
+    f.regler_Timer(0);
+    derniere.avant.retablir(e, moteur_, f);
+    if (reprise_ != nullptr)
+        reprise_->ecrire_ou_prevenir(f);
+}

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "record/actions_console.h"
+#include "record/liste.h"
+#include "record/pose.h"
+#include "record/reprise.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The remote-control console without its window: drives one robot action by action and records
+/// what it does. Whoever shows it reads phase() after each call to enable its controls, and passes
+/// on what the engine asks of the console (Active_Desactive(True), montrer_course(false)) as
+/// action_finie().
+class Console {
+public:
+    enum class Phase {
+        arret, ///< not recording: the robot and its position can be chosen
+        repos, ///< recording: an action can be driven
+        action ///< recording, an action runs
+    };
+
+    /// @param reprise  receives what was recorded after each action; may be null
+    Console(Etat& etat, Fenetres& fenetres, Moteur& moteur, Reprise* reprise = nullptr)
+        : e(etat), f(fenetres), moteur_(moteur), reprise_(reprise) {}
+
+    Phase phase() const { return phase_; }
+    Entier16 robot() const { return robot_; }
+
+    /// Chooses the robot, 1..9; does nothing while recording. @returns its pose for the fields
+    ChampsPose VScroll1_Change(Entier16 numero);
+
+    /// "Début Enr." or "Fin Enr.". The start puts the robot on the position of the fields and
+    /// begins a run; the recorded actions then replace its trajectory from the first entry.
+    /// @throws ErreurExecution when a field is refused or the robot is not on the table: nothing
+    ///         has begun
+    void Command9_Click(const ChampsPose& champs);
+
+    /// A button: plays its action and records it. Both fields are read whatever the action.
+    /// Nothing happens unless phase() is repos.
+    /// @param legende  the button's caption
+    /// @throws ErreurExecution when a field is refused (phase() is still repos: nothing has begun)
+    ///         or when the recording cannot hold the action (phase() is action: it plays, and the
+    ///         trajectory may hold it)
+    void Command4_Click(std::string_view legende, const std::string& Text1,
+                        const std::string& Text4);
+
+    /// The engine's word that the action is over, or that the run has ended.
+    void action_finie();
+    /// Ends the running action where the robot stands; the next tick gives the buttons back. What
+    /// was recorded stays recorded.
+    void arreter_action();
+
+    /// "Annuler la dernière action" is possible: recording, and no robot moves.
+    bool annulation_possible() const;
+    /// Takes the last action back out of trajectory and generation table, both its rows where it
+    /// has a tile count, and puts the robots, the clock and the tile count back.
+    void annuler();
+
+    /// The actions of this recording, oldest first.
+    const std::vector<Etape>& etapes() const { return etapes_; }
+
+    /// Plays and records one action. The engine's clock runs after it, whatever is thrown.
+    void tele_action(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2);
+
+private:
+    struct Saisie {
+        std::string Text1, Text4;
+    };
+
+    void exiger_robot_sur_la_table() const;
+    void memoriser(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2);
+    void ajouter_au_trajet(Entier16 I, Entier16 p1, Entier16 p2);
+    void remplir_TableauAGenerer(const std::string& action);
+    void ajouter_ligne(Code code, std::uint8_t p1, std::uint8_t p2);
+
+    Etat& e;
+    Fenetres& f;
+    Moteur& moteur_;
+    Reprise* reprise_;
+    Phase phase_ = Phase::arret;
+    Entier16 robot_ = 1;
+    Saisie saisie_;
+    std::vector<Etape> etapes_;
+};
