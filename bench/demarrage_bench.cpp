@@ -50,6 +50,7 @@ int enfant(int argc, char** argv) {
 long lancer(const std::string& programme, std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), programme);
     std::vector<char*> argv;
+    argv.reserve(arguments.size() + 1);
     for (std::string& a : arguments)
         argv.push_back(a.data());
     argv.push_back(nullptr);
