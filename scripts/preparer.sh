@@ -5,10 +5,16 @@
 
 racine=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
+<<<<<<< HEAD
+# Accents in the texts and in file names, on a machine whose language was never set.
+[[ $(locale charmap 2>/dev/null) == UTF-8 ]] || export LC_ALL=C.UTF-8
+
+=======
+>>>>>>> infra
 # Building and starting the program. The fonts and x11-utils (xdpyinfo) serve at run time.
 PAQUETS_PROGRAMME=(
     ca-certificates cmake fonts-dejavu-core g++ libcli11-dev libqt6svg6 ninja-build
-    qt6-base-dev qt6-svg-dev x11-utils
+    qt6-base-dev qt6-svg-dev qt6-translations-l10n x11-utils
 )
 PAQUETS_WAYLAND=(qt6-wayland) # for a session without X at all
 # Tests: second compiler, sanitizers, lint, and a small desktop for the end-to-end test.

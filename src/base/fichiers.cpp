@@ -7,8 +7,12 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <cstdint>
+#include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -90,11 +94,39 @@ void vider_dossier_sur_disque(const fs::path& dossier) {
         ::fsync(d.numero()); // best effort: the rename itself has succeeded
 }
 
-// The number n of "<nom>.<n>", -1 for any other name.
-long numero_de_version(const std::string& candidat, const std::string& nom) {
-    if (!candidat.starts_with(nom + "."))
+// Present local time as "2026-03-01_14h05m09": copies sort by date, and no character of it is
+// special to a shell.
+std::string date_et_heure() {
+    const std::time_t maintenant = std::time(nullptr);
+    std::tm champs{};
+    ::localtime_r(&maintenant, &champs);
+    std::array<char, 32> tampon{};
+    const std::size_t n = std::strftime(tampon.data(), tampon.size(), "%Y-%m-%d_%Hh%Mm%S", &champs);
+    return {tampon.data(), n};
+}
+
+// Eight hexadecimal digits that stand for a file's folder (FNV-1a of its path).
+std::string cle_du_dossier(const fs::path& chemin) {
+    std::error_code erreur;
+    const fs::path absolu = fs::weakly_canonical(fs::absolute(chemin, erreur), erreur);
+    std::uint32_t cle = 2166136261U;
+    for (const char c : absolu.parent_path().string())
+        cle = (cle ^ static_cast<unsigned char>(c)) * 16777619U;
+    std::array<char, 9> tampon{};
+    std::snprintf(tampon.data(), tampon.size(), "%08x", static_cast<unsigned>(cle));
+    return tampon.data();
+}
+
+// The number n of "<nom>.<date>_<time>.<cle>.<n>", -1 for any other name.
+long numero_de_version(const std::string& candidat, const std::string& nom,
+                       const std::string& cle) {
+    constexpr std::size_t longueur_date = 19;
+    const std::string milieu = "." + cle + ".";
+    const std::size_t place = nom.size() + 1 + longueur_date;
+    if (!candidat.starts_with(nom + ".") || candidat.size() <= place ||
+        candidat.compare(place, milieu.size(), milieu) != 0)
         return -1;
-    const std::string suffixe = candidat.substr(nom.size() + 1);
+    const std::string suffixe = candidat.substr(place + milieu.size());
     if (suffixe.empty() || suffixe.size() > 9 ||
         suffixe.find_first_not_of("0123456789") != std::string::npos)
         return -1;
@@ -104,8 +136,12 @@ long numero_de_version(const std::string& candidat, const std::string& nom) {
 } // namespace
 
 std::string lire_octets(const fs::path& chemin, std::size_t maximum) {
+    return lire_octets_natif(chemin.c_str(), maximum);
+}
+
+std::string lire_octets_natif(const char* chemin, std::size_t maximum) {
     // Non-blocking, so that a FIFO in place of the file cannot hold the program up.
-    const Descripteur d(::open(chemin.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const Descripteur d(::open(chemin, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat etat {};
     if (!d.ouvert() || ::fstat(d.numero(), &etat) != 0)
         throw ErreurFichier(chemin, errno);
@@ -151,7 +187,8 @@ void remplacer_fichier(const fs::path& chemin, std::string_view octets) {
 }
 
 fs::path trouver_fichier(const fs::path& dossier, std::string_view nom) {
-    fs::path exact = dossier / nom;
+    // Put together as text: a name that begins with a separator stays below the directory.
+    fs::path exact(dossier.native() + "/" + std::string(nom));
     std::error_code erreur;
     if (fs::exists(exact, erreur))
         return exact;
@@ -175,15 +212,17 @@ fs::path sauvegarder_version(const fs::path& chemin, const fs::path& dossier) {
         throw ErreurFichier(dossier, erreur.value());
 
     const std::string nom = chemin.filename().string();
+    const std::string cle = cle_du_dossier(chemin);
     std::vector<std::pair<long, fs::path>> versions;
     for (fs::directory_iterator i(dossier, erreur), fin; !erreur && i != fin; i.increment(erreur)) {
-        const long numero = numero_de_version(i->path().filename().string(), nom);
+        const long numero = numero_de_version(i->path().filename().string(), nom, cle);
         if (numero >= 0)
             versions.emplace_back(numero, i->path());
     }
     std::sort(versions.begin(), versions.end());
     const long suivant = versions.empty() ? 1 : versions.back().first + 1;
-    fs::path copie = dossier / (nom + "." + std::to_string(suivant));
+    fs::path copie =
+        dossier / (nom + "." + date_et_heure() + "." + cle + "." + std::to_string(suivant));
     remplacer_fichier(copie, lire_octets(chemin));
     versions.emplace_back(suivant, copie);
     for (std::size_t i = 0; i + gardees < versions.size(); ++i)

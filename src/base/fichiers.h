@@ -13,6 +13,8 @@ inline constexpr std::size_t taille_maximale = std::size_t{32} << 20;
 /// The whole content of a regular file, as bytes. @throws ErreurFichier when it cannot be opened
 /// or read, is no regular file (directory, FIFO, device) or is larger than `maximum`
 std::string lire_octets(const std::filesystem::path& chemin, std::size_t maximum = taille_maximale);
+/// The same for a path as the system writes it: taking it apart costs a third of the reading.
+std::string lire_octets_natif(const char* chemin, std::size_t maximum = taille_maximale);
 
 /// Replaces (or creates) a file as a whole: written beside, flushed to the disk, renamed. Whatever
 /// happens, the file is either the old or the new one, and nothing is left beside it; a symbolic
@@ -26,8 +28,9 @@ void remplacer_fichier(const std::filesystem::path& chemin, std::string_view oct
 std::filesystem::path trouver_fichier(const std::filesystem::path& dossier, std::string_view nom);
 
 /// Keeps the present version of a file before it is replaced: copies it to
-/// `dossier`/<name>.<n>, n one above the highest there, and deletes all but the ten newest of that
-/// name. Does nothing when the file does not exist. @returns the copy's path (empty if none)
+/// `dossier`/<name>.<date>_<time>.<folder>.<n>, where <folder> tells files of the same name in
+/// different folders apart and n is one above the highest there; deletes all but the ten newest of
+/// that file. Does nothing when the file does not exist. @returns the copy's path (empty if none)
 /// @throws ErreurFichier
 std::filesystem::path sauvegarder_version(const std::filesystem::path& chemin,
                                           const std::filesystem::path& dossier);

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
 
 [[noreturn]] void lever_HorsTable(long long indice, long long dernier);
 
@@ -16,6 +17,9 @@ public:
 
     constexpr T& operator()(int i) { return cases_[verifie(i)]; }
     constexpr const T& operator()(int i) const { return cases_[verifie(i)]; }
+    /// Slots 1..n, their bounds checked once: for the loops of every tick.
+    constexpr std::span<T> premiers(int n) { return {cases_.data() + 1, verifie(n)}; }
+    constexpr std::span<const T> premiers(int n) const { return {cases_.data() + 1, verifie(n)}; }
     constexpr void remplir(const T& valeur) { cases_.fill(valeur); }
 
 private:

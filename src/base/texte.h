@@ -3,12 +3,13 @@
 #include "base/nombres.h"
 
 #include <array>
-#include <bit>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 // Text inside the program is UTF-8; bytes become UTF-8 once, when a file is read.
 
@@ -50,7 +51,7 @@ std::string_view premiers_caracteres(std::string_view texte, std::size_t n);
 /// ends with a line end has no further empty line.
 class Lignes {
 public:
-    explicit Lignes(std::string_view texte) : texte_(texte), lf_(texte.find('\n')) {}
+    explicit Lignes(std::string_view texte);
 
     /// The next line without its end, or nothing after the last one.
     std::optional<std::string_view> suivante();
@@ -58,7 +59,7 @@ public:
 private:
     std::string_view texte_;
     std::size_t debut_ = 0;
-    std::size_t lf_; ///< the next LF: looked for once, not again for every CR before it
+    bool cr_seul_ = false; ///< some CR is not followed by LF; else lines end at LF alone
 };
 
 /// Reads blanks, sign, digits, optional decimal part with ".", optional exponent.
@@ -122,15 +123,13 @@ public:
     std::string_view vue() const { return {octets_.data(), longueur}; }
     std::string_view sans_blancs() const { return rogner(vue()); }
     constexpr bool operator==(const Nom10& autre) const {
-        const auto a = std::bit_cast<Mots>(octets_);
-        const auto b = std::bit_cast<Mots>(autre.octets_);
-        return a == b;
+        if (std::is_constant_evaluated())
+            return octets_ == autre.octets_;
+        // Two machine words: the interpreter compares names at every step of every robot.
+        return std::memcmp(octets_.data(), autre.octets_.data(), sizeof octets_) == 0;
     }
 
 private:
     static constexpr std::size_t longueur = 10;
-    // Two machine words, zero beyond the tenth character: the interpreter compares names at every
-    // step of every robot.
-    using Mots = std::array<std::uint64_t, 2>;
-    alignas(8) std::array<char, sizeof(Mots)> octets_{};
+    alignas(8) std::array<char, 16> octets_{}; ///< zero beyond the tenth character
 };

@@ -39,7 +39,7 @@ void parler_francais(CLI::App& app) {
 }
 
 std::string en_francais(const CLI::ParseError& erreur) {
-    const std::string message = erreur.what();
+    std::string message = erreur.what();
     const auto nature = static_cast<CLI::ExitCodes>(erreur.get_exit_code());
     std::smatch morceaux;
     if (nature == CLI::ExitCodes::ExtrasError)

@@ -2,7 +2,6 @@
 
 #include "base/erreurs.h"
 #include "cli/francais.h"
-#include "cli/piloter.h"
 #include "cli/verbes.h"
 
 #include <iostream>
@@ -17,8 +16,9 @@ int executer(int argc, char** argv) {
     app.set_version_flag("--version", "tavolmex-cli " TAVOLMEX_VERSION, "Affiche la version");
     app.require_subcommand(1);
     int code = 0;
-    for (const auto declarer : {declarer_installer, declarer_verifier, declarer_simuler,
-                                declarer_dessiner, declarer_piloter})
+    for (const auto declarer :
+         {declarer_installer, declarer_verifier, declarer_simuler, declarer_dessiner,
+          declarer_piloter, declarer_generer, declarer_etiquettes})
         declarer(app, code);
     parler_francais(app);
     try {

@@ -1,4 +1,4 @@
-#include "cli/piloter.h"
+#include "cli/verbes.h"
 
 #include "cli/choix.h"
 #include "cli/commande.h"

@@ -8,3 +8,14 @@ void declarer_installer(CLI::App& app, int& code_de_sortie);
 void declarer_verifier(CLI::App& app, int& code_de_sortie);
 void declarer_simuler(CLI::App& app, int& code_de_sortie);
 void declarer_dessiner(CLI::App& app, int& code_de_sortie);
+/// The remote-control console without a window. Commands come from standard input, one a line; each
+/// is played to its end and recorded. The exit code is 2 after a command that is not understood,
+/// else as for the other verbs.
+void declarer_piloter(CLI::App& app, int& code_de_sortie);
+
+/// Generates a subroutine into a target as the generation window does; exit code 0 when the target
+/// was written, 1 when a check refuses it.
+void declarer_generer(CLI::App& app, int& code_de_sortie);
+/// Lists the labels of a PICBASIC file, or prints the body of one; exit code 1 when the file cannot
+/// be read or holds no such label.
+void declarer_etiquettes(CLI::App& app, int& code_de_sortie);

@@ -18,7 +18,7 @@ fs::path variable(const char* nom) {
 }
 
 fs::path dossier_personnel() {
-    const fs::path home = variable("HOME");
+    fs::path home = variable("HOME");
     if (!home.empty())
         return home;
     const passwd* compte = ::getpwuid(::geteuid());
@@ -48,7 +48,7 @@ fs::path dossier_application(const std::optional<fs::path>& demande) {
         return absolu(*demande);
     if (const fs::path voulu = variable("TAVOLMEX_DOSSIER"); !voulu.empty())
         return absolu(voulu);
-    if (const fs::path ici = dossier_executable(); !ici.empty() && ::access(ici.c_str(), W_OK) == 0)
+    if (fs::path ici = dossier_executable(); !ici.empty() && ::access(ici.c_str(), W_OK) == 0)
         return ici;
     return absolu(dossier_personnel() / "Tavolmex");
 }

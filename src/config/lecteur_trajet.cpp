@@ -1,6 +1,5 @@
 #include "config/lecteur_trajet.h"
 
-#include "config/ligne.h"
 #include "sim/actions.h"
 
 #include <algorithm>
@@ -8,16 +7,23 @@
 
 namespace {
 
-constexpr std::array sans_parametre{actions::FIN, actions::BALISE_DRO, actions::BALISE_GAU};
-constexpr std::array un_parametre{actions::PAUSE, actions::AVANCE, actions::RECULE, actions::DROITE,
-                                  actions::GAUCHE};
-constexpr std::array deux_parametres{actions::VIRAVDR, actions::VIRAVGA, actions::VIRARDR,
-                                     actions::VIRARGA};
-
-template <typename Liste>
-bool parmi(const Liste& liste, const Nom10& action) {
-    return std::find(liste.begin(), liste.end(), action) != liste.end();
-}
+struct Action {
+    Nom10 code;
+    int parametres;
+};
+constexpr std::array<Action, 13> connues{{{actions::AVANCE, 1},
+                                          {actions::VIRAVDR, 2},
+                                          {actions::VIRAVGA, 2},
+                                          {actions::PAUSE, 1},
+                                          {actions::RECULE, 1},
+                                          {actions::DROITE, 1},
+                                          {actions::GAUCHE, 1},
+                                          {actions::VIRARDR, 2},
+                                          {actions::VIRARGA, 2},
+                                          {actions::INIT, 3},
+                                          {actions::FIN, 0},
+                                          {actions::BALISE_DRO, 0},
+                                          {actions::BALISE_GAU, 0}}};
 
 // Unlike in the other files, the line is upper-cased as a whole first: any ASCII letter counts.
 bool contient_lettre_ou_chiffre(std::string_view ligne) {
@@ -26,22 +32,22 @@ bool contient_lettre_ou_chiffre(std::string_view ligne) {
     });
 }
 
-// The code is not trimmed: ten characters from the start of the line, up to the first comma. All
-// known ones are ASCII, so bytes will do.
-Nom10 code_de(std::string_view ligne) {
-    std::array<char, 10> tampon{};
-    const std::string_view code = ligne.substr(0, std::min(ligne.find(','), tampon.size()));
-    std::copy(code.begin(), code.end(), tampon.begin());
-    mettre_en_majuscules({tampon.data(), code.size()});
-    return std::string_view(tampon.data(), code.size());
+// Not trimmed: the ten characters from the start of the line, upper-cased. All known codes are
+// ASCII, so bytes will do.
+Nom10 code_de(std::string_view texte) {
+    std::array<char, 10> octets{};
+    const std::size_t n = std::min(texte.size(), octets.size());
+    std::transform(texte.begin(), texte.begin() + static_cast<std::ptrdiff_t>(n), octets.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
+    return std::string_view(octets.data(), n);
 }
 
-// After the code; a line without a comma is its own first field.
-Champs champs_de(std::string_view ligne) {
-    Champs champs(ligne);
-    if (ligne.find(',') != std::string_view::npos)
-        champs.suivant();
-    return champs;
+int parametres_de(const Nom10& code) {
+    for (const Action& action : connues) {
+        if (action.code == code)
+            return action.parametres;
+    }
+    refuser_cle(code.vue());
 }
 
 } // namespace
@@ -54,23 +60,27 @@ void LecteurTrajet::lire(std::string_view texte, Entier16 n, Entier16& NoLigne) 
 }
 
 void LecteurTrajet::lire_ligne(std::string_view ligne, Entier16 n) {
-    const Nom10 code = code_de(ligne);
-    if (code == actions::INIT)
-        return lire_pose(ligne, n);
-    Champs champs = champs_de(ligne);
-    if (parmi(deux_parametres, code)) {
+    // A line without a comma is its own code and its own first field.
+    const std::size_t virgule = ligne.find(',');
+    Champs champs(ligne.substr(virgule == std::string_view::npos ? 0 : virgule + 1));
+    const Nom10 code = code_de(ligne.substr(0, virgule));
+    switch (parametres_de(code)) {
+    case 3:
+        return lire_pose(champs, n);
+    case 2:
         parametre_ = champs.entier();
         parametre2_ = champs.dernier_entier();
-    } else if (parmi(un_parametre, code)) {
+        break;
+    case 1:
         parametre_ = champs.dernier_entier();
-    } else if (!parmi(sans_parametre, code)) {
-        refuser_cle(code.vue());
+        break;
+    default:
+        break;
     }
     ajouter(code, n);
 }
 
-void LecteurTrajet::lire_pose(std::string_view ligne, Entier16 n) {
-    Champs champs = champs_de(ligne);
+void LecteurTrajet::lire_pose(Champs& champs, Entier16 n) {
     const Entier16 x = champs.entier();
     const Entier16 y = champs.entier();
     e.CapInit(n) = simple(champs.dernier_entier());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/ligne.h"
 #include "sim/etat.h"
 
 #include <string_view>
@@ -19,7 +20,7 @@ public:
 
 private:
     void lire_ligne(std::string_view ligne, Entier16 n);
-    void lire_pose(std::string_view ligne, Entier16 n);
+    void lire_pose(Champs& champs, Entier16 n);
     void ajouter(const Nom10& action, Entier16 n);
 
     Etat& e;

@@ -12,7 +12,9 @@
 // commas, the first one is the key. Nothing here copies a line or allocates.
 
 /// The text before the first "#".
-std::string_view sans_commentaire(std::string_view ligne);
+inline std::string_view sans_commentaire(std::string_view ligne) {
+    return ligne.substr(0, ligne.find('#'));
+}
 
 /// Hands every line that counts, without its comment, to `lire`. Stops at the first exception.
 /// @param NoLigne  grows by one for every line, counted or not, before the line is looked at: after
@@ -48,7 +50,14 @@ public:
     explicit Champs(std::string_view ligne) : ligne_(ligne) {}
 
     /// The text up to the next comma. @throws ErreurLecture when there is none
-    std::string_view suivant();
+    std::string_view suivant() {
+        const std::size_t virgule = ligne_.find(',', debut_);
+        if (virgule == std::string_view::npos)
+            refuser();
+        const std::string_view champ = ligne_.substr(debut_, virgule - debut_);
+        debut_ = virgule + 1;
+        return champ;
+    }
     /// Everything after the last comma passed.
     std::string_view reste() const { return ligne_.substr(debut_); }
     /// Position of the last comma passed, the line's first character being 0; -1 before the first.
@@ -59,6 +68,8 @@ public:
     Entier16 dernier_entier() const { return lire_entier16(reste()); }
 
 private:
+    [[noreturn]] void refuser() const;
+
     std::string_view ligne_;
     std::size_t debut_ = 0;
 };

@@ -19,6 +19,15 @@ namespace {
 /// A reader accepts 32767 lines at most: this leaves more than a hundred characters for each.
 constexpr std::size_t taille_lisible = std::size_t{4} << 20;
 
+constexpr const char* nom_general = "Tavolmex.ini";
+constexpr const char* suite_table = " Table.ini";
+std::string suite_robot(int n) {
+    return " Robot" + std::to_string(n) + ".ini";
+}
+std::string suite_trajet(int n) {
+    return " Trajet" + std::to_string(n) + ".ini";
+}
+
 /// Writes a default file unless something of that name is there. A name that would lead out of the
 /// configuration directory is left alone, as one that cannot be written.
 template <typename Contenu>
@@ -27,7 +36,8 @@ void creer_si_absent(const fs::path& chemin, Contenu contenu) {
     if (fs::symlink_status(chemin, erreur).type() != fs::file_type::not_found)
         return;
     const std::string octets = contenu();
-    if (std::find(chemin.begin(), chemin.end(), "..") != chemin.end())
+    if (std::find(chemin.begin(), chemin.end(), "..") != chemin.end() ||
+        chemin.native().find('\0') != std::string::npos)
         return;
     try {
         remplacer_fichier(chemin, octets);
@@ -39,7 +49,10 @@ void creer_si_absent(const fs::path& chemin, Contenu contenu) {
 } // namespace
 
 Projet::Projet(Etat& etat, Fenetres& fenetres, fs::path dossier_application)
-    : e(etat), f(fenetres), dossier_(std::move(dossier_application)) {}
+    : e(etat),
+      f(fenetres),
+      dossier_(std::move(dossier_application)),
+      configuration_(dossier_configuration() / "") {}
 
 const fs::path& Projet::dossier_application() const {
     return dossier_;
@@ -47,22 +60,23 @@ const fs::path& Projet::dossier_application() const {
 fs::path Projet::dossier_configuration() const {
     return dossier_ / "Configuration";
 }
+fs::path Projet::trouver(const std::string& nom) const {
+    return trouver_fichier(dossier_configuration(), nom);
+}
 fs::path Projet::chemin_general() const {
-    return trouver_fichier(dossier_configuration(), "Tavolmex.ini");
+    return trouver(nom_general);
 }
 fs::path Projet::chemin(std::string_view suite) const {
-    // A name that begins with a separator stays below the directory.
-    const fs::path nom = fs::path(e.NomProjet + std::string(suite)).relative_path();
-    return trouver_fichier(dossier_configuration(), nom.native());
+    return trouver(e.NomProjet + std::string(suite));
 }
 fs::path Projet::chemin_table() const {
-    return chemin(" Table.ini");
+    return chemin(suite_table);
 }
 fs::path Projet::chemin_robot(int n) const {
-    return chemin(" Robot" + std::to_string(n) + ".ini");
+    return chemin(suite_robot(n));
 }
 fs::path Projet::chemin_trajet(int n) const {
-    return chemin(" Trajet" + std::to_string(n) + ".ini");
+    return chemin(suite_trajet(n));
 }
 
 void Projet::imposer_projet(std::string nom) {
@@ -89,15 +103,26 @@ void Projet::Installe() {
 }
 
 template <typename Lecteur>
-bool Projet::lire(const fs::path& chemin, const Entier16& NoLigne, Lecteur lecteur) {
+bool Projet::lire(const std::string& nom, const Entier16& NoLigne, Lecteur lecteur) {
+    // Other spellings are looked for only when there is no such file: looking takes longer than
+    // reading.
+    std::string chemin = configuration_ + nom;
+    const auto contenu = [&] {
+        try {
+            return lire_octets_natif(chemin.c_str(), taille_lisible);
+        } catch (const ErreurFichier&) {
+            chemin = trouver(nom).native();
+            return lire_octets_natif(chemin.c_str(), taille_lisible);
+        }
+    };
     try {
-        const std::string texte = en_utf8(lire_octets(chemin, taille_lisible));
+        const std::string texte = en_utf8(contenu());
         lecteur(std::string_view(texte));
         return true;
     } catch (const ErreurExecution&) { // NOLINT(bugprone-empty-catch)
         // Whatever happened, the message names the file and the line.
     }
-    f.message("Erreur lors de la lecture du fichier " + chemin.string() + " Ligne " +
+    f.message("Erreur lors de la lecture du fichier " + chemin + " Ligne " +
               std::to_string(NoLigne));
     return false;
 }
@@ -105,8 +130,7 @@ bool Projet::lire(const fs::path& chemin, const Entier16& NoLigne, Lecteur lecte
 void Projet::LoadGeneral() {
     const std::string ancien = std::exchange(e.NomProjet, "Defaut");
     Entier16 NoLigne;
-    lire(chemin_general(), NoLigne,
-         [&](std::string_view texte) { lire_general(texte, e, NoLigne); });
+    lire(nom_general, NoLigne, [&](std::string_view texte) { lire_general(texte, e, NoLigne); });
     if (projet_impose_)
         e.NomProjet = *projet_impose_;
     if (e.NomProjet != ancien && installation_)
@@ -118,7 +142,7 @@ void Projet::LoadTable() {
     vider_table(e);
     f.ecrire_LNom("");
     const auto nommer = [this](std::string_view nom) { f.ecrire_LNom(nom); };
-    if (!lire(chemin_table(), NoLigne,
+    if (!lire(e.NomProjet + suite_table, NoLigne,
               [&](std::string_view texte) { lire_table(texte, e, nommer, NoLigne); }))
         Init_Table_Old(e);
 }
@@ -127,7 +151,7 @@ void Projet::LoadRobot() {
     LecteurRobot lecteur(e);
     for (int n = 1; n <= robots_des_fichiers; ++n) {
         Entier16 NoLigne;
-        if (!lire(chemin_robot(n), NoLigne,
+        if (!lire(e.NomProjet + suite_robot(n), NoLigne,
                   [&](std::string_view texte) { lecteur.lire(texte, n, NoLigne); }))
             return Init_Robot_Old(e, n);
     }
@@ -137,7 +161,7 @@ void Projet::LoadTrajet() {
     LecteurTrajet lecteur(e);
     Entier16 NoLigne; // deliberately counts over all nine files
     for (int n = 1; n <= robots_des_fichiers; ++n) {
-        if (!lire(chemin_trajet(n), NoLigne,
+        if (!lire(e.NomProjet + suite_trajet(n), NoLigne,
                   [&](std::string_view texte) { lecteur.lire(texte, n, NoLigne); }))
             return Init_Jeu_Old(e);
     }

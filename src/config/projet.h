@@ -58,11 +58,13 @@ public:
 
 private:
     template <typename Lecteur>
-    bool lire(const std::filesystem::path& chemin, const Entier16& NoLigne, Lecteur lecteur);
+    bool lire(const std::string& nom, const Entier16& NoLigne, Lecteur lecteur);
+    std::filesystem::path trouver(const std::string& nom) const;
 
     Etat& e;
     Fenetres& f;
     std::filesystem::path dossier_;
+    std::string configuration_; ///< the directory Configuration, with a separator behind
     std::optional<std::string> projet_impose_;
     bool installation_ = true; ///< LoadGeneral may create files
 };

@@ -42,14 +42,15 @@ void Moteur::Chercher_Balise(std::uint8_t Sens, Entier16 i) {
     const double d = distance(e.Xextr(i), e.Yextr(i), balise.X, balise.Y);
     const double dmin = distance(e.Xm(i), e.Ym(i), balise.X, balise.Y);
     const double d2 = d + e.DistExtr(i);
-    f.ecrire_Info({.Xm = e.Xm(1),
-                   .Ym = e.Ym(1),
-                   .Xextr = e.Xextr(1),
-                   .Yextr = e.Yextr(1),
-                   .avec_balise = true,
-                   .d = d,
-                   .dmin = dmin,
-                   .d2 = d2});
+    info_ = {.Xm = e.Xm(1),
+             .Ym = e.Ym(1),
+             .Xextr = e.Xextr(1),
+             .Yextr = e.Yextr(1),
+             .avec_balise = true,
+             .d = d,
+             .dmin = dmin,
+             .d2 = d2};
+    f.ecrire_Info(info_);
     // To two decimals, the sensor line's end lies between its origin and the beacon: straight
     // ahead.
     if (std::round(dmin * 100) == std::round(d2 * 100))

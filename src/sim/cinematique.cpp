@@ -3,6 +3,41 @@
 
 #include <bit>
 #include <cmath>
+#include <span>
+
+namespace {
+
+// The loops over all robots, on rows that do not overlap, so that the compiler can pack them.
+// `simple` drops the precision once, at the end of each sum.
+void projeter(std::span<float> extremites, std::span<const float> origines,
+              std::span<const float> longueurs, double composante) {
+    float* __restrict vers = extremites.data();
+    const float* __restrict depuis = origines.data();
+    const float* __restrict longueur = longueurs.data();
+    for (std::size_t j = 0; j < extremites.size(); ++j)
+        vers[j] = simple(depuis[j] + longueur[j] * composante);
+}
+
+void decaler(std::span<float> positions, double ecart) {
+    for (float& p : positions)
+        p = simple(p + ecart);
+}
+
+struct Deplacement {
+    double x1, x2, y1, y2;
+};
+
+// From a point to the circle's centre and back to the circle: p - r cos a1 + r cos a2.
+void deplacer(std::span<float> xs, std::span<float> ys, const Deplacement& d) {
+    float* __restrict x = xs.data();
+    float* __restrict y = ys.data();
+    for (std::size_t j = 0; j < xs.size(); ++j) {
+        x[j] = simple(x[j] - d.x1 + d.x2);
+        y[j] = simple(y[j] - d.y1 + d.y2);
+    }
+}
+
+} // namespace
 
 void Moteur::Direction::viser(float nouveau_cap) {
     // Same bits, same cosine and sine: most ticks of a straight move compute none.
@@ -22,14 +57,18 @@ void Moteur::terminer(Entier16 i) {
 }
 
 void Moteur::ecrire_Info() {
-    f.ecrire_Info({.Xm = e.Xm(1), .Ym = e.Ym(1), .Xextr = e.Xextr(1), .Yextr = e.Yextr(1)});
+    info_.Xm = e.Xm(1);
+    info_.Ym = e.Ym(1);
+    info_.Xextr = e.Xextr(1);
+    info_.Yextr = e.Yextr(1);
+    info_.avec_balise = false;
+    f.ecrire_Info(info_);
 }
 
 void Moteur::placer_extremites(const Direction& d) {
-    for (int j = 1; j <= e.NbRobot; ++j) {
-        e.Xextr(j) = simple(e.Xm(j) + e.DistExtr(j) * d.c);
-        e.Yextr(j) = simple(e.Ym(j) + e.DistExtr(j) * d.s);
-    }
+    const int n = e.NbRobot;
+    projeter(e.Xextr.premiers(n), e.Xm.premiers(n), e.DistExtr.premiers(n), d.c);
+    projeter(e.Yextr.premiers(n), e.Ym.premiers(n), e.DistExtr.premiers(n), d.s);
 }
 
 void Moteur::Action_Pause(Entier16 duree, Entier16 i) {
@@ -44,10 +83,8 @@ void Moteur::Action_Avance(Entier16 distance, Entier16 i) {
 
     // Deliberate: every robot's sensor line moves, by the untrimmed step.
     const Direction& capteur = direction_capteur();
-    for (int j = 1; j <= e.NbRobot; ++j) {
-        e.Xm(j) = simple(e.Xm(j) + pas * capteur.c);
-        e.Ym(j) = simple(e.Ym(j) + pas * capteur.s);
-    }
+    decaler(e.Xm.premiers(e.NbRobot), pas * capteur.c);
+    decaler(e.Ym.premiers(e.NbRobot), pas * capteur.s);
     placer_extremites(capteur);
     ecrire_Info();
 
@@ -90,23 +127,36 @@ void Moteur::Action_Tourne(Entier16 angle, Entier16 i) {
     e.CapRobot(i) = simple(double{e.CapRobot(i)} + pas);
 }
 
-void Moteur::Action_Virage(Entier16 angle, Entier16 rayon, Entier16 cote, Entier16 i) {
+void Moteur::Arc::calculer(float nouvelle_vitesse, float nouvel_entraxe, Entier16 pas_temps,
+                           Entier16 nouveau_rayon, bool negatif) {
+    if (nouvelle_vitesse == vitesse && nouvel_entraxe == entraxe && pas_temps == PasTemps &&
+        nouveau_rayon == rayon && negatif == a_droite)
+        return;
     // The outer wheel, at Entraxe / 2 beyond the robot's own radius, keeps the linear speed:
     // w = v dt / (Entraxe / 2 + rayon), in radians.
-    double vitesse =
-        diviser(double{e.VitesseLin(i)} * e.PasTemps, double{e.Entraxe(i)} / 2 + rayon);
-    if (angle <= 0)
-        vitesse = -vitesse;
-    const float w = simple(vitesse);
-    float da = simple(double{w} * 180 / Pi);
+    double rapport =
+        diviser(double{nouvelle_vitesse} * pas_temps, double{nouvel_entraxe} / 2 + nouveau_rayon);
+    if (negatif)
+        rapport = -rapport;
+    const float w = simple(rapport);
+    pas = simple(double{w} * 180 / Pi);
+    vitesse = nouvelle_vitesse;
+    entraxe = nouvel_entraxe;
+    PasTemps = pas_temps;
+    rayon = nouveau_rayon;
+    a_droite = negatif;
+}
+
+void Moteur::Action_Virage(Entier16 angle, Entier16 rayon, Entier16 cote, Entier16 i) {
+    Arc& arc = arcs_(i);
+    arc.calculer(e.VitesseLin(i), e.Entraxe(i), e.PasTemps, rayon, angle <= 0);
+    float da = arc.pas;
     e.Progression(i) = simple(double{e.Progression(i)} + da);
     if (std::fabs(e.Progression(i)) >= std::fabs(static_cast<float>(angle))) {
         terminer(i);
         da = simple(angle - double{e.Progression(i)} + da);
     }
 
-    // x := x - r cos a1 + r cos a2, likewise y with the sines: from the robot to the centre and
-    // back to the circle.
     const double h = e.CapRobot(i);
     double c1 = 0;
     double s1 = 0;
@@ -114,12 +164,9 @@ void Moteur::Action_Virage(Entier16 angle, Entier16 rayon, Entier16 cote, Entier
     double s2 = 0;
     ::sincos(radians(cote + h), &s1, &c1);
     ::sincos(radians(da + h + cote), &s2, &c2);
-    const auto deplacer = [&](float& x, float& y) {
-        x = simple(x - rayon * c1 + rayon * c2);
-        y = simple(y - rayon * s1 + rayon * s2);
-    };
-    deplacer(e.XRobot(i), e.YRobot(i));
+    const Deplacement d{rayon * c1, rayon * c2, rayon * s1, rayon * s2};
+    e.XRobot(i) = simple(e.XRobot(i) - d.x1 + d.x2);
+    e.YRobot(i) = simple(e.YRobot(i) - d.y1 + d.y2);
     e.CapRobot(i) = simple(h + da);
-    for (int j = 1; j <= e.NbRobot; ++j)
-        deplacer(e.Xm(j), e.Ym(j));
+    deplacer(e.Xm.premiers(e.NbRobot), e.Ym.premiers(e.NbRobot), d);
 }

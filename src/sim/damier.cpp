@@ -65,8 +65,9 @@ struct Marche {
 // About how far the walk stays in the bands of step k, from the distance to their edges.
 int Marche::dernier_pas_estime(const Case& c, int k) const {
     const auto pas = [](const Bande& b, float v, double vitesse) {
-        const double reste = (vitesse < 0 ? b.bas - v : b.haut - v) / vitesse;
-        return reste < pas_maximum ? static_cast<int>(reste) : pas_maximum; // NaN: no limit
+        const double reste = vitesse < 0 ? b.bas - v : b.haut - v;
+        const bool loin = vitesse == 0 || !(std::fabs(reste) < std::fabs(vitesse) * pas_maximum);
+        return loin ? pas_maximum : static_cast<int>(reste / vitesse);
     };
     return std::min(k + std::min(pas(c.colonne, x(k), cosinus), pas(c.rangee, y(k), sinus)),
                     pas_maximum);

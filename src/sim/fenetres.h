@@ -16,7 +16,8 @@ public:
     /// The simulation clock, in milliseconds; 0 = stopped.
     virtual void regler_Timer(Entier16 ms) = 0;
     /// The status line and the sensor read-out. The values come, not the text: it is made only when
-    /// somebody looks at it.
+    /// somebody looks at it. The reference stays valid as long as the engine and keeps its values
+    /// until the next call: whoever shows them later may keep it.
     virtual void ecrire_Mess(const LigneMess& mess) = 0;
     virtual void ecrire_Info(const LigneInfo& info) = 0;
     /// The status label as plain text: the question of a path's saving.

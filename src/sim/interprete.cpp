@@ -1,7 +1,38 @@
 #include "sim/actions.h"
 #include "sim/moteur.h"
 
+#include <array>
 #include <string>
+#include <utility>
+
+Moteur::Code Moteur::Decodee::code_de(const Nom10& action) {
+    if (action == nom)
+        return code;
+    constexpr std::array<std::pair<Nom10, Code>, 15> codes{{
+        {actions::FIN, Code::FIN},
+        {actions::PAUSE, Code::PAUSE},
+        {actions::AVANCE, Code::AVANCE},
+        {actions::RECULE, Code::RECULE},
+        {actions::DROITE, Code::DROITE},
+        {actions::GAUCHE, Code::GAUCHE},
+        {actions::VIRAVDR, Code::VIRAVDR},
+        {actions::VIRAVGA, Code::VIRAVGA},
+        {actions::VIRARDR, Code::VIRARDR},
+        {actions::VIRARGA, Code::VIRARGA},
+        {actions::BALISE_DRO, Code::BALISE_DROITE},
+        {actions::BALISE_GAU, Code::BALISE_GAUCHE},
+        {actions::BD, Code::BALISE_DROITE},
+        {actions::BG, Code::BALISE_GAUCHE},
+        {actions::AUCUNE, Code::AUCUNE},
+    }};
+    nom = action;
+    code = Code::INCONNUE;
+    for (const auto& [connu, son_code] : codes) {
+        if (connu == action)
+            code = son_code;
+    }
+    return code;
+}
 
 bool Moteur::Executer_Actions() {
     try {
@@ -15,37 +46,44 @@ bool Moteur::Executer_Actions() {
 }
 
 void Moteur::executer(Entier16 i) {
-    using namespace actions;
-    const Nom10 action = e.ActionEnCours(i);
     const Entier16 p = e.ParamEnCours(i);
-    if (action == FIN)
+    switch (decodees_(i).code_de(e.ActionEnCours(i))) {
+    case Code::FIN:
         return;
-    if (action == PAUSE)
+    case Code::PAUSE:
         return Action_Pause(p, i);
-    if (action == AVANCE)
+    case Code::AVANCE:
         return Action_Avance(p, i);
-    if (action == RECULE)
+    case Code::RECULE:
         return Action_Avance(-p, i);
-    if (action == DROITE)
+    case Code::DROITE:
         return Action_Tourne(-p, i);
-    if (action == GAUCHE)
+    case Code::GAUCHE:
         return Action_Tourne(p, i);
-    if (action == VIRAVDR)
+    case Code::VIRAVDR:
         return Action_Virage(-p, e.Param2EnCours(i), 90, i);
-    if (action == VIRAVGA)
+    case Code::VIRAVGA:
         return Action_Virage(p, e.Param2EnCours(i), -90, i);
-    if (action == VIRARDR)
+    case Code::VIRARDR:
         return Action_Virage(-p, e.Param2EnCours(i), -90, i);
-    if (action == VIRARGA)
+    case Code::VIRARGA:
         return Action_Virage(p, e.Param2EnCours(i), 90, i);
-    if (action == BALISE_DRO || action == BD)
+    case Code::BALISE_DROITE:
         return Chercher_Balise(balise_droite, i);
-    if (action == BALISE_GAU || action == BG)
+    case Code::BALISE_GAUCHE:
         return Chercher_Balise(balise_gauche, i);
-    if (action == AUCUNE)
+    case Code::AUCUNE:
         return charger_action_suivante(i);
+    case Code::INCONNUE:
+        break;
+    }
+    signaler_action_inconnue(i);
+}
+
+void Moteur::signaler_action_inconnue(Entier16 i) {
     f.message("Erreur : L'action " + std::to_string(e.NumAction(i)) + " " +
-              std::string(action.vue()) + " du robot " + std::to_string(i) + " est inconnue !");
+              std::string(e.ActionEnCours(i).vue()) + " du robot " + std::to_string(i) +
+              " est inconnue !");
     Fin_Jeu();
 }
 

@@ -66,15 +66,16 @@ bool Moteur::Timer_Timer() {
             if (e.RobotTele != 0)
                 f.Active_Desactive(true); // the match ended a console action
         }
-        f.ecrire_Mess({.TempsEcoule = e.TempsEcoule,
-                       .NumAction = e.NumAction(1),
-                       .TrajNbActions = e.TrajNbActions(1),
-                       .ActionEnCours = e.ActionEnCours(1),
-                       .action_pour_l_unite = action_pour_l_unite,
-                       .Progression = e.Progression(1),
-                       .ParamEnCours = e.ParamEnCours(1),
-                       .Incidence = e.Incidence,
-                       .NbreCarreaux = e.NbreCarreaux});
+        mess_.TempsEcoule = e.TempsEcoule;
+        mess_.NumAction = e.NumAction(1);
+        mess_.TrajNbActions = e.TrajNbActions(1);
+        mess_.ActionEnCours = e.ActionEnCours(1);
+        mess_.action_pour_l_unite = action_pour_l_unite;
+        mess_.Progression = e.Progression(1);
+        mess_.ParamEnCours = e.ParamEnCours(1);
+        mess_.Incidence = e.Incidence;
+        mess_.NbreCarreaux = e.NbreCarreaux;
+        f.ecrire_Mess(mess_);
         return true;
     } catch (const ErreurExecution&) {
         return erreur_majeure(

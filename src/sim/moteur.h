@@ -51,8 +51,43 @@ private:
         void viser(float nouveau_cap);
     };
 
+    /// An arc's angular step in degrees, reused as long as nothing that it depends on changes.
+    struct Arc {
+        float vitesse = 0;
+        float entraxe = 0;
+        Entier16 PasTemps = -1; ///< none yet
+        Entier16 rayon;
+        bool a_droite = false;
+        float pas = 0;
+        void calculer(float nouvelle_vitesse, float nouvel_entraxe, Entier16 pas_temps,
+                      Entier16 nouveau_rayon, bool negatif);
+    };
+    enum class Code : std::uint8_t {
+        FIN,
+        PAUSE,
+        AVANCE,
+        RECULE,
+        DROITE,
+        GAUCHE,
+        VIRAVDR,
+        VIRAVGA,
+        VIRARDR,
+        VIRARGA,
+        BALISE_DROITE,
+        BALISE_GAUCHE,
+        AUCUNE,
+        INCONNUE
+    };
+    /// The last name decoded and its code: a robot's action stays the same for many ticks.
+    struct Decodee {
+        Nom10 nom;
+        Code code = Code::AUCUNE;
+        Code code_de(const Nom10& action);
+    };
+
     void executer(Entier16 i);
     void charger_action_suivante(Entier16 i);
+    [[gnu::noinline]] void signaler_action_inconnue(Entier16 i);
     void terminer(Entier16 i);
     void ecrire_Info();
     const Direction& direction_capteur();
@@ -61,6 +96,10 @@ private:
 
     Etat& e;
     Fenetres& f;
+    Tableau<Decodee, robots_max> decodees_;
     Direction incidence_;
     Tableau<Direction, robots_max> caps_;
+    Tableau<Arc, robots_max> arcs_;
+    LigneMess mess_;
+    LigneInfo info_;
 };

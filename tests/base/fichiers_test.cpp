@@ -9,6 +9,8 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <regex>
+#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -50,7 +52,7 @@ TEST(LireOctets, refuse_tout_de_suite_ce_qui_n_est_pas_un_fichier_lisible) {
         {d / "plein/x", "une partie du chemin n'est pas un dossier"},
         {d / std::string(300, 'x'), "le nom est trop long"}};
     for (const auto& [chemin, attendue] : cas)
-        EXPECT_EQ(raison([&] { lire_octets(chemin); }), attendue) << chemin;
+        EXPECT_EQ(raison([&c = chemin] { lire_octets(c); }), attendue) << chemin;
     if (::geteuid() != 0) {
         fs::permissions(d / "plein", fs::perms::none);
         EXPECT_EQ(raison([&] { lire_octets(d / "plein"); }), "accès refusé");
@@ -134,16 +136,25 @@ TEST(TrouverFichier, exact_d_abord_puis_sans_egard_a_la_casse) {
     EXPECT_EQ(trouver_fichier(d / "absent", "f"), d / "absent/f");
 }
 
-TEST(SauvegarderVersion, numerote_et_garde_les_dix_dernieres) {
+TEST(SauvegarderVersion, date_numerote_et_garde_les_dix_dernieres_de_chaque_fichier) {
     const DossierTemporaire d;
-    EXPECT_EQ(sauvegarder_version(d / "absent", d / "versions"), fs::path());
-    EXPECT_FALSE(fs::exists(d / "versions"));
+    const fs::path versions = d / "versions";
+    EXPECT_EQ(sauvegarder_version(d / "absent", versions), fs::path());
+    EXPECT_FALSE(fs::exists(versions));
     d.ecrire("versions/f.x", "not a version");
-    for (int i = 1; i <= 12; ++i)
-        EXPECT_EQ(sauvegarder_version(d.ecrire("f", std::to_string(i)), d / "versions"),
-                  d / ("versions/f." + std::to_string(i)));
-    EXPECT_EQ(entrees(d / "versions"), 11);
-    EXPECT_FALSE(fs::exists(d / "versions/f.2"));
-    EXPECT_EQ(d.lire("versions/f.3"), "3");
-    EXPECT_EQ(d.lire("versions/f.12"), "12");
+    const fs::path ailleurs = sauvegarder_version(d.ecrire("ailleurs/f", "0"), versions);
+    std::vector<fs::path> copies;
+    const std::regex nom(R"(f\.\d{4}-\d\d-\d\d_\d\dh\d\dm\d\d\.[0-9a-f]{8}\.(\d+))");
+    for (int i = 1; i <= 12; ++i) {
+        copies.push_back(sauvegarder_version(d.ecrire("f", std::to_string(i)), versions));
+        const std::string copie = copies.back().filename().string();
+        std::smatch numero;
+        ASSERT_TRUE(std::regex_match(copie, numero, nom)) << copie;
+        EXPECT_EQ(numero[1], std::to_string(i));
+        EXPECT_EQ(lire_octets(copies.back()), std::to_string(i));
+    }
+    EXPECT_EQ(entrees(versions), 12);
+    EXPECT_TRUE(fs::exists(ailleurs));
+    EXPECT_FALSE(fs::exists(copies[1]));
+    EXPECT_TRUE(fs::exists(copies[2]));
 }

@@ -85,6 +85,7 @@ TEST(Lignes, toutes_les_fins_de_ligne_sans_ligne_vide_de_trop) {
                                                         {"a\r\nb\nc\rd", {"a", "b", "c", "d"}},
                                                         {"a\n\r\nb", {"a", "", "b"}},
                                                         {"a\r\r\nb\r", {"a", "", "b"}},
+                                                        {"a\r\nb\r\nc", {"a", "b", "c"}},
                                                         {"a\r\n\r\n", {"a", ""}},
                                                         {"a\0b\nc"sv, {"a\0b"sv, "c"}}};
     for (const auto& [texte, attendu] : cas) {

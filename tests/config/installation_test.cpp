@@ -7,6 +7,7 @@
 #include <csignal>
 
 namespace fs = std::filesystem;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -70,11 +71,12 @@ TEST_F(Installation, ne_recree_que_ce_qui_manque) {
 }
 
 TEST_F(Installation, un_nom_de_projet_ne_sort_pas_de_la_configuration) {
-    for (const std::string nom : {"../x", "a/../../x", "/x", std::string("x\0y", 3).c_str()}) {
+    for (const auto nom : {"../x"sv, "a/../../x"sv, "/x"sv, "x\0y"sv}) {
         e.NomProjet = nom;
         projet.Installe();
         EXPECT_FALSE(fs::exists(d / "x Table.ini")) << nom;
         EXPECT_FALSE(fs::exists("/x Table.ini")) << nom;
+        EXPECT_FALSE(fs::exists(d / "Configuration/x")) << nom;
     }
 }
 

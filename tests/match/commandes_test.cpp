@@ -1,4 +1,4 @@
-#include "cli/ligne_de_commande.h"
+#include "outils/commande.h"
 #include "outils/dossier_temporaire.h"
 
 #include <gtest/gtest.h>
@@ -7,22 +7,6 @@
 #include <vector>
 
 namespace {
-
-struct Resultat {
-    int code;
-    std::string sortie, erreurs;
-};
-
-Resultat lancer(std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), "tavolmex-cli");
-    std::vector<char*> argv;
-    for (std::string& a : arguments)
-        argv.push_back(a.data());
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    const int code = executer_ligne_de_commande(static_cast<int>(argv.size()), argv.data());
-    return {code, testing::internal::GetCapturedStdout(), testing::internal::GetCapturedStderr()};
-}
 
 long compter(const std::string& texte, char c) {
     return std::count(texte.begin(), texte.end(), c);

@@ -26,7 +26,7 @@ public:
     std::filesystem::path operator/(std::string_view nom) const { return chemin_ / nom; }
 
     std::filesystem::path ecrire(std::string_view nom, std::string_view octets) const {
-        const std::filesystem::path fichier = chemin_ / nom;
+        std::filesystem::path fichier = chemin_ / nom;
         std::filesystem::create_directories(fichier.parent_path());
         std::ofstream(fichier, std::ios::binary) << octets;
         return fichier;

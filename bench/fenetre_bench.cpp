@@ -1,0 +1,203 @@
+// The main window's tick and painting, on the screen in memory.
+#include "comparer.h"
+
+#include "draw/robot.h"
+#include "draw/table.h"
+#include "ui/sim1.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <filesystem>
+#include <memory>
+
+namespace {
+
+using std::filesystem::path;
+
+/// A started simulator in the middle of a run, on the default project.
+struct Banc {
+    explicit Banc(int robots) {
+        std::filesystem::create_directories(dossier);
+        std::filesystem::current_path(dossier);
+        sim.Form_Load();
+        sim.options().choisir_robots(robots);
+        sim.moteur().Run_Jeu();
+        sim.regler_Timer(0); // the benchmark is the clock
+        QApplication::processEvents();
+    }
+    ~Banc() {
+        std::error_code ignoree;
+        std::filesystem::remove_all(dossier, ignoree);
+    }
+    /// A tick, until its pixels are in the window.
+    void tick() {
+        if (e.TempsEcoule > 8000)
+            e.TempsEcoule = 0;
+        sim.moteur().Timer_Timer();
+        QApplication::processEvents();
+    }
+
+    path dossier = std::filesystem::temp_directory_path() / "tavolmex-bench";
+    Sim1 sim{dossier, [](int) {}};
+    Etat& e = sim.etat();
+};
+
+/// The same window and tick, with plain labels for the two lines.
+class Etiquettes {
+public:
+    explicit Etiquettes(Etat& e) : e_(e) {
+        auto* colonne = new QVBoxLayout(&fenetre_);
+        colonne->setContentsMargins(0, 0, 0, 0);
+        colonne->setSpacing(0);
+        for (QWidget* w : std::initializer_list<QWidget*>{&Mess_, &Info_, &table_})
+            colonne->addWidget(w);
+        colonne->setStretch(2, 1);
+        fenetre_.resize(360, 680);
+        fenetre_.show();
+        QApplication::processEvents();
+    }
+    void tick(const LigneMess& mess, const LigneInfo& info) {
+        table_.Dessine_Table();
+        table_.Dessine_Robot();
+        Mess_.setText(texte_qt(mess.texte()));
+        Info_.setText(texte_qt(info.texte()));
+        QApplication::processEvents();
+    }
+
+private:
+    struct Muettes final : Fenetres {
+        void message(std::string_view) override {}
+        bool question(std::string_view) override { return false; }
+        void regler_Timer(Entier16) override {}
+        void ecrire_Mess(const LigneMess&) override {}
+        void ecrire_Info(const LigneInfo&) override {}
+        void ecrire_texte_Mess(std::string_view) override {}
+        void ecrire_LNom(std::string_view) override {}
+        void ecrire_nbre_carreaux(std::string_view) override {}
+        void Active_Desactive(bool) override {}
+        void Dessine_Table() override {}
+        void Dessine_Robot() override {}
+        void apres_actions() override {}
+        void montrer_course(bool) override {}
+        void montrer_logo(bool) override {}
+        void fin_du_programme() override {}
+    };
+
+    Etat& e_;
+    Muettes f_;
+    QWidget fenetre_;
+    QLabel Mess_, Info_;
+    Table table_{e_, f_, &fenetre_};
+};
+
+struct Lignes {
+    LigneMess mess;
+    LigneInfo info;
+};
+
+/// The values that the two lines show at this moment; they change with every call.
+Lignes valeurs(const Etat& e, int n) {
+    Lignes l;
+    l.mess.TempsEcoule = n;
+    l.mess.NumAction = 12;
+    l.mess.TrajNbActions = 33;
+    l.mess.ActionEnCours = l.mess.action_pour_l_unite = Nom10("AVANCE");
+    l.mess.Progression = static_cast<float>(n % 300);
+    l.mess.ParamEnCours = 300;
+    l.mess.Incidence = e.Incidence + static_cast<float>(n % 360) / 8;
+    l.info.Xm = static_cast<float>(n % 200);
+    l.info.Ym = static_cast<float>(n % 320);
+    return l;
+}
+
+/// The window's tick (robots' region, both lines) against the same with labels.
+void tick_de_la_fenetre(benchmark::State& state) {
+    Banc banc(static_cast<int>(state.range(0)));
+    Etiquettes etiquettes(banc.e);
+    int n = 0;
+    const auto bouger = [&] {
+        ++n;
+        for (int i = 1; i <= banc.e.NbRobot; ++i) {
+            banc.e.XRobot(i) = static_cast<float>(100 + (n + 20 * i) % 60);
+            banc.e.CapRobot(i) = static_cast<float>(n % 360);
+        }
+        return valeurs(banc.e, n);
+    };
+    comparer(
+        state,
+        [&] {
+            const Lignes l = bouger();
+            etiquettes.tick(l.mess, l.info);
+        },
+        [&] {
+            const Lignes l = bouger();
+            banc.sim.Dessine_Table();
+            banc.sim.Dessine_Robot();
+            banc.sim.ecrire_Mess(l.mess);
+            banc.sim.ecrire_Info(l.info);
+            QApplication::processEvents();
+        });
+}
+BENCHMARK(tick_de_la_fenetre)->Arg(1)->Arg(9)->Iterations(2000)->Unit(benchmark::kMicrosecond);
+
+/// 99th percentile of the window's tick, against its median.
+void regularite_du_tick(benchmark::State& state) {
+    Banc banc(1);
+    std::vector<double> durees;
+    for (auto _ : state) {
+        const auto debut = std::chrono::steady_clock::now();
+        banc.tick();
+        durees.push_back(
+            std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - debut)
+                .count());
+    }
+    std::sort(durees.begin(), durees.end());
+    const double mediane = durees[durees.size() / 2];
+    state.counters["mediane_us"] = mediane;
+    state.counters["rapport"] = durees[durees.size() * 99 / 100] / mediane;
+}
+BENCHMARK(regularite_du_tick)->Iterations(5000)->Unit(benchmark::kMicrosecond);
+
+/// Repainting a region of the window or all of it, against the same primitives painted straight on
+/// a picture of its size.
+void repeindre(benchmark::State& state) {
+    Banc banc(9);
+    auto& table = *dynamic_cast<Table*>(banc.sim.findChild<QWidget*>("Table"));
+    const QRect region =
+        state.range(0) != 0 ? table.rect() : QRect(table.rect().center(), QSize(60, 60));
+    QImage image(table.size(), QImage::Format_RGB32);
+    Contours contours;
+    peindre_robots(banc.e, contours);
+    comparer(
+        state,
+        [&] {
+            QPainter peintre(&image);
+            peintre.setClipRect(region);
+            SurfaceQt s(peintre, image.size());
+            s.coordonnees(-marge_table, banc.e.YMax + marge_table, banc.e.XMax + marge_table,
+                          -marge_table);
+            const Region avant = banc.e.ZoneRedessin;
+            banc.e.ZoneRedessin = {0, banc.e.XMax, 0, banc.e.YMax};
+            peindre_table(banc.e, s);
+            banc.e.ZoneRedessin = avant;
+            for (const Contours::Trait& t : contours)
+                s.ligne(t.x1, t.y1, t.x2, t.y2, t.couleur);
+        },
+        [&] { table.repaint(region); });
+}
+BENCHMARK(repeindre)->ArgName("tout")->Arg(0)->Arg(1)->Iterations(1000);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,28 @@
+// The smallest program with a window and a text: what the start of tavolmex is measured against.
+#include <QApplication>
+#include <QLabel>
+#include <QPaintEvent>
+#include <QTimer>
+
+namespace {
+
+class Fenetre final : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* evenement) override {
+        QLabel::paintEvent(evenement);
+        QTimer::singleShot(0, qApp, &QApplication::quit);
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    Fenetre fenetre("Bonjour");
+    fenetre.resize(400, 680);
+    fenetre.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,41 @@
+// Any bytes as a generation input file: statements or a refusal that names the line.
+
+#include "base/erreurs.h"
+#include "codegen/traduction.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace {
+
+void verifier(bool condition) {
+    if (!condition)
+        std::abort();
+}
+
+std::size_t nombre_de_lignes(std::string_view texte) {
+    std::size_t n = 0;
+    for (Lignes lignes(texte); const auto ligne = lignes.suivante(); ++n)
+        verifier(ligne->starts_with("\t'*** ") || ligne->starts_with("\tGosub ") ||
+                 ligne->starts_with("\tDelay ") || ligne->starts_with("\tVal_Action=") ||
+                 ligne->starts_with("\tNBRE_CARREAUX ="));
+    return n;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+    const std::string entree(octets, octets + taille);
+    std::size_t mouvements = 0;
+    std::string sortie;
+    try {
+        LecteurMouvements lecteur(entree, "entree.ini");
+        for (; const auto mouvement = lecteur.suivant(); ++mouvements)
+            traduire(*mouvement, "\r\n", sortie);
+    } catch (const ErreurExecution& erreur) {
+        verifier(std::string_view(erreur.what()).starts_with("entree.ini Ligne "));
+    }
+    const std::size_t lignes = nombre_de_lignes(sortie);
+    verifier(lignes >= mouvements && lignes <= 2 * mouvements);
+    return 0;
+}

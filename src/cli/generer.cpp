@@ -1,0 +1,122 @@
+#include "base/texte.h"
+#include "cli/verbes.h"
+#include "codegen/apercu.h"
+#include "codegen/generateur.h"
+#include "config/dossier.h"
+
+#include <unistd.h>
+
+#include <iostream>
+#include <memory>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct ChoixGenerer {
+    Demande demande;
+    std::string depart;
+    std::string entree;
+    std::string ecraser; ///< "oui", "non", or empty: ask
+    bool apercu = false;
+    std::optional<fs::path> dossier;
+};
+
+// The parser's form of a check: the complaint, empty when there is none.
+std::string oui_ou_non(const std::string& valeur) {
+    return valeur == "oui" || valeur == "non" ? "" : "répondre oui ou non";
+}
+
+// The answer of --ecraser, else the terminal's, else Non.
+bool repondre(const ChoixGenerer& choix, std::string_view question) {
+    if (!choix.ecraser.empty())
+        return choix.ecraser == "oui";
+    if (::isatty(STDIN_FILENO) == 0)
+        return false;
+    std::cerr << question << " [o/N] " << std::flush;
+    std::string reponse;
+    std::getline(std::cin, reponse);
+    reponse = minuscules(rogner(reponse));
+    return reponse == "o" || reponse == "oui";
+}
+
+char signe(SorteLigne sorte) {
+    if (sorte == SorteLigne::retiree)
+        return '-';
+    return sorte == SorteLigne::inseree || sorte == SorteLigne::ajoutee ? '+' : ' ';
+}
+
+void afficher_apercu(const Demande& demande, bool ecraser) {
+    const Apercu apercu = preparer_apercu(demande, ecraser);
+    for (const LigneApercu& ligne : apercu.lignes)
+        std::cout << signe(ligne.sorte) << ligne.texte << '\n';
+    for (const std::string& avertissement : apercu.avertissements)
+        std::cerr << "Avertissement : " << avertissement << '\n';
+}
+
+int executer(ChoixGenerer& choix) {
+    Demande& demande = choix.demande;
+    demande.depart = choix.depart;
+    demande.entree = choix.entree;
+    demande.CheminCourant = fs::absolute(demande.entree).parent_path().string();
+    if (const Refus refus = verifier(demande)) {
+        std::cerr << refus.message << '\n';
+        if (!refus.conseil.empty())
+            std::cerr << refus.conseil << '\n';
+        return 1;
+    }
+    if (choix.apercu) {
+        afficher_apercu(demande, choix.ecraser == "oui");
+        return 0;
+    }
+    const fs::path sauvegardes =
+        dossier_application(choix.dossier) / "Configuration" / "Sauvegardes";
+    const Generation generation =
+        generer(demande, sauvegardes,
+                [&choix](std::string_view question) { return repondre(choix, question); });
+    for (const fs::path& copie : generation.sauvegardes)
+        std::cout << "Copie de sauvegarde : " << copie.string() << '\n';
+    if (generation.depart_reecrit)
+        std::cout << "Fichier de départ modifié : " << choix.depart << '\n';
+    std::cout << "Fichier généré : " << demande.cible << '\n';
+    return 0;
+}
+
+void declarer_options(CLI::App& verbe, ChoixGenerer& choix) {
+    verbe.add_option("--depart", choix.depart, "Programme PICBASIC de départ (codé à la main)")
+        ->required()
+        ->type_name("FICHIER");
+    verbe.add_option("--entree", choix.entree, "Fichier de génération (« PourGenerer »)")
+        ->required()
+        ->type_name("FICHIER");
+    verbe.add_option("--cible", choix.demande.cible, "Fichier .bas à générer")
+        ->required()
+        ->type_name("FICHIER");
+    choix.demande.fonction = "TRAJECTOIRE";
+    verbe.add_option("--fonction", choix.demande.fonction, "Nom de la fonction générée")
+        ->type_name("NOM")
+        ->capture_default_str();
+    verbe.add_flag("--menu", choix.demande.menu, "Intégrer la fonction dans le menu PICBASIC");
+    verbe
+        .add_option("--ecraser", choix.ecraser,
+                    "Écraser une fonction du même nom : oui ou non (sans cette option, la question "
+                    "est posée sur le terminal)")
+        ->check(oui_ou_non)
+        ->type_name("oui|non");
+    verbe.add_flag("--apercu", choix.apercu,
+                   "Montrer ce qui changerait, avec les avertissements, sans rien écrire");
+    verbe
+        .add_option("--dossier", choix.dossier,
+                    "Dossier de l'application (celui qui contient Configuration)")
+        ->type_name("DOSSIER");
+}
+
+} // namespace
+
+void declarer_generer(CLI::App& app, int& code_de_sortie) {
+    const auto choix = std::make_shared<ChoixGenerer>();
+    CLI::App* verbe = app.add_subcommand(
+        "generer", "Génère le code PICBASIC d'un trajet dans le programme de l'équipe");
+    declarer_options(*verbe, *choix);
+    verbe->callback([choix, &code_de_sortie] { code_de_sortie = executer(*choix); });
+}

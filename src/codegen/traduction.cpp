@@ -1,0 +1,70 @@
+#include "codegen/traduction.h"
+
+#include "codegen/programme.h"
+
+#include <array>
+#include <utility>
+
+namespace {
+
+constexpr std::array<RegleTraduction, 8> regles{{
+    {"AVANCE", 7, "Val_Action=", "Action_Avance"},
+    {"RECULE", 7, "Val_Action=", "Action_Recule"},
+    {"GAUCHE", 7, "Val_Action=", "Action_Gauche"},
+    {"DROITE", 7, "Val_Action=", "Action_Droite"},
+    {"DELAY ", 7, "Delay ", ""},
+    {"BALDRO", 0, "", "position_balise"},
+    {"BALGAU", 0, "", "position_balise_g"},
+    {"CARREA", 9, "NBRE_CARREAUX =", "VERIFIER_NBRE_CARREAUX"},
+}};
+constexpr std::size_t longueur_cle = 6;
+
+const RegleTraduction* regle_de(std::string_view ligne) {
+    const std::string cle = majuscules(premiers_caracteres(ligne, longueur_cle));
+    for (const RegleTraduction& regle : regles) {
+        if (regle.cle == cle)
+            return &regle;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+std::span<const RegleTraduction> regles_de_traduction() {
+    return regles;
+}
+
+LecteurMouvements::LecteurMouvements(std::string_view octets, std::filesystem::path fichier)
+    : texte_(en_utf8(std::string(octets))), fichier_(std::move(fichier)), lignes_(texte_) {
+    lignes_.suivante();
+}
+
+std::optional<Mouvement> LecteurMouvements::suivant() {
+    const std::optional<std::string_view> ligne = lignes_.suivante();
+    if (!ligne)
+        return std::nullopt;
+    Mouvement m{++numero_, *ligne, regle_de(*ligne), 0};
+    if (m.regle == nullptr || m.regle->avant_valeur == 0)
+        return m;
+    const std::size_t debut = premiers_caracteres(*ligne, m.regle->avant_valeur).size();
+    try {
+        m.valeur = lire_entier16(ligne->substr(debut));
+    } catch (const ErreurConversion& erreur) {
+        refuser_ligne(fichier_, numero_, *ligne, erreur.what());
+    }
+    return m;
+}
+
+void traduire(const Mouvement& mouvement, std::string_view fin, std::string& sortie) {
+    if (mouvement.regle == nullptr) {
+        (sortie += "\t'*** ").append(mouvement.ligne).append(fin);
+        return;
+    }
+    const RegleTraduction& r = *mouvement.regle;
+    if (!r.affectation.empty()) {
+        const TexteCourt valeur = texte_entier(mouvement.valeur);
+        (sortie += '\t').append(r.affectation).append(valeur.vue()).append(fin);
+    }
+    if (!r.sous_programme.empty())
+        (sortie += "\tGosub ").append(r.sous_programme).append(fin);
+}

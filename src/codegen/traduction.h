@@ -1,0 +1,47 @@
+#pragma once
+
+#include "base/nombres.h"
+#include "base/texte.h"
+
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+/// How one kind of move becomes statements. The key is the line's first six characters.
+struct RegleTraduction {
+    std::string_view cle;
+    std::size_t avant_valeur = 0;    ///< characters before the value; 0: no value
+    std::string_view affectation;    ///< stands before the value; empty: no value
+    std::string_view sous_programme; ///< called after it; empty: none
+};
+
+std::span<const RegleTraduction> regles_de_traduction();
+
+/// One line of the generation input file.
+struct Mouvement {
+    std::size_t numero = 0; ///< line number, from 2
+    std::string_view ligne;
+    const RegleTraduction* regle = nullptr; ///< none: the line becomes a comment
+    Entier16 valeur;                        ///< cm, degrees, 1/100 s or tiles; 0 without a value
+};
+
+/// Reads a generation input file (bytes), move by move; its first line is dropped unread.
+class LecteurMouvements {
+public:
+    LecteurMouvements(std::string_view octets, std::filesystem::path fichier);
+
+    /// The next move, or nothing at the end. @throws ErreurExecution naming file, line number and
+    /// text when a value is missing, no number, or outside -32768..32767 once rounded
+    std::optional<Mouvement> suivant();
+
+private:
+    std::string texte_;
+    std::filesystem::path fichier_;
+    Lignes lignes_;
+    std::size_t numero_ = 1;
+};
+
+/// Appends the move's one or two statements, each behind a TAB.
+void traduire(const Mouvement& mouvement, std::string_view fin, std::string& sortie);

@@ -1,0 +1,53 @@
+#include "ui/application.h"
+
+#include "config/dossier.h"
+#include "ui/ligne_texte.h"
+#include "ui/sim1.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+// Qt's last word before it gives up, for instance when there is no display.
+void dire_et_finir(QtMsgType sorte, const QMessageLogContext&, const QString& texte) {
+    std::fprintf(stderr, "tavolmex : %s\n", qPrintable(texte));
+    if (sorte == QtFatalMsg)
+        std::_Exit(EXIT_FAILURE);
+}
+
+int executer(const std::filesystem::path& dossier, const std::function<void(Sim1&)>& prete) {
+    std::optional<int> code;
+    Sim1 sim(dossier, [&code](int sortie) {
+        code = sortie;
+        QCoreApplication::exit(sortie);
+    });
+    sim.Form_Load();
+    if (prete)
+        prete(sim);
+    return code ? *code : QApplication::exec();
+}
+
+} // namespace
+
+int executer_application(int& argc, char** argv,
+                         const std::optional<std::filesystem::path>& dossier,
+                         const std::function<void(Sim1&)>& prete) {
+    qInstallMessageHandler(dire_et_finir);
+    QApplication::setStyle("Fusion");
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName("Tavolmex");
+    QApplication::setWindowIcon(QIcon(":/tavolmex.svg"));
+    QTranslator francais;
+    if (francais.load("qtbase_fr", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&francais);
+    LigneTexte::installer_accessibilite();
+    const std::filesystem::path racine = dossier_application(dossier);
+    entrer_dans_dossier(racine);
+    return executer(racine, prete);
+}

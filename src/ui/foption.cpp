@@ -1,0 +1,127 @@
+#include "ui/foption.h"
+
+#include "sim/damier.h"
+#include "sim/orientation.h"
+#include "ui/boites.h"
+#include "ui/garde.h"
+#include "ui/sim1.h"
+
+QSize CaseLibelle::sizeHint() const {
+    return fontMetrics().size(Qt::TextShowMnemonic, text()).grownBy({0, 2, 0, 2});
+}
+
+FOption::FOption(Sim1& sim) : QWidget(&sim, Qt::Dialog | Qt::WindowCloseButtonHint), sim_(sim) {
+    nommer();
+    placer();
+    connecter();
+    Form_Load();
+}
+
+void FOption::appliquer(const Tableau<Entier16, 4>& Options) {
+    Check1.setChecked(Options(1) == 1);
+    Check2.setChecked(Options(2) == 1);
+    VScroll1.setValue(Options(3));
+    Check3.setChecked(Options(4) == 1);
+}
+
+ReglagesGeneraux FOption::reglages() const {
+    return {.rapide = Check1.isChecked(),
+            .allege = Check2.isChecked(),
+            .nb_robot = NbRO.text().toStdString(),
+            .horizontale = Check3.isChecked()};
+}
+
+void FOption::brancher(QPushButton& bouton, std::function<void()> procedure) {
+    bouton.setEnabled(true);
+    connect(&bouton, &QPushButton::clicked, this,
+            [this, procedure = std::move(procedure)] { garde(sim_, procedure); });
+}
+
+void FOption::choisir_robots(int nombre) {
+    retablir_plage();
+    VScroll1.setValue(nombre);
+}
+
+void FOption::montrer_course(bool en_cours) {
+    for (QWidget* reglage :
+         std::initializer_list<QWidget*>{&Check1, &Check2, &NbRO, &VScroll1, &Check4})
+        reglage->setEnabled(!en_cours);
+    Command1.setText(en_cours ? "Arrêter" : "Démarrer");
+}
+
+void FOption::Check1_Click(bool coche) {
+    sim_.etat().AffichageLent = vrai16(!coche);
+    modifie = true;
+}
+
+void FOption::Check2_Click(bool coche) {
+    sim_.etat().PasTemps = coche ? 5 : 1;
+    modifie = true;
+}
+
+void FOption::Check3_Click(bool coche) {
+    Etat& e = sim_.etat();
+    e.TableHorizontale = vrai16(coche);
+    if (coche)
+        horizontal(e);
+    else
+        vertical(e);
+    sim_.Init_Table();
+    e.persistant = true;
+    sim_.Dessine_Table();
+    if (!e.AffichageLent)
+        e.persistant = false;
+    sim_.Dessine_Robot();
+    modifie = true;
+}
+
+void FOption::VScroll1_Change(int valeur) {
+    NbRO.setText(QString::number(valeur));
+    NbRO_Change();
+    VScroll1.setMaximum(NbRO.text().toInt()); // deliberate: the number only goes down
+}
+
+void FOption::NbRO_Change() {
+    sim_.etat().NbRobot = lire_entier16(NbRO.text().toStdString());
+    sim_.Dessine_Table();
+    sim_.Dessine_Robot();
+    modifie = true;
+}
+
+void FOption::utiliDamier_Click(bool coche) {
+    sim_.etat().utiliDamier = coche;
+    if (coche)
+        initDamier(sim_.etat());
+    lb_utilcarreaux.setVisible(coche);
+    nbre_carreaux.setVisible(coche);
+}
+
+void FOption::Command1_Click() {
+    if (Command1.text() == "Arrêter") {
+        sim_.moteur().Fin_Jeu();
+        return;
+    }
+    sim_.etat().RobotTele = 0;
+    sim_.moteur().Run_Jeu();
+}
+
+void FOption::Command4_Click() {
+    sim_.SaveGeneral();
+    sim_.SauvRobot();
+    sim_.terminer(0);
+}
+
+void FOption::connecter() {
+    const auto suivre = [this](QCheckBox& boite, void (FOption::*procedure)(bool)) {
+        connect(&boite, &QCheckBox::toggled, this,
+                [this, procedure](bool coche) { garde(sim_, [&] { (this->*procedure)(coche); }); });
+    };
+    suivre(Check1, &FOption::Check1_Click);
+    suivre(Check2, &FOption::Check2_Click);
+    suivre(Check3, &FOption::Check3_Click);
+    suivre(utiliDamier, &FOption::utiliDamier_Click);
+    connect(&VScroll1, &QScrollBar::valueChanged, this,
+            [this](int valeur) { garde(sim_, [&] { VScroll1_Change(valeur); }); });
+    brancher(Command1, [this] { Command1_Click(); });
+    brancher(Command4, [this] { Command4_Click(); });
+}

@@ -1,0 +1,145 @@
+#include "ui/ligne_texte.h"
+
+#include "ui/boites.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <type_traits>
+
+namespace {
+
+constexpr int marge = 6; ///< logical pixels left and right of the text
+constexpr int marge_verticale = 3;
+
+// A static text whose name is the line.
+class LigneAccessible final : public QAccessibleWidget {
+public:
+    explicit LigneAccessible(LigneTexte& ligne)
+        : QAccessibleWidget(&ligne, QAccessible::StaticText), ligne_(ligne) {}
+
+    QString text(QAccessible::Text sorte) const override {
+        return sorte == QAccessible::Name ? ligne_.texte() : QAccessibleWidget::text(sorte);
+    }
+
+private:
+    LigneTexte& ligne_;
+};
+
+QAccessibleInterface* fabriquer(const QString&, QObject* objet) {
+    auto* ligne = dynamic_cast<LigneTexte*>(objet);
+    return ligne != nullptr ? new LigneAccessible(*ligne) : nullptr;
+}
+
+/// Where a status line may go on below.
+struct Coupes {
+    std::size_t action; ///< its "Action"
+    std::size_t mesure; ///< what follows the action's name
+};
+
+// Three runs of blanks: at the start, before "Action" and after the action's name.
+Coupes coupes(std::string_view texte) {
+    std::array<std::size_t, 3> fins{};
+    std::size_t fin = 0;
+    for (std::size_t& f : fins) {
+        fin = std::min(texte.find_first_not_of(' ', texte.find("  ", fin)), texte.size());
+        f = fin;
+    }
+    return {fins[1], fins[2]};
+}
+
+} // namespace
+
+LigneTexte::LigneTexte(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void LigneTexte::installer_accessibilite() {
+    QAccessible::installFactory(fabriquer);
+}
+
+QString LigneTexte::texte() const {
+    return std::visit(
+        [](const auto& contenu) {
+            if constexpr (std::is_same_v<std::decay_t<decltype(contenu)>, std::string>)
+                return texte_qt(contenu);
+            else
+                return texte_qt(contenu.texte());
+        },
+        contenu_);
+}
+
+int LigneTexte::hauteur(int largeur) const {
+    constexpr std::string_view usuel = "     Durée : 1 mn 30 s     Action 100/100 en cours : "
+                                       "BALISE DRO  -100/100 cm Incidence:359.5 Nbre carreaux:100";
+    const auto tient = [&](std::string_view t) {
+        return fontMetrics().horizontalAdvance(texte_qt(rogner(t))) + 2 * marge <= largeur;
+    };
+    const int lignes = tient(usuel) ? 1 : tient(usuel.substr(0, coupes(usuel).mesure)) ? 2 : 3;
+    const int h = fontMetrics().height() * lignes + 2 * marge_verticale;
+    return h + h % 2; // even: the table lies on whole pixels at 150 % as well
+}
+
+void LigneTexte::changer(const Contenu& contenu) {
+    contenu_ = contenu;
+    if (isVisible())
+        ranger();
+}
+
+int LigneTexte::rangees_possibles() const {
+    return std::clamp((height() - 2 * marge_verticale) / fontMetrics().height(), 1, rangees_max);
+}
+
+QRect LigneTexte::place(int numero) const {
+    const int h = fontMetrics().height();
+    return {0, marge_verticale + numero * h, width(), h};
+}
+
+// Lays the values out on the lines there are.
+void LigneTexte::ranger() {
+    if (std::holds_alternative<std::string>(contenu_)) {
+        rangees_ = {};
+        update();
+        return;
+    }
+    const auto* mess = std::get_if<LigneMess>(&contenu_);
+    const TexteCourt texte =
+        mess != nullptr ? mess->texte() : std::get<LigneInfo>(contenu_).texte();
+    const std::string_view t = texte;
+    const int n = mess != nullptr ? rangees_possibles() : 1;
+    const Coupes c = coupes(t);
+    const std::size_t fin_0 = n == 1 ? t.size() : n == 2 ? c.mesure : c.action;
+    const std::size_t fin_1 = n == 3 ? c.mesure : t.size();
+    ecrire_rangee(0, n == 1 ? t : rogner(t.substr(0, fin_0)));
+    ecrire_rangee(1, rogner(t.substr(fin_0, fin_1 - fin_0)));
+    ecrire_rangee(2, rogner(t.substr(fin_1)));
+}
+
+void LigneTexte::ecrire_rangee(int numero, std::string_view texte) {
+    TexteCourt& rangee = rangees_[static_cast<std::size_t>(numero)];
+    if (rangee.vue() == texte)
+        return;
+    rangee.vider();
+    rangee.ajouter(texte);
+    update(place(numero));
+}
+
+void LigneTexte::paintEvent(QPaintEvent* evenement) {
+    QPainter peintre(this);
+    peintre.fillRect(evenement->rect(), palette().window());
+    peintre.setPen(palette().color(QPalette::WindowText));
+    if (const auto* libre = std::get_if<std::string>(&contenu_)) {
+        peintre.drawText(rect().adjusted(marge, 0, -marge, 0), Qt::AlignVCenter | Qt::TextWordWrap,
+                         texte_qt(*libre));
+        return;
+    }
+    for (int i = 0; i < rangees_max; ++i) {
+        const QRect r = place(i);
+        if (r.intersects(evenement->rect()))
+            peintre.drawText(marge, r.top() + fontMetrics().ascent(),
+                             texte_qt(rangees_[static_cast<std::size_t>(i)]));
+    }
+}

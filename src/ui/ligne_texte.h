@@ -1,0 +1,49 @@
+#pragma once
+
+#include "sim/textes_etat.h"
+
+#include <QWidget>
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <variant>
+
+/// A line of read-outs that changes with every tick. Unlike a label it keeps the values and makes
+/// the text only when it is painted or when an assistive tool asks for it, and a new text never
+/// re-lays out the window; only the lines
+/// that changed are repainted. Where it is narrow, a status line breaks before "Action" and after
+/// the action's name.
+class LigneTexte final : public QWidget {
+public:
+    explicit LigneTexte(QWidget* parent);
+
+    void ecrire(const LigneMess& valeurs) { changer(valeurs); }
+    void ecrire(const LigneInfo& valeurs) { changer(valeurs); }
+    void ecrire(std::string_view texte) { changer(std::string(texte)); }
+    QString texte() const;
+
+    /// Height (logical pixels) for a width: one to three lines, as the longest usual text asks.
+    int hauteur(int largeur) const;
+
+    /// Tells the assistive tools about this class; once, before the first window.
+    static void installer_accessibilite();
+
+protected:
+    void paintEvent(QPaintEvent* evenement) override;
+    void resizeEvent(QResizeEvent*) override { ranger(); }
+    void showEvent(QShowEvent*) override { ranger(); }
+
+private:
+    using Contenu = std::variant<std::string, LigneMess, LigneInfo>;
+    static constexpr int rangees_max = 3;
+
+    void changer(const Contenu& contenu);
+    void ranger();
+    void ecrire_rangee(int numero, std::string_view texte);
+    int rangees_possibles() const;
+    QRect place(int numero) const;
+
+    Contenu contenu_;
+    std::array<TexteCourt, rangees_max> rangees_; ///< what is on the screen, line by line
+};

@@ -1,0 +1,62 @@
+#include "ui/logo.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace {
+
+constexpr int marge = 8; ///< logical pixels around the banner's text
+constexpr int drapeaux = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+
+QPixmap dessiner(QSize taille, qreal densite) {
+    QPixmap image(taille * densite);
+    image.setDevicePixelRatio(densite);
+    image.fill(Qt::transparent);
+    QPainter peintre(&image);
+    QSvgRenderer(QStringLiteral(":/logo.svg")).render(&peintre, QRectF({0, 0}, taille));
+    return image;
+}
+
+} // namespace
+
+Logo::Logo(QWidget* parent) : QWidget(parent) {
+    setCursor(Qt::PointingHandCursor);
+}
+
+void Logo::paintEvent(QPaintEvent*) {
+    const qreal densite = devicePixelRatioF();
+    if (image_.size() != size() * densite)
+        image_ = dessiner(size(), densite);
+    QPainter(this).drawPixmap(0, 0, image_);
+}
+
+void Logo::mouseReleaseEvent(QMouseEvent* evenement) {
+    if (evenement->button() == Qt::LeftButton && au_clic)
+        au_clic();
+}
+
+Banniere::Banniere(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+}
+
+void Banniere::placer(const QRect& logo) {
+    haut_du_texte_ = logo.height();
+    setGeometry(logo);
+    const QRect texte = fontMetrics().boundingRect(zone_du_texte(), drapeaux, text().trimmed());
+    resize(logo.width(), haut_du_texte_ + texte.height() + marge);
+}
+
+QRect Banniere::zone_du_texte() const {
+    return {marge, haut_du_texte_, width() - 2 * marge, 1 << 14};
+}
+
+void Banniere::paintEvent(QPaintEvent*) {
+    QPainter peintre(this);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(QColor(6, 58, 26, 235));
+    peintre.drawRoundedRect(rect(), 10, 10);
+    peintre.setPen(Qt::white);
+    peintre.drawText(zone_du_texte(), drapeaux, text().trimmed());
+}

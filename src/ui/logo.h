@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QLabel>
+#include <QPixmap>
+#include <QWidget>
+
+#include <functional>
+
+/// The project's picture over the middle of the table; crisp at every size and density.
+class Logo final : public QWidget {
+public:
+    explicit Logo(QWidget* parent);
+    std::function<void()> au_clic;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent*) override {}
+    void mouseReleaseEvent(QMouseEvent* evenement) override;
+
+private:
+    QPixmap image_;
+};
+
+/// The project's banner: a card behind the logo, with the text below it. The line breaks that push
+/// the text down from the picture's top are not shown as such.
+class Banniere final : public QLabel {
+public:
+    explicit Banniere(QWidget* parent);
+    /// @param logo  where the logo lies; the card has the same left, top and width
+    void placer(const QRect& logo);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    QRect zone_du_texte() const;
+    int haut_du_texte_ = 0;
+};

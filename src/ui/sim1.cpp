@@ -1,0 +1,186 @@
+#include "ui/sim1.h"
+
+#include "draw/table.h"
+#include "sim/damier.h"
+#include "sim/disposition.h"
+#include "sim/orientation.h"
+#include "ui/garde.h"
+
+#include <QCloseEvent>
+#include <QMenu>
+
+Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(int)> terminer)
+    : e(std::make_unique<Etat>()),
+      terminer_(std::move(terminer)),
+      projet_(*e, *this, dossier_application),
+      moteur_(*e, *this),
+      Mess(this),
+      Info(this),
+      Table(*e, *this, this),
+      LNom(&Table),
+      logo(&Table),
+      options_(*this) {
+    nommer();
+    connecter();
+}
+
+Sim1::~Sim1() = default;
+
+void Sim1::nommer() {
+    const auto nom = [](QObject& objet, const char* texte) { objet.setObjectName(texte); };
+    nom(*this, "Sim1");
+    nom(Timer, "Timer");
+    nom(Mess, "Mess");
+    nom(Info, "Info");
+    nom(Table, "Table");
+    nom(LNom, "LNom");
+    nom(logo, "logo");
+    setWindowTitle("Tavolmex");
+    setMinimumSize(160, 160);
+    Timer.setTimerType(Qt::PreciseTimer);
+    Table.setAccessibleName("Aire de jeu");
+    Table.setAccessibleDescription("Affiche les options");
+    Table.setContextMenuPolicy(Qt::CustomContextMenu);
+    logo.setAccessibleName("Logo");
+}
+
+void Sim1::connecter() {
+    connect(&Timer, &QTimer::timeout, this, [this] { Timer_Timer(); });
+    connect(&Table, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& ou) { garde(*this, [&] { menu_robots(ou); }); });
+    Table.au_clic = [this] { garde(*this, [this] { Table_Click(); }); };
+    logo.au_clic = [this] { garde(*this, [this] { logo_Click(); }); };
+}
+
+void Sim1::Form_Load() {
+    garde(*this, [this] {
+        // Shown at the end, or under the first message: a window manager heeds the place and the
+        // size that a window asks for before it appears, and the user sees no half-made window.
+        move(screen()->availableGeometry().topLeft());
+        e->NomProjet = "Defaut";
+        ecrire_LNom("\r\n\r\nArdanel Fichier de configuration par défaut");
+        Info.ecrire("");
+        charger_projet();
+    });
+    if (terminee_)
+        return;
+    garde(*this, [this] {
+        options_.appliquer(e->Options);
+        options_.modifie = false;
+        Dessine_Table();
+        Dessine_Robot();
+    });
+    if (terminee_)
+        return;
+    show();
+    Table_Click();
+}
+
+void Sim1::charger_projet() {
+    projet_.Installe();
+    projet_.LoadGeneral();
+    projet_.LoadTable();
+    Init_Table();
+    projet_.Init_Robot();
+    projet_.Init_Jeu();
+    initDamier(*e);
+    if (e->TableHorizontale)
+        horizontal(*e);
+}
+
+void Sim1::Table_Click() {
+    options_.show();
+    options_.raise();
+    options_.activateWindow();
+}
+
+void Sim1::SaveGeneral() {
+    if (options_.modifie)
+        projet_.SaveGeneral(e->NomProjet, options_.reglages());
+}
+
+void Sim1::Timer_Timer() {
+    // A message box lets the clock run on underneath: the ticks wait until it is closed.
+    if (boites_.ouverte() || terminee_)
+        return;
+    garde(*this, [this] { moteur_.Timer_Timer(); });
+}
+
+void Sim1::menu_robots(const QPoint& ou) {
+    if (!options_.robots_modifiables())
+        return;
+    QMenu menu("Nombre de robots", &Table);
+    menu.setObjectName("menu_robots");
+    menu.addSection("Nombre de robots");
+    for (int n = 1; n <= robots_des_fichiers; ++n) {
+        QAction* choix = menu.addAction(QString::number(n));
+        choix->setCheckable(true);
+        choix->setChecked(n == e->NbRobot);
+        choix->setData(n);
+    }
+    if (const QAction* choix = menu.exec(Table.mapToGlobal(ou)))
+        options_.choisir_robots(choix->data().toInt());
+}
+
+void Sim1::terminer(int code_de_sortie) {
+    if (terminee_)
+        return;
+    terminee_ = true;
+    Timer.stop();
+    terminer_(code_de_sortie);
+}
+
+void Sim1::Form_Unload() {
+    options_.Command4_Click();
+}
+
+void Sim1::closeEvent(QCloseEvent* evenement) {
+    evenement->accept();
+    if (!terminee_)
+        garde(*this, [this] { Form_Unload(); });
+}
+
+void Sim1::message(std::string_view texte) {
+    show();
+    boites_.message(texte);
+}
+
+bool Sim1::question(std::string_view texte) {
+    show();
+    return boites_.question(texte);
+}
+
+void Sim1::regler_Timer(Entier16 ms) {
+    if (ms > 0)
+        Timer.start(ms);
+    else
+        Timer.stop();
+}
+
+void Sim1::ecrire_LNom(std::string_view texte) {
+    LNom.setText(texte_qt(texte));
+    placer_logo();
+}
+
+void Sim1::ecrire_nbre_carreaux(std::string_view texte) {
+    options_.nbre_carreaux.setText(texte_qt(texte));
+}
+
+void Sim1::Dessine_Table() {
+    if (!terminee_)
+        Table.Dessine_Table();
+}
+
+void Sim1::Dessine_Robot() {
+    if (!terminee_)
+        Table.Dessine_Robot();
+}
+
+void Sim1::montrer_logo(bool visible) {
+    logo.setVisible(visible);
+    LNom.setVisible(visible);
+}
+
+void Sim1::fin_du_programme() {
+    terminer(3);
+}

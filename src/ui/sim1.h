@@ -1,0 +1,91 @@
+#pragma once
+
+#include "config/projet.h"
+#include "sim/fenetres.h"
+#include "sim/moteur.h"
+#include "ui/boites.h"
+#include "ui/foption.h"
+#include "ui/ligne_texte.h"
+#include "ui/logo.h"
+#include "ui/table.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+/// The main window: owns the simulation's state, the engine, the project's files, the clock and the
+/// options window. The other windows reach the state through it.
+class Sim1 final : public QWidget, public Fenetres {
+public:
+    /// @param dossier_application  holds the directory Configuration
+    /// @param terminer             ends the program with an exit code; called once
+    Sim1(const std::filesystem::path& dossier_application, std::function<void(int)> terminer);
+    ~Sim1() override;
+
+    /// The start-up. May ask for the end of the program: see terminee().
+    void Form_Load();
+    /// Sizes the window for the table's extent and puts the options window beside it.
+    void Init_Table();
+    void Table_Click();
+    void logo_Click() { Table_Click(); }
+    /// Offers to save the paths that were recorded since the last saving.
+    void SauvRobot() {}
+    /// Writes the general settings if they were modified.
+    void SaveGeneral();
+    /// Ends the program; nothing of it runs any more afterwards.
+    void terminer(int code_de_sortie);
+    bool terminee() const { return terminee_; }
+
+    Etat& etat() { return *e; }
+    Moteur& moteur() { return moteur_; }
+    Projet& projet() { return projet_; }
+    FOption& options() { return options_; }
+
+    void message(std::string_view texte) override;
+    bool question(std::string_view texte) override;
+    void regler_Timer(Entier16 ms) override;
+    void ecrire_Mess(const LigneMess& mess) override { Mess.ecrire(mess); }
+    void ecrire_texte_Mess(std::string_view texte) override { Mess.ecrire(texte); }
+    void ecrire_Info(const LigneInfo& info) override { Info.ecrire(info); }
+    void ecrire_LNom(std::string_view texte) override;
+    void ecrire_nbre_carreaux(std::string_view texte) override;
+    void Active_Desactive(bool) override {}
+    void Dessine_Table() override;
+    void Dessine_Robot() override;
+    void apres_actions() override {}
+    void montrer_course(bool en_cours) override { options_.montrer_course(en_cours); }
+    void montrer_logo(bool visible) override;
+    void fin_du_programme() override;
+
+protected:
+    void closeEvent(QCloseEvent* evenement) override;
+    void resizeEvent(QResizeEvent*) override { placer(); }
+
+private:
+    void nommer();
+    void connecter();
+    void placer();
+    void placer_logo();
+    void placer_options();
+    struct MesuresEcran mesures(int largeur_Mess) const;
+    void charger_projet();
+    void Timer_Timer();
+    void menu_robots(const QPoint& ou);
+    void Form_Unload();
+
+    std::unique_ptr<Etat> e;
+    std::function<void(int)> terminer_;
+    bool terminee_ = false;
+    Boites boites_{*this};
+    Projet projet_;
+    Moteur moteur_;
+    QTimer Timer{this};
+    LigneTexte Mess, Info;
+    ::Table Table;
+    Banniere LNom;
+    Logo logo;
+    QSize taille_Table_; ///< logical pixels that Init_Table chose: only their ratio counts
+    FOption options_;
+};

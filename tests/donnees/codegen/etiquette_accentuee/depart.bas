@@ -1,0 +1,3 @@
+PARCOURS_ÉTÉ:
+return
+End

@@ -1,0 +1,7 @@
+TRAJECTOIRE:
+	a
+	Return
+Milieu:
+trajectoire:
+	b
+	Return

@@ -1,0 +1,4 @@
+TRAJECTOIRE:
+	a
+	Return
+Milieu:

@@ -1,0 +1,8 @@
+Const NUM_MENU_MAX = 3
+TRAJECTOIRE:
+	a
+	Return
+Milieu:
+trajectoire:
+	b
+	Return

@@ -1,0 +1,18 @@
+' équipe : déjà écrit à la main
+Avance:
+	return
+'********* garde
+Apres: 	
+	End
+'********************************************************
+'********************************************************
+'*** Code généré pour les trajectoires du Robot Brindalo
+'*** Projet Ardanel. Equipe Brindalo
+'*** Site @SITE@
+'********************************************************
+'********************************************************
+TRAJECTOIRE:
+	Val_Action=5
+	Gosub Action_Avance
+	'*** # été €
+	Return

@@ -1,0 +1,6 @@
+' équipe : déjà écrit à la main
+Avance:
+	return
+'********* garde
+Apres: 	
+	End

@@ -1,0 +1,6 @@
+Debut:
+TRAJECTOIRE:
+	Return x
+Autre:
+trajectoire:
+	End

@@ -1,0 +1,3 @@
+TRAJECTOIRE:
+Return
+End

@@ -1,0 +1,136 @@
+#include "ui/banc.h"
+
+#include <QAccessible>
+#include <QMenu>
+
+namespace {
+
+using Options = Banc;
+
+TEST_F(Options, les_cases_reglent_l_etat_et_marquent_les_reglages) {
+    struct Cas {
+        const char* nom;
+        std::function<int(const Etat&)> valeur;
+        int cochee, claire;
+    };
+    for (const Cas& c :
+         {Cas{"Check1", [](const Etat& x) { return int(x.AffichageLent); }, 0, -1},
+          Cas{"Check2", [](const Etat& x) { return int(x.PasTemps); }, 5, 1},
+          Cas{"Check3", [](const Etat& x) { return int(x.TableHorizontale); }, -1, 0}}) {
+        demarrer();
+        auto& boite = trouver<QCheckBox>(c.nom);
+        EXPECT_EQ(c.valeur(e()), boite.isChecked() ? c.cochee : c.claire) << c.nom;
+        boite.toggle();
+        EXPECT_EQ(c.valeur(e()), boite.isChecked() ? c.cochee : c.claire) << c.nom;
+        boite.toggle();
+        EXPECT_EQ(c.valeur(e()), boite.isChecked() ? c.cochee : c.claire) << c.nom;
+        EXPECT_TRUE(sim->options().modifie) << c.nom;
+    }
+}
+
+TEST_F(Options, tourner_la_table_change_la_fenetre_et_le_mode_de_dessin) {
+    demarrer();
+    const QSize debout = sim->size();
+    cocher("Check3", true);
+    EXPECT_EQ(e().XMax, 320);
+    EXPECT_GT(sim->width(), sim->height());
+    EXPECT_TRUE(messages.empty()) << messages[0];
+    EXPECT_FALSE(e().persistant); // the fast display goes back to direct drawing
+    cocher("Check1", false);
+    cocher("Check3", false);
+    EXPECT_EQ(sim->size(), debout);
+    EXPECT_TRUE(e().persistant);
+}
+
+TEST_F(Options, le_nombre_de_robots_ne_fait_que_descendre_sauf_par_le_menu) {
+    demarrer();
+    auto& VScroll1 = trouver<QScrollBar>("VScroll1");
+    EXPECT_EQ(VScroll1.minimum(), 1);
+    EXPECT_EQ(VScroll1.maximum(), 9);
+    for (const int n : {3, 2}) {
+        VScroll1.setValue(n);
+        EXPECT_EQ(trouver<QLabel>("NbRO").text(), QString::number(n));
+        EXPECT_EQ(e().NbRobot, n);
+        EXPECT_EQ(VScroll1.maximum(), n);
+    }
+    VScroll1.setValue(7);
+    EXPECT_EQ(e().NbRobot, 2);
+
+    QTimer::singleShot(0, [this] {
+        auto& menu = trouver<QMenu>("menu_robots");
+        ASSERT_EQ(menu.actions().size(), 10); // a heading, then 1 to 9
+        EXPECT_TRUE(menu.actions()[2]->isChecked());
+        menu.setActiveAction(menu.actions()[6]);
+        QTest::keyClick(&menu, Qt::Key_Return);
+    });
+    emit trouver("Table").customContextMenuRequested({5, 5});
+    EXPECT_EQ(e().NbRobot, 6);
+    EXPECT_TRUE(sim->options().modifie);
+}
+
+TEST_F(Options, vers_le_haut_c_est_plus) {
+    struct Geste {
+        const char* nom;
+        std::function<void(QWidget&)> faire;
+        int attendu;
+    };
+    for (const Geste& g :
+         {Geste{"key up", [](QWidget& b) { QTest::keyClick(&b, Qt::Key_Up); }, 2},
+          Geste{"upper arrow",
+                [](QWidget& b) {
+                    QTest::mouseClick(&b, Qt::LeftButton, {}, {b.width() / 2, 3});
+                },
+                2},
+          Geste{"lower arrow",
+                [](QWidget& b) {
+                    QTest::mouseClick(&b, Qt::LeftButton, {}, {b.width() / 2, b.height() - 3});
+                },
+                1}}) {
+        demarrer();
+        g.faire(trouver<QScrollBar>("VScroll1"));
+        EXPECT_EQ(e().NbRobot, g.attendu) << g.nom;
+    }
+}
+
+TEST_F(Options, le_damier_montre_le_compte_des_carreaux) {
+    demarrer();
+    const auto visibles = [this] {
+        return trouver("nbre_carreaux").isVisible() && trouver("lb_utilcarreaux").isVisible();
+    };
+    EXPECT_FALSE(visibles());
+    const QSize avant = sim->options().size();
+    cocher("utiliDamier", true);
+    EXPECT_TRUE(visibles());
+    EXPECT_TRUE(e().utiliDamier);
+    EXPECT_EQ(sim->options().size(), avant); // nothing jumps
+    sim->ecrire_nbre_carreaux("12");
+    EXPECT_EQ(trouver<QLineEdit>("nbre_carreaux").text(), "12");
+    EXPECT_FALSE(sim->options().modifie); // not a setting of the file
+    cocher("utiliDamier", false);
+    EXPECT_FALSE(visibles());
+}
+
+TEST_F(Options, un_clic_sur_le_libelle_ne_le_coche_pas) {
+    demarrer();
+    cliquer("Check4");
+    QTest::keyClick(&trouver("Check4"), Qt::Key_Space);
+    EXPECT_FALSE(trouver<QCheckBox>("Check4").isChecked());
+}
+
+TEST_F(Options, chaque_controle_a_un_nom_pour_les_outils_d_assistance) {
+    demarrer();
+    cocher("utiliDamier", true);
+    for (const QWidget* controle : sim->findChildren<QWidget*>()) {
+        if (controle->objectName().isEmpty() || controle->objectName().startsWith("qt_") ||
+            !controle->isVisible())
+            continue;
+        QAccessibleInterface* outil =
+            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(controle)); // Qt's signature
+        ASSERT_NE(outil, nullptr);
+        const bool muette = dynamic_cast<const LigneTexte*>(controle) != nullptr; // before a run
+        EXPECT_EQ(outil->text(QAccessible::Name).isEmpty(), muette)
+            << controle->objectName().toStdString();
+    }
+}
+
+} // namespace

@@ -1,0 +1,28 @@
+#include "ui/ligne_texte.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+namespace {
+
+// The screen in memory complains about what it lacks; nothing else is kept silent.
+void dire(QtMsgType, const QMessageLogContext&, const QString& texte) {
+    if (!texte.startsWith("This plugin does not support"))
+        std::fprintf(stderr, "%s\n", qPrintable(texte));
+}
+
+} // namespace
+
+// The windows live on a screen in memory, unless a platform is asked for.
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(dire);
+    QApplication::setStyle("Fusion");
+    const QApplication application(argc, argv);
+    LigneTexte::installer_accessibilite();
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,208 @@
+#include "ui/banc.h"
+#include "ui/garde.h"
+
+#include <QAccessible>
+#include <QMenu>
+
+#include <algorithm>
+
+namespace {
+
+using Demarrage = Banc;
+
+TEST_F(Demarrage, le_premier_demarrage_ecrit_le_projet_et_montre_les_deux_fenetres) {
+    demarrer();
+    EXPECT_TRUE(messages.empty());
+    EXPECT_TRUE(std::filesystem::exists(dossier / "Configuration/Defaut Table.ini"));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dossier / "Configuration"), {}),
+              20);
+    EXPECT_TRUE(sim->isVisible());
+    EXPECT_TRUE(sim->options().isVisible());
+    EXPECT_EQ(sim->pos(), sim->screen()->availableGeometry().topLeft());
+    EXPECT_EQ(e().NomProjet, "Defaut");
+    EXPECT_EQ(e().NbRobot, 1);
+    EXPECT_EQ(e().XMax, 200);
+    EXPECT_EQ(trouver<LigneTexte>("Info").texte(), "");
+    EXPECT_TRUE(fins.empty());
+}
+
+TEST_F(Demarrage, la_fenetre_d_options_reste_a_cote_et_dans_l_ecran) {
+    for (const bool horizontale : {false, true}) {
+        demarrer();
+        cocher("Check3", horizontale);
+        EXPECT_TRUE(messages.empty()) << messages[0];
+        const QRect ecran = sim->screen()->availableGeometry();
+        EXPECT_TRUE(ecran.contains(sim->options().frameGeometry())) << horizontale;
+        EXPECT_TRUE(ecran.contains(sim->frameGeometry())) << horizontale;
+        EXPECT_FALSE(sim->frameGeometry().intersects(sim->options().frameGeometry()))
+            << horizontale;
+    }
+}
+
+struct Reglage {
+    const char* lignes;
+    int lent, pas, robots, horizontale, x_max;
+};
+
+TEST_F(Demarrage, les_reglages_du_fichier_atteignent_l_etat) {
+    for (const Reglage& r :
+         {Reglage{"Rapide, 1\r\n", 0, 1, 1, 0, 200},
+          Reglage{"Rapide, 0\r\nAllege, 1\r\nNbRobot, 4\r\n", -1, 5, 4, 0, 200},
+          Reglage{"Rapide, 2\r\nAllege, 2\r\nNbRobot, 12\r\n", -1, 1, 9, 0, 200},
+          Reglage{"NbRobot, -3\r\nRapide, 1\r\nHorizontale, 1\r\n", 0, 1, 1, -1, 320}}) {
+        dossier.ecrire("Configuration/Tavolmex.ini", r.lignes);
+        demarrer();
+        EXPECT_EQ(e().AffichageLent, r.lent) << r.lignes;
+        EXPECT_EQ(e().PasTemps, r.pas) << r.lignes;
+        EXPECT_EQ(e().NbRobot, r.robots) << r.lignes;
+        EXPECT_EQ(e().TableHorizontale, r.horizontale) << r.lignes;
+        EXPECT_EQ(e().XMax, r.x_max) << r.lignes; // turned once, not twice
+        EXPECT_FALSE(sim->options().modifie) << r.lignes;
+    }
+}
+
+TEST_F(Demarrage, une_table_impossible_a_dessiner_finit_le_programme) {
+    dossier.ecrire("Configuration/Defaut Table.ini", "L, 0, 0, 200, 320\r\nLE, 5, 5, 5, 9\r\n");
+    demarrer();
+    sim->Dessine_Table(); // nothing more is said afterwards
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_EQ(messages[0], "message: Erreur majeure d'exécution : Vérifier le fichier de "
+                           "configuration Table.ini");
+    EXPECT_EQ(fins, std::vector{3});
+}
+
+using Course = Banc;
+
+TEST_F(Course, le_bouton_lance_puis_arrete_et_fige_les_options) {
+    demarrer();
+    const auto etats = [this] {
+        std::string s;
+        for (const char* nom :
+             {"Check1", "Check2", "NbRO", "VScroll1", "Check4", "Check3", "Command4"})
+            s += trouver(nom).isEnabled() ? '1' : '0';
+        for (const char* nom : {"logo", "LNom"})
+            s += trouver(nom).isVisible() ? 'v' : '-';
+        return s;
+    };
+    auto& Timer = *sim->findChild<QTimer*>("Timer");
+    auto& Command1 = trouver<QPushButton>("Command1");
+    e().RobotTele = 3;
+    EXPECT_EQ(etats(), "1111111vv");
+
+    cliquer("Command1");
+    EXPECT_EQ(Command1.text(), "Arrêter");
+    EXPECT_EQ(etats(), "0000011--");
+    EXPECT_EQ(Timer.interval(), 10);
+    EXPECT_TRUE(Timer.isActive());
+    EXPECT_EQ(e().RobotTele, 0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return e().TempsEcoule >= 3; }));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return trouver<LigneTexte>("Info").texte().startsWith("Xm="); }));
+    EXPECT_TRUE(trouver<LigneTexte>("Mess").texte().startsWith("     Durée : 0 mn 0"));
+
+    cliquer("Command1");
+    EXPECT_EQ(Command1.text(), "Démarrer");
+    EXPECT_EQ(etats(), "1111111vv");
+    EXPECT_FALSE(Timer.isActive());
+}
+
+TEST_F(Course, le_pas_allege_espace_les_ticks) {
+    demarrer();
+    cocher("Check2", true);
+    cliquer("Command1");
+    EXPECT_EQ(sim->findChild<QTimer*>("Timer")->interval(), 50);
+}
+
+TEST_F(Course, une_boite_ouverte_retient_l_horloge) {
+    demarrer();
+    cliquer("Command1");
+    const int avant = e().TempsEcoule;
+    int pendant = -1;
+    QTimer::singleShot(0, [&] {
+        QTest::qWait(60);
+        pendant = e().TempsEcoule;
+    });
+    sim->message("Un instant");
+    EXPECT_EQ(pendant == -1 ? avant : pendant, avant);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return e().TempsEcoule > avant; }));
+}
+
+TEST_F(Course, une_panne_dans_un_tick_finit_le_programme_une_seule_fois) {
+    demarrer();
+    cliquer("Command1");
+    e().NumAction(1) = 1000; // the next action would lie beyond the table
+    e().TrajNbActions(1) = 1001;
+    e().ActionEnCours(1) = Nom10();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !fins.empty(); }));
+    QTest::qWait(30);
+    EXPECT_EQ(fins, std::vector{3});
+    EXPECT_EQ(messages.size(), 1U);
+}
+
+using Fenetre = Banc;
+
+TEST_F(Fenetre, une_erreur_de_procedure_est_montree_et_le_programme_continue) {
+    demarrer();
+    e().XMax = 32767;
+    e().Zones(1).X1 = -32768;
+    e().NbZones = 1;
+    cocher("Check3", true); // the turn overflows
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_TRUE(messages[0].starts_with("message: Erreur d'exécution : ")) << messages[0];
+    EXPECT_TRUE(fins.empty());
+}
+
+TEST_F(Fenetre, les_questions_se_repondent_par_oui_ou_non) {
+    demarrer();
+    reponses = {true, false};
+    EXPECT_TRUE(sim->question("<b>Doit-on ?</b>\r\nVraiment"));
+    EXPECT_FALSE(sim->question("Et là ?"));
+    EXPECT_EQ(messages, (std::vector<std::string>{"question: <b>Doit-on ?</b>\nVraiment",
+                                                  "question: Et là ?"}));
+}
+
+TEST_F(Fenetre, la_fermer_quitte_et_n_ecrit_les_reglages_que_s_ils_ont_change) {
+    for (const bool change : {false, true}) {
+        demarrer();
+        dossier.ecrire("Configuration/Tavolmex.ini", "temoin");
+        if (change) { // there and back still counts as a change
+            cocher("Check2", true);
+            cocher("Check2", false);
+        }
+        fins.clear();
+        if (change)
+            cliquer("Command4");
+        sim->close();
+        EXPECT_EQ(fins, std::vector{0}) << change;
+        EXPECT_EQ(dossier.lire("Configuration/Tavolmex.ini") == "temoin", !change);
+    }
+}
+
+TEST_F(Fenetre, un_clic_sur_la_table_ou_le_logo_rend_les_options) {
+    demarrer();
+    for (const char* nom : {"Table", "logo"}) {
+        sim->options().hide();
+        cliquer(nom);
+        EXPECT_TRUE(sim->options().isVisible()) << nom;
+    }
+    sim->options().hide();
+    QTest::mouseClick(&trouver("Table"), Qt::LeftButton, {}, QPoint(3, 3));
+    EXPECT_TRUE(sim->options().isVisible());
+}
+
+TEST_F(Fenetre, la_table_suit_la_taille_de_la_fenetre_en_gardant_ses_proportions) {
+    demarrer();
+    const QWidget& table = trouver("Table");
+    const double rapport = double(table.width()) / table.height();
+    for (const QSize taille : {QSize(900, 500), QSize(300, 900), QSize(160, 160)}) {
+        sim->resize(taille);
+        QTest::qWait(1);
+        EXPECT_NEAR(double(table.width()) / table.height(), rapport, 0.02);
+        EXPECT_LE(table.geometry().right(), sim->width());
+        EXPECT_LE(table.geometry().bottom(), sim->height());
+        const QPoint ecart = trouver("logo").geometry().center() - table.rect().center();
+        EXPECT_LE(std::max(std::abs(ecart.x()), std::abs(ecart.y())), 2);
+    }
+}
+
+} // namespace
