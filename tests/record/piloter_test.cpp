@@ -1,4 +1,4 @@
-#include "cli/ligne_de_commande.h"
+#include "outils/commande.h"
 #include "outils/dossier_temporaire.h"
 
 #include <gtest/gtest.h>
@@ -28,24 +28,14 @@ std::string deploye(std::string texte) {
     return texte;
 }
 
-struct Resultat {
-    int code;
-    std::string erreurs;
-};
-
 // Runs "piloter" with standard input from a file.
 Resultat piloter(const DossierTemporaire& d, std::vector<std::string> options,
                  const fs::path& entree) {
-    std::vector<std::string> arguments = {"tavolmex-cli", "piloter", "--dossier", d.chemin()};
+    std::vector<std::string> arguments = {"piloter", "--dossier", d.chemin()};
     arguments.insert(arguments.end(), options.begin(), options.end());
-    std::vector<char*> argv;
-    for (std::string& a : arguments)
-        argv.push_back(a.data());
     EXPECT_NE(std::freopen(entree.c_str(), "r", stdin), nullptr);
     std::cin.clear();
-    testing::internal::CaptureStderr();
-    const int code = executer_ligne_de_commande(static_cast<int>(argv.size()), argv.data());
-    return {code, testing::internal::GetCapturedStderr()};
+    return lancer(std::move(arguments));
 }
 
 Resultat piloter_texte(const DossierTemporaire& d, std::vector<std::string> options,

@@ -12,6 +12,7 @@
 
 #include <array>
 #include <csignal>
+#include <set>
 
 namespace {
 
@@ -171,15 +172,21 @@ TEST(SauvRobot, une_table_tournee_est_ecrite_droite_et_rendue_tournee) {
 TEST(SauvRobot, dix_versions_precedentes_sont_gardees) {
     BancSauvegarde b;
     b.d.ecrire("Defaut Trajet1.ini", "le premier");
+    std::set<std::string> gardees;
     for (int essai = 1; essai <= 12; ++essai) {
         b.e.XInit(1) = static_cast<float>(essai);
         b.e.TrajetModifie(1) = true;
         b.f.reponses = {true};
         SauvRobot(b.e, b.f, b.d.chemin());
-        EXPECT_EQ(std::filesystem::exists(b.d / "Sauvegardes/Defaut Trajet1.ini.1"), essai <= 10);
+        gardees.clear();
+        for (const auto& copie : std::filesystem::directory_iterator(b.d / "Sauvegardes")) {
+            const std::string nom = "Sauvegardes/" + copie.path().filename().string();
+            if (nom.starts_with("Sauvegardes/Defaut Trajet1.ini."))
+                gardees.insert(b.d.lire(nom));
+        }
+        EXPECT_EQ(gardees.contains("le premier"), essai <= 10);
     }
-    EXPECT_FALSE(std::filesystem::exists(b.d / "Sauvegardes/Defaut Trajet1.ini.2"));
-    EXPECT_NE(b.d.lire("Sauvegardes/Defaut Trajet1.ini.12").find("Init,11,"), std::string::npos);
+    EXPECT_EQ(gardees.size(), 10U);
     EXPECT_EQ(b.lignes("Defaut Trajet1.ini").substr(0, 8), "Init,12,");
 }
 
