@@ -14,7 +14,7 @@ class FenetresBanc : public Fenetres {
 public:
     explicit FenetresBanc(Etat& etat) : e(etat) {}
     virtual ~FenetresBanc() = default;
-    void message(std::string_view texte) override {
+    void message(std::string_view texte, std::string_view) override {
         std::fprintf(stderr, "%.*s\n", static_cast<int>(texte.size()), texte.data());
     }
     bool question(std::string_view) override { return false; }

@@ -140,9 +140,9 @@ void Sim1::closeEvent(QCloseEvent* evenement) {
         garde(*this, [this] { Form_Unload(); });
 }
 
-void Sim1::message(std::string_view texte) {
+void Sim1::message(std::string_view texte, std::string_view explication) {
     show();
-    boites_.message(texte);
+    boites_.message(texte, explication);
 }
 
 bool Sim1::question(std::string_view texte) {

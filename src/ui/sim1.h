@@ -43,7 +43,7 @@ public:
     Projet& projet() { return projet_; }
     FOption& options() { return options_; }
 
-    void message(std::string_view texte) override;
+    void message(std::string_view texte, std::string_view explication = {}) override;
     bool question(std::string_view texte) override;
     void regler_Timer(Entier16 ms) override;
     void ecrire_Mess(const LigneMess& mess) override { Mess.ecrire(mess); }
