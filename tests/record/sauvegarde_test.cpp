@@ -115,7 +115,7 @@ TEST(TexteGeneration, chaque_code_a_ses_lignes) {
     for (int n = 0; n <= 1000; ++n)
         pleine.ligne(10);
     EXPECT_EQ(texte_generation(pleine.e, "Defaut PourGenerer10.ini").size(),
-              entete_generation.size() + 1001 * 11);
+              entete_generation.size() + std::size_t{1001} * 11);
     EXPECT_THROW(Set_Sauv_Robot(pleine.e, 11), HorsTable);
 }
 
