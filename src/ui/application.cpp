@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QSettings>
 #include <QTimer>
 #include <QTranslator>
 
@@ -45,6 +46,8 @@ int executer_application(int& argc, char** argv,
     QApplication::setStyle("Fusion");
     const QApplication application(argc, argv);
     QApplication::setApplicationName("Tavolmex");
+    QApplication::setOrganizationName("Tavolmex");
+    QSettings::setDefaultFormat(QSettings::IniFormat);
     QTranslator francais;
     if (francais.load("qtbase_fr", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&francais);

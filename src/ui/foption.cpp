@@ -123,6 +123,7 @@ void FOption::connecter() {
     connect(&VScroll1, &QScrollBar::valueChanged, this,
             [this](int valeur) { garde(sim_, [&] { VScroll1_Change(valeur); }); });
     brancher(Command1, [this] { Command1_Click(); });
+    brancher(generer, [this] { sim_.montrer_generateur(); });
     brancher(Command5, [this] { sim_.montrer_console(); });
     brancher(Command4, [this] { Command4_Click(); });
 }

@@ -4,6 +4,7 @@
 #include "sim/damier.h"
 #include "sim/disposition.h"
 #include "sim/orientation.h"
+#include "ui/dialog.h"
 #include "ui/garde.h"
 #include "ui/telecommande.h"
 
@@ -132,6 +133,20 @@ void Sim1::montrer_console() {
     console_->show();
     console_->raise();
     console_->activateWindow();
+}
+
+void Sim1::montrer_generateur() {
+    if (!generateur_)
+        generateur_ = std::make_unique<Dialog>(*this);
+    generateur_->show();
+    generateur_->raise();
+    generateur_->activateWindow();
+}
+
+void Sim1::cacher_options_et_console() {
+    options_.hide();
+    if (console_)
+        console_->hide();
 }
 
 void Sim1::SauvRobot() {

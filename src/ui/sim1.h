@@ -16,6 +16,7 @@
 #include <functional>
 #include <memory>
 
+class Dialog;
 class Télécommande;
 
 /// The main window: owns the simulation's state, the engine, the project's files, the clock and the
@@ -40,6 +41,10 @@ public:
     void montrer_options();
     /// Shows the console, made the first time.
     void montrer_console();
+    /// Shows the generation window, made the first time.
+    void montrer_generateur();
+    /// Leaves the main window and the generation windows alone on the screen.
+    void cacher_options_et_console();
     /// Loads the present project's files in place of what is there.
     void recharger_projet();
     /// Writes the general settings if they were modified.
@@ -101,4 +106,5 @@ private:
     FOption options_;
     Reprise reprise_;
     std::unique_ptr<Télécommande> console_; ///< made when it is first shown
+    std::unique_ptr<Dialog> generateur_;    ///< likewise
 };

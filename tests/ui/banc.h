@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -22,6 +23,7 @@ protected:
         QObject::connect(&veilleur_, &QTimer::timeout, [this] { repondre(); });
         veilleur_.start(1);
         std::filesystem::current_path(dossier.chemin()); // as the program does
+        QSettings().clear();
     }
 
     ~Banc() override { std::filesystem::current_path(std::filesystem::temp_directory_path()); }

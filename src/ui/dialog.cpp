@@ -1,0 +1,218 @@
+#include "ui/dialog.h"
+
+#include "codegen/apercu.h"
+#include "ui/boites.h"
+#include "ui/garde.h"
+#include "ui/ouv_generation.h"
+#include "ui/sim1.h"
+#include "ui/visualiser.h"
+
+#include <QSettings>
+
+namespace {
+
+constexpr auto cle_depart = "generation/depart";
+constexpr auto cle_entree = "generation/entree";
+
+char signe(SorteLigne sorte) {
+    switch (sorte) {
+    case SorteLigne::retiree:
+        return '-';
+    case SorteLigne::inseree:
+    case SorteLigne::ajoutee:
+        return '+';
+    case SorteLigne::coupure:
+        return '@';
+    case SorteLigne::contexte:
+        break;
+    }
+    return ' ';
+}
+
+QString texte_apercu(const Apercu& apercu) {
+    std::string texte;
+    for (const LigneApercu& ligne : apercu.lignes)
+        texte.append(1, signe(ligne.sorte)).append(" ").append(ligne.texte).append("\n");
+    return texte_qt(texte);
+}
+
+} // namespace
+
+Dialog::Dialog(Sim1& sim)
+    : QWidget(&sim, Qt::Window),
+      sim_(sim),
+      depart_({"Drive1",
+               "Dir1",
+               "File1",
+               "Combo1",
+               "Lecteur où se trouve le fichier de départ (\"codé à la main\")",
+               "Répertoire où se trouve le fichier de départ (\"codé à la main\")",
+               "Sélectionner fichier de départ (\"codé à la main\")",
+               "Extention du fichier de départ (\"codé à la main\")",
+               "du programme de départ",
+               {"*.bas", "*.*"}}),
+      entree_({"Drive",
+               "Dir",
+               "File",
+               "Combo",
+               "Lecteur du fichier où se trouve le code de génération interne au simulateur",
+               "Répertoire du fichier où se trouve le code de génération interne au simulateur",
+               "Sélectionner le fichier où se trouve le code de génération interne au simulateur",
+               "Extention de fichier où se trouve le code de génération interne au simulateur",
+               "de la trajectoire enregistrée",
+               {"*.ini", "*.*"}}),
+      coloration_(apercu_.document(), palette()) {
+    nommer();
+    placer();
+    connecter();
+    Form_Load();
+}
+
+Dialog::~Dialog() = default;
+
+void Dialog::Form_Load() {
+    fichier_a_generer.clear();
+    const QSettings reglages;
+    const auto dernier = [&](const char* cle) {
+        const std::filesystem::path dossier = reglages.value(cle).toString().toStdString();
+        std::error_code erreur;
+        return std::filesystem::is_directory(dossier, erreur)
+                   ? dossier
+                   : sim_.projet().dossier_configuration();
+    };
+    depart_.dossiers.aller(dernier(cle_depart));
+    entree_.dossiers.aller(dernier(cle_entree));
+}
+
+void Dialog::retenir_dossiers() const {
+    QSettings reglages;
+    reglages.setValue(cle_depart, texte_qt(depart_.dossiers.chemin().string()));
+    reglages.setValue(cle_entree, texte_qt(entree_.dossiers.chemin().string()));
+}
+
+Demande Dialog::demande() const {
+    return {.depart = depart_.fichier(),
+            .entree = entree_.fichier(),
+            .cible = fichier_a_generer.text().toStdString(),
+            .fonction = Txt_NomFctGen.text().toStdString(),
+            .menu = menu.isChecked(),
+            .CheminCourant = CheminCourant_};
+}
+
+void Dialog::generer_Click() {
+    garde(sim_, [this] { generer_et_montrer(); });
+    // Whatever happened: only the result and this window matter now.
+    sim_.cacher_options_et_console();
+    repos_.start();
+}
+
+void Dialog::generer_et_montrer() {
+    const Demande d = demande();
+    if (const Refus refus = verifier(d))
+        return sim_.message(refus.message, refus.conseil);
+    retenir_dossiers();
+    const auto dossier = sim_.projet().dossier_configuration() / "Sauvegardes";
+    const Generation generation = ::generer(
+        d, dossier, [this](std::string_view question) { return sim_.question(question); });
+    dire_ce_qui_a_change(generation);
+    if (sim_.question(question_voir))
+        visualiser(true);
+}
+
+// A hand-written program was changed: where its former version is.
+void Dialog::dire_ce_qui_a_change(const Generation& generation) {
+    std::string texte = "Fichier généré : " + fichier_a_generer.text().toStdString();
+    if (generation.depart_reecrit)
+        texte += "\nLe fichier de départ a été modifié.";
+    for (const auto& copie : generation.sauvegardes)
+        texte += "\nCopie de la version précédente : " + copie.string();
+    compte_rendu_.setText(texte_qt(texte));
+    compte_rendu_.show();
+}
+
+void Dialog::visualiser(bool modal) {
+    auto* fenetre = new Visualiser(sim_, fichier_a_generer.text().toStdString());
+    fenetre->setAttribute(Qt::WA_DeleteOnClose);
+    if (modal)
+        fenetre->setWindowModality(Qt::ApplicationModal);
+    fenetre->Form_Load();
+    fenetre->show();
+}
+
+void Dialog::rep_defaut_Click(bool coche) {
+    fichier_a_generer.setText(coche
+                                  ? texte_qt(cible_par_defaut(sim_.projet().dossier_configuration(),
+                                                              sim_.etat().NomProjet)
+                                                 .string())
+                                  : QString());
+}
+
+void Dialog::choisir_cible(const std::string& chemin) {
+    fichier_a_generer.setText(texte_qt(chemin));
+}
+
+void Dialog::Choisir_Click() {
+    if (!ouv_generation_)
+        ouv_generation_ = std::make_unique<OuvGeneration>(sim_, *this);
+    ouv_generation_->show();
+    ouv_generation_->raise();
+    ouv_generation_->activateWindow();
+}
+
+void Dialog::visu_gene_Click() {
+    visualiser(false);
+}
+
+void Dialog::Fermer_Click() {
+    hide();
+    sim_.montrer_options();
+}
+
+void Dialog::rafraichir_apercu() {
+    avertissements_.clear();
+    const Demande d = demande();
+    if (d.depart.empty() || d.entree.empty()) {
+        apercu_.setPlainText({});
+        titre_apercu_.setText("Aperçu : choisissez un programme de départ et une trajectoire.");
+        return;
+    }
+    try {
+        const Apercu apercu = preparer_apercu(d, true);
+        apercu_.setPlainText(texte_apercu(apercu));
+        for (const std::string& texte : apercu.avertissements)
+            avertissements_.addItem(texte_qt(texte));
+        titre_apercu_.setText("Aperçu de ce qui sera retiré (-) et ajouté (+) :");
+    } catch (const ErreurExecution& erreur) {
+        apercu_.setPlainText({});
+        titre_apercu_.setText("Aperçu impossible :");
+        avertissements_.addItem(texte_qt(erreur.what()));
+    }
+    avertissements_.setVisible(avertissements_.count() > 0);
+}
+
+void Dialog::connecter() {
+    const auto relier = [this](QPushButton& bouton, void (Dialog::*procedure)()) {
+        connect(&bouton, &QPushButton::clicked, this,
+                [this, procedure] { garde(sim_, [&] { (this->*procedure)(); }); });
+    };
+    relier(generer, &Dialog::generer_Click);
+    relier(Choisir, &Dialog::Choisir_Click);
+    relier(visu_gene, &Dialog::visu_gene_Click);
+    relier(Fermer, &Dialog::Fermer_Click);
+    connect(&rep_defaut, &QCheckBox::toggled, this,
+            [this](bool coche) { garde(sim_, [&] { rep_defaut_Click(coche); }); });
+
+    repos_.setSingleShot(true);
+    repos_.setInterval(250);
+    connect(&repos_, &QTimer::timeout, this,
+            [this] { garde(sim_, [this] { rafraichir_apercu(); }); });
+    const auto attendre = [this] { repos_.start(); };
+    for (ChoixFichier* choix : {&depart_, &entree_}) {
+        choix->au_changement = [this, choix] {
+            CheminCourant_ = choix->dossiers.chemin().string();
+            repos_.start();
+        };
+    }
+    connect(&Txt_NomFctGen, &QLineEdit::textChanged, this, attendre);
+    connect(&menu, &QCheckBox::toggled, this, attendre);
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "codegen/generateur.h"
+#include "ui/choix_fichier.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSyntaxHighlighter>
+#include <QTimer>
+#include <QWidget>
+
+#include <memory>
+
+class Sim1;
+class OuvGeneration;
+
+/// The generation window: merges a recorded path into the team's own PICBASIC program, and shows
+/// beforehand what would change.
+class Dialog final : public QWidget {
+public:
+    explicit Dialog(Sim1& sim);
+    ~Dialog() override;
+
+    void Form_Load();
+    void generer_Click();
+    void rep_defaut_Click(bool coche);
+    void Choisir_Click();
+    void visu_gene_Click();
+    void Fermer_Click();
+    void choisir_cible(const std::string& chemin);
+
+private:
+    /// Green for what comes, red for what goes.
+    class Coloration final : public QSyntaxHighlighter {
+    public:
+        Coloration(QTextDocument* document, const QPalette& palette);
+
+    protected:
+        void highlightBlock(const QString& texte) override;
+
+    private:
+        QTextCharFormat ajoute_, retire_, coupe_;
+    };
+
+    Demande demande() const;
+    void generer_et_montrer();
+    void dire_ce_qui_a_change(const Generation& generation);
+    void visualiser(bool modal);
+    void rafraichir_apercu();
+    void retenir_dossiers() const;
+
+    void nommer();
+    void placer();
+    QLayout* placer_cible();
+    QLayout* placer_boutons();
+    void connecter();
+
+    Sim1& sim_;
+    ChoixFichier depart_, entree_;
+    QLabel Label1, Label2, Label3, lb_nomFoncionGeneration;
+    QLineEdit fichier_a_generer, Txt_NomFctGen;
+    QCheckBox rep_defaut, menu;
+    QPushButton generer, Choisir, visu_gene, Fermer;
+    QLabel compte_rendu_; ///< what the last generation wrote
+    QLabel titre_apercu_;
+    QPlainTextEdit apercu_;
+    Coloration coloration_;
+    QListWidget avertissements_;
+    QTimer repos_;
+    std::string CheminCourant_; ///< of the directory list that changed last
+    std::unique_ptr<OuvGeneration> ouv_generation_;
+};

@@ -1,0 +1,154 @@
+#include "ui/banc.h"
+#include "ui/dialog.h"
+
+#include <QComboBox>
+#include <QPlainTextEdit>
+#include <QSettings>
+
+namespace {
+
+const std::string programme = "'a la main\r\n"
+                              "PRINCIPAL:\r\n"
+                              "\tGosub TRAJECTOIRE\r\n"
+                              "\tReturn\r\n"
+                              "Trajectoire:\r\n"
+                              "\tDelay 5\r\n"
+                              "\tReturn\r\n"
+                              "FINALE:\r\n"
+                              "\tGoto PRINCIPAL\r\n";
+const std::string entree = "# Fichier\r\nAVANCE:120\r\nDELAY :7\r\n";
+
+class FenetreGeneration : public Banc {
+protected:
+    FenetreGeneration() {
+        dossier.ecrire("Configuration/depart.bas", programme);
+        dossier.ecrire("Configuration/Defaut PourGenerer10.ini", entree);
+        demarrer();
+        cliquer("generer"); // the options window's button, the only one so far
+        dialog = &trouver("Dialog");
+    }
+    template <typename Controle>
+    Controle& dans(const char* nom) {
+        return *dialog->findChild<Controle*>(nom);
+    }
+    void selectionner(const char* liste, const char* fichier) {
+        auto& l = dans<QListWidget>(liste);
+        const auto trouves = l.findItems(fichier, Qt::MatchExactly);
+        ASSERT_FALSE(trouves.isEmpty()) << fichier;
+        l.setCurrentItem(trouves.front());
+    }
+    void generer() {
+        messages.clear();
+        dans<QPushButton>("generer").click();
+    }
+    std::string cible() { return (dossier / "Configuration/GENERE.bas").string(); }
+
+    QWidget* dialog = nullptr;
+};
+
+TEST_F(FenetreGeneration, les_refus_viennent_dans_leur_ordre) {
+    generer();
+    EXPECT_EQ(messages, (std::vector<std::string>{"message: Sélectionner une ligne dans la liste "
+                                                  "des Fichiers PICBASIC"}));
+    EXPECT_FALSE(sim->options().isVisible()) << "whatever happened, the options hide";
+    selectionner("File", "Defaut PourGenerer10.ini");
+    generer();
+    EXPECT_EQ(messages.back(),
+              "message: Sélectionner une ligne dans la liste des fichier du projet");
+    selectionner("File1", "depart.bas");
+    generer();
+    EXPECT_EQ(messages.back(), "message: Sélectionner Fichier à générer.");
+    dans<QLineEdit>("fichier_a_generer").setText("prog.txt");
+    generer();
+    EXPECT_EQ(messages.back(),
+              "message: Nom de fichier incorrect" + (dossier / "Configuration").string());
+    dans<QLineEdit>("fichier_a_generer").setText("sans_point");
+    generer();
+    EXPECT_TRUE(messages.back().starts_with("message: Erreur d'exécution : ")) << messages.back();
+}
+
+TEST_F(FenetreGeneration, du_choix_des_fichiers_au_code_que_l_on_regarde) {
+    dans<QCheckBox>("rep_defaut").setChecked(true);
+    EXPECT_EQ(dans<QLineEdit>("fichier_a_generer").text().toStdString(),
+              (dossier / "Configuration/DefautGENERE.BAS").string());
+    dans<QCheckBox>("rep_defaut").setChecked(false);
+    EXPECT_TRUE(dans<QLineEdit>("fichier_a_generer").text().isEmpty());
+
+    if (cible().find('.') != cible().rfind('.'))
+        GTEST_SKIP() << "the temporary directory's own name has a dot";
+    selectionner("File", "Defaut PourGenerer10.ini");
+    selectionner("File1", "depart.bas");
+    dans<QLineEdit>("fichier_a_generer").setText(QString::fromStdString(cible()));
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return dans<QPlainTextEdit>("apercu").toPlainText().contains("-"); }));
+    const QString apercu = dans<QPlainTextEdit>("apercu").toPlainText();
+    EXPECT_TRUE(apercu.contains("- Trajectoire:")) << apercu.toStdString();
+    EXPECT_TRUE(apercu.contains("+ \tVal_Action=120"));
+    EXPECT_GT(dans<QListWidget>("avertissements").count(), 0) << "Action_Avance is not defined";
+    EXPECT_FALSE(std::filesystem::exists(cible())) << "a preview writes nothing";
+
+    reponses = {true, true};
+    generer();
+    EXPECT_EQ(messages,
+              (std::vector<std::string>{"question: Trajectoire: : Cette fonction existe déjà dans "
+                                        "le fichier. Voulez-vous l'écraser?",
+                                        "question: Voulez-vous voir le fichier généré?"}));
+    EXPECT_TRUE(dans<QLabel>("compte_rendu").text().contains("Sauvegardes"));
+    const std::string genere = dossier.lire("Configuration/GENERE.bas");
+    EXPECT_TRUE(genere.ends_with("TRAJECTOIRE:\r\n\tVal_Action=120\r\n\tGosub Action_Avance\r\n"
+                                 "\tDelay 7\r\n\tReturn\r\n"))
+        << genere;
+
+    auto& visualiser = trouver("Visualiser");
+    EXPECT_EQ(visualiser.windowModality(), Qt::ApplicationModal);
+    auto& LFonc = *visualiser.findChild<QListWidget*>("LFonc");
+    ASSERT_EQ(LFonc.count(), 3);
+    EXPECT_EQ(LFonc.item(2)->text(), "TRAJECTOIRE:");
+    auto& Visu = *visualiser.findChild<QPlainTextEdit*>("Visu");
+    LFonc.setCurrentRow(0);
+    EXPECT_EQ(Visu.toPlainText(), "\nPRINCIPAL:\n\tGosub TRAJECTOIRE\n\tReturn");
+    // A double click on the Gosub follows it, "Retour" comes back.
+    QTextCursor curseur(Visu.document()->findBlockByNumber(2));
+    curseur.movePosition(QTextCursor::NextWord);
+    Visu.setTextCursor(curseur);
+    QTest::mouseDClick(Visu.viewport(), Qt::LeftButton, {}, Visu.cursorRect().center());
+    EXPECT_EQ(LFonc.currentRow(), 2);
+    visualiser.findChild<QPushButton*>("retour")->click();
+    EXPECT_EQ(LFonc.currentRow(), 0);
+    // The file is read again when another program replaces it.
+    dossier.ecrire("Configuration/neuf", "PRINCIPAL:\r\n\tReturn\r\n");
+    std::filesystem::rename(dossier / "Configuration/neuf", cible());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return LFonc.count() == 1; }));
+    visualiser.findChild<QPushButton*>("Fermer")->click();
+}
+
+TEST_F(FenetreGeneration, la_cible_se_choisit_par_repertoire_et_nom) {
+    dans<QPushButton>("Choisir").click();
+    auto& choix = trouver("OuvGeneration");
+    EXPECT_EQ(choix.findChild<QLineEdit*>("NomFicGenere")->text(), "generation.bas");
+    auto& Rep_Gen = *choix.findChild<QListWidget*>("Rep_Gen");
+    const auto trouves = Rep_Gen.findItems("Configuration", Qt::MatchContains);
+    ASSERT_FALSE(trouves.isEmpty());
+    emit Rep_Gen.itemActivated(trouves.front());
+    choix.findChild<QPushButton*>("Nouveau")->click();
+    EXPECT_EQ(dans<QLineEdit>("fichier_a_generer").text().toStdString(),
+              (dossier / "Configuration/generation.bas").string());
+    EXPECT_FALSE(choix.isVisible());
+    EXPECT_TRUE(sim->options().isVisible());
+    EXPECT_TRUE(dialog->isVisible());
+    dans<QPushButton>("Fermer").click();
+    EXPECT_FALSE(dialog->isVisible());
+}
+
+TEST_F(FenetreGeneration, la_liste_des_fichiers_suit_l_extension_sans_tenir_compte_de_la_casse) {
+    dossier.ecrire("Configuration/AUTRE.BAS", "");
+    dossier.ecrire("Configuration/.cache.bas", "");
+    auto& Combo1 = dans<QComboBox>("Combo1");
+    Combo1.setCurrentIndex(1);
+    Combo1.setCurrentIndex(0);
+    auto& File1 = dans<QListWidget>("File1");
+    ASSERT_EQ(File1.count(), 2);
+    EXPECT_EQ(File1.item(0)->text(), "AUTRE.BAS");
+}
+
+} // namespace
