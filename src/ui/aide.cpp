@@ -58,11 +58,12 @@ void Aide::nommer() {
 
 void Aide::placer() {
     auto* barre = new QHBoxLayout;
+    recherche.setFixedWidth(largeur_du_sommaire);
+    barre->addWidget(&recherche);
     barre->addWidget(&precedent);
     barre->addWidget(&suivante);
     barre->addStretch();
-    recherche.setMinimumWidth(largeur_du_sommaire);
-    barre->addWidget(&recherche);
+    sommaire.setSpacing(2);
     auto* separation = new QSplitter;
     separation->addWidget(&sommaire);
     separation->addWidget(&page_);
@@ -94,6 +95,7 @@ void Aide::montrer(int page) {
     show();
     raise();
     activateWindow();
+    page_.setFocus();
 }
 
 void Aide::aller(int page) {

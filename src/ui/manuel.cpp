@@ -24,6 +24,7 @@ constexpr PageManuel pages[] = {
 void habiller_table(QTextTable& table, const QPalette& couleurs) {
     QTextTableFormat format = table.format();
     format.setBorder(1);
+    format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
     format.setBorderBrush(couleurs.mid());
     format.setBorderCollapse(true);
     format.setCellSpacing(0);
@@ -87,7 +88,7 @@ QString simplifie(const QString& texte) {
 }
 
 void habiller(QTextDocument& document, const QWidget& fenetre) {
-    const QPalette couleurs = fenetre.palette();
+    const QPalette& couleurs = fenetre.palette();
     document.setDocumentMargin(16);
     for (QTextBlock bloc = document.begin(); bloc.isValid(); bloc = bloc.next())
         QTextCursor(bloc).mergeBlockFormat(format_du_bloc(bloc, couleurs));

@@ -33,7 +33,8 @@ protected:
 
 TEST_F(Charger, la_liste_dit_ce_qui_sera_lu_et_choisit_le_projet_courant) {
     demarrer();
-    for (const auto& [courant, choisi] : {std::pair{"Essai", 1}, {"Defaut", 0}, {"Absent", 0}}) {
+    for (const auto& [projet, choisi] : {std::pair{"Essai", 1}, {"Defaut", 0}, {"Absent", 0}}) {
+        const char* courant = projet;
         e().NomProjet = courant;
         charger([&, attendu = choisi](Ouvrir& o) {
             EXPECT_EQ(o.windowTitle(), "Ouvrir ...");
