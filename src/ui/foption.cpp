@@ -4,6 +4,8 @@
 #include "sim/orientation.h"
 #include "ui/boites.h"
 #include "ui/garde.h"
+#include "ui/ouvrir.h"
+#include "ui/place.h"
 #include "ui/sim1.h"
 
 QSize CaseLibelle::sizeHint() const {
@@ -14,6 +16,7 @@ FOption::FOption(Sim1& sim) : QWidget(&sim, Qt::Dialog | Qt::WindowCloseButtonHi
     nommer();
     placer();
     connecter();
+    retenir_place(*this);
     Form_Load();
 }
 
@@ -105,6 +108,17 @@ void FOption::Command1_Click() {
     sim_.moteur().Run_Jeu();
 }
 
+void FOption::Command2_Click() {
+    sim_.SauvRobot();
+    projet_choisi = false; // leaving the list without a choice loads nothing, whatever came before
+    Ouvrir(sim_, *this).exec();
+    if (sim_.terminee())
+        return;
+    sim_.montrer_options();
+    if (projet_choisi)
+        sim_.charger_projet_choisi();
+}
+
 void FOption::Command4_Click() {
     sim_.SaveGeneral();
     sim_.SauvRobot();
@@ -125,5 +139,7 @@ void FOption::connecter() {
     brancher(Command1, [this] { Command1_Click(); });
     brancher(generer, [this] { sim_.montrer_generateur(); });
     brancher(Command5, [this] { sim_.montrer_console(); });
+    brancher(Command2, [this] { Command2_Click(); });
+    brancher(Aide, [this] { sim_.montrer_aide(*this); });
     brancher(Command4, [this] { Command4_Click(); });
 }

@@ -62,6 +62,8 @@ public:
     bool robots_modifiables() const { return VScroll1.isEnabled(); }
 
     void Command1_Click();
+    /// "Charger": offers to save what was recorded, lets the user choose a project, loads it.
+    void Command2_Click();
     void Command4_Click();
 
     QLineEdit nbre_carreaux;

@@ -80,7 +80,10 @@ void FOption::nommer() {
              {Check3, "Check3", "Table horizontale",
               "Cocher pour changer l'orientation de l'aire de jeu"},
              {Check4, "Check4", "Nbr de Robot", nombre},
-             {VScroll1, "VScroll1", "", ""},
+             {VScroll1, "VScroll1", "",
+              "Le nombre ne fait que descendre. Pour remettre des robots : clic droit sur l'aire "
+              "de "
+              "jeu, ou « Charger »."},
              {NbRO, "NbRO", "1", nombre},
              {utiliDamier, "utiliDamier", "Util. du damier",
               "Cocher pour utiliser le damier. Dans le cas où cette option est sélectionnée, la "

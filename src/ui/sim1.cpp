@@ -5,7 +5,10 @@
 #include "sim/disposition.h"
 #include "sim/orientation.h"
 #include "ui/dialog.h"
+#include "ui/aide.h"
 #include "ui/garde.h"
+#include "ui/place.h"
+#include "ui/surveillance.h"
 #include "ui/telecommande.h"
 
 #include <QCloseEvent>
@@ -22,7 +25,9 @@ Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(
       LNom(&Table),
       logo(&Table),
       options_(*this),
-      reprise_(*e, projet_.dossier_configuration()) {
+      reprise_(*e, projet_.dossier_configuration()),
+      surveillance_(std::make_unique<Surveillance>(*this)),
+      aide_(std::make_unique<ServiceAide>(*this)) {
     nommer();
     connecter();
 }
@@ -75,6 +80,7 @@ void Sim1::Form_Load() {
     });
     if (terminee_)
         return;
+    surveillance_->prendre_note();
     show();
     Table_Click();
     garde(*this, [this] { proposer_reprise(); });
@@ -104,6 +110,32 @@ void Sim1::recharger_projet() {
     Dessine_Table();
     Dessine_Robot();
     options_.modifie = true;
+    surveillance_->prendre_note();
+}
+
+void Sim1::charger_projet_choisi() {
+    recharger_projet();
+    options_.retablir_plage();
+    recommencer_console();
+    if (reprise_.proposer(*this))
+        redessiner();
+}
+
+void Sim1::redessiner() {
+    if (taille_dessinee_ != QSize(e->XMax, e->YMax))
+        Init_Table();
+    e->ZoneRedessin = {0, e->XMax, 0, e->YMax};
+    Dessine_Table();
+    Dessine_Robot();
+}
+
+void Sim1::recommencer_console() {
+    if (console_)
+        console_->recommencer();
+}
+
+void Sim1::montrer_aide(const QWidget& depuis) {
+    aide_->montrer(depuis);
 }
 
 void Sim1::charger_projet() {
@@ -129,7 +161,7 @@ void Sim1::montrer_console() {
         console_ = std::make_unique<Télécommande>(*this, reprise_);
     const QRect cadre_options = options_.frameGeometry();
     if (!console_->isVisible())
-        console_->move(cadre_options.topLeft());
+        proposer_place(*console_, cadre_options.topLeft());
     console_->show();
     console_->raise();
     console_->activateWindow();
@@ -153,6 +185,7 @@ void Sim1::SauvRobot() {
     const BilanSauvegarde bilan = reprise_.sauver(*this);
     if (const std::string texte = bilan.message(); !texte.empty())
         message(texte);
+    surveillance_->prendre_note_des_trajets();
 }
 
 void Sim1::Active_Desactive(bool Status) {

@@ -17,6 +17,8 @@
 #include <memory>
 
 class Dialog;
+class ServiceAide;
+class Surveillance;
 class Télécommande;
 
 /// The main window: owns the simulation's state, the engine, the project's files, the clock and the
@@ -47,11 +49,20 @@ public:
     void cacher_options_et_console();
     /// Loads the present project's files in place of what is there.
     void recharger_projet();
+    /// Loads the project that the user has just chosen.
+    void charger_projet_choisi();
+    /// Draws everything anew after records were read; the window changes only with their extent.
+    void redessiner();
+    /// The console, if there is one, ends its recording and reads the robot's pose again.
+    void recommencer_console();
+    /// Opens the manual at the page of a window.
+    void montrer_aide(const QWidget& depuis);
     /// Writes the general settings if they were modified.
     void SaveGeneral();
     /// Ends the program; nothing of it runs any more afterwards.
     void terminer(int code_de_sortie);
     bool terminee() const { return terminee_; }
+    bool en_course() const { return Timer.isActive(); }
 
     Etat& etat() { return *e; }
     Moteur& moteur() { return moteur_; }
@@ -102,9 +113,12 @@ private:
     ::Table Table;
     Banniere LNom;
     Logo logo;
-    QSize taille_Table_; ///< logical pixels that Init_Table chose: only their ratio counts
+    QSize taille_dessinee_; ///< XMax, YMax that Init_Table laid the window out for
+    QSize taille_Table_;    ///< logical pixels that Init_Table chose: only their ratio counts
     FOption options_;
     Reprise reprise_;
     std::unique_ptr<Télécommande> console_; ///< made when it is first shown
     std::unique_ptr<Dialog> generateur_;    ///< likewise
+    std::unique_ptr<Surveillance> surveillance_;
+    std::unique_ptr<ServiceAide> aide_;
 };

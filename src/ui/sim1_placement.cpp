@@ -1,6 +1,7 @@
 // Where the main window's controls lie, and the options window beside it.
 #include "draw/table.h"
 #include "sim/disposition.h"
+#include "ui/place.h"
 #include "ui/sim1.h"
 
 #include <QScreen>
@@ -57,6 +58,7 @@ void Sim1::Init_Table() {
     MesuresEcran m = mesures(ecran_maximal);
     m = mesures(pixels(::Init_Table(*e, m).largeur_Table));
     const Disposition d = ::Init_Table(*e, m);
+    taille_dessinee_ = {e->XMax, e->YMax};
     taille_Table_ = {pixels(d.largeur_Table), pixels(d.hauteur_Table)};
     resize(pixels(d.largeur_fenetre - m.cadre_horizontal),
            pixels(d.hauteur_fenetre - m.cadre_vertical));
@@ -91,5 +93,5 @@ void Sim1::placer_options() {
     const QRect ecran = screen()->availableGeometry();
     const int voulu = pos().x() + width() + cadre(*this).width();
     const int dernier = ecran.right() + 1 - options_.sizeHint().width() - cadre(*this).width();
-    options_.move(std::max(ecran.left(), std::min(voulu, dernier)), pos().y());
+    proposer_place(options_, {std::max(ecran.left(), std::min(voulu, dernier)), pos().y()});
 }

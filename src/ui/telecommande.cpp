@@ -2,6 +2,7 @@
 
 #include "ui/boites.h"
 #include "ui/garde.h"
+#include "ui/place.h"
 #include "ui/sim1.h"
 
 #include <QAction>
@@ -37,6 +38,7 @@ Télécommande::Télécommande(Sim1& sim, Reprise& reprise)
     connecter_touches();
     VScroll1_Change();
     actualiser();
+    retenir_place(*this);
 }
 
 void Télécommande::Active_Desactive(bool Status) {

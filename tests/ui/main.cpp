@@ -1,5 +1,7 @@
 #include "ui/ligne_texte.h"
 
+#include "outils/dossier_temporaire.h"
+
 #include <QApplication>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -23,6 +25,8 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(dire);
+    const DossierTemporaire reglages; // not the user's own
+    qputenv("XDG_CONFIG_HOME", reglages.chemin().c_str());
     QApplication::setStyle("Fusion");
     const QApplication application(argc, argv);
     // Nothing of the user's own settings is read or written.

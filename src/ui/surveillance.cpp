@@ -1,0 +1,177 @@
+#include "ui/surveillance.h"
+
+#include "base/fichiers.h"
+#include "sim/orientation.h"
+#include "ui/boites.h"
+#include "ui/garde.h"
+#include "ui/sim1.h"
+
+#include <QApplication>
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <functional>
+
+namespace {
+
+bool trajet_non_sauve(const Etat& e) {
+    for (int i = 0; i <= robots_max; ++i)
+        if (e.TrajetModifie(i))
+            return true;
+    return false;
+}
+
+} // namespace
+
+Surveillance::Surveillance(Sim1& sim) : sim_(sim) {
+    attente_.setSingleShot(true);
+    attente_.setInterval(attente_ms);
+    const auto attendre = [this] { attente_.start(); };
+    QObject::connect(&veilleur_, &QFileSystemWatcher::fileChanged, &attente_, attendre);
+    QObject::connect(&veilleur_, &QFileSystemWatcher::directoryChanged, &attente_, attendre);
+    QObject::connect(&attente_, &QTimer::timeout, [this] { garde(sim_, [this] { verifier(); }); });
+}
+
+std::filesystem::path Surveillance::fichier(std::size_t k) const {
+    const Projet& projet = sim_.projet();
+    if (k == 0)
+        return projet.chemin_table();
+    const int n = static_cast<int>((k - 1) % robots_des_fichiers) + 1;
+    return k < premier_trajet ? projet.chemin_robot(n) : projet.chemin_trajet(n);
+}
+
+// A file that is missing or cannot be read keeps its print: it counts again once it is back.
+Surveillance::Empreinte Surveillance::empreinte(const std::filesystem::path& fichier,
+                                                const Empreinte& connue) {
+    struct stat s {};
+    if (::stat(fichier.c_str(), &s) != 0)
+        return connue;
+    const std::array<std::int64_t, 4> version{static_cast<std::int64_t>(s.st_ino), s.st_size,
+                                              s.st_ctim.tv_sec, s.st_ctim.tv_nsec};
+    if (version == connue.version)
+        return connue;
+    try {
+        return {version, std::hash<std::string>()(lire_octets(fichier))};
+    } catch (const ErreurFichier&) {
+        return connue;
+    }
+}
+
+void Surveillance::noter(std::size_t debut) {
+    for (std::size_t k = debut; k < nombre; ++k)
+        empreintes_.at(k) = empreinte(fichier(k), empreintes_.at(k));
+}
+
+void Surveillance::prendre_note() {
+    projet_ = sim_.etat().NomProjet;
+    empreintes_ = {};
+    noter(0);
+    suivre();
+}
+
+void Surveillance::prendre_note_des_trajets() {
+    noter(premier_trajet);
+    suivre();
+}
+
+// The directory tells of files that come and go, a file of what is written into it; one that was
+// replaced by renaming must be named anew.
+void Surveillance::suivre() {
+    QStringList voulus{texte_qt(sim_.projet().dossier_configuration().string())};
+    for (std::size_t k = 0; k < nombre; ++k)
+        voulus << texte_qt(fichier(k).string());
+    QStringList perdus;
+    for (const QString& chemin : veilleur_.files() + veilleur_.directories())
+        if (!voulus.removeOne(chemin))
+            perdus << chemin;
+    if (!perdus.isEmpty())
+        veilleur_.removePaths(perdus);
+    voulus.removeIf([](const QString& chemin) {
+        struct stat s {};
+        return ::stat(chemin.toUtf8().constData(), &s) != 0;
+    });
+    if (!voulus.isEmpty())
+        veilleur_.addPaths(voulus);
+}
+
+std::vector<std::size_t> Surveillance::chercher_changements() {
+    std::vector<std::size_t> changes;
+    for (std::size_t k = 0; k < nombre; ++k) {
+        const Empreinte nouvelle = empreinte(fichier(k), empreintes_.at(k));
+        if (nouvelle.contenu != empreintes_.at(k).contenu)
+            changes.push_back(k);
+        empreintes_.at(k) = nouvelle;
+    }
+    suivre();
+    return changes;
+}
+
+void Surveillance::verifier() {
+    if (sim_.terminee())
+        return;
+    if (QApplication::activeModalWidget() != nullptr)
+        return attente_.start(); // one question at a time
+    if (projet_ != sim_.etat().NomProjet)
+        return prendre_note();
+    const std::vector<std::size_t> changes = chercher_changements();
+    if (changes.empty())
+        return;
+    const bool table_seule = changes.back() == 0;
+    const std::string quoi = noms(changes);
+    if (!permis(table_seule, quoi))
+        return;
+    if (sim_.en_course())
+        sim_.moteur().Fin_Jeu();
+    if (table_seule)
+        relire_table();
+    else
+        relire_tout();
+    sim_.ecrire_texte_Mess("Relu après un changement : " + quoi);
+}
+
+bool Surveillance::permis(bool table_seule, const std::string& quoi) {
+    std::string question = "Modifié par un autre programme : " + quoi + std::string(RetourLigne);
+    if (!table_seule && trajet_non_sauve(sim_.etat()))
+        question += "Relire ferait perdre le trajet enregistré qui n'est pas sauvegardé. "
+                    "Faut-il relire quand même ?";
+    else if (sim_.en_course())
+        question += "Faut-il arrêter la course et relire ?";
+    else
+        return true;
+    return sim_.question(question);
+}
+
+std::string Surveillance::noms(const std::vector<std::size_t>& changes) const {
+    constexpr std::size_t nommes = 3;
+    std::string texte;
+    for (std::size_t i = 0; i < std::min(changes.size(), nommes); ++i)
+        texte += (i > 0 ? ", " : "") + fichier(changes[i]).filename().string();
+    if (changes.size() > nommes)
+        texte += " et " + std::to_string(changes.size() - nommes) + " de plus";
+    return texte;
+}
+
+// The robots stay where they stand: turned back with the old table, turned again with the new one.
+void Surveillance::relire_table() {
+    Etat& e = sim_.etat();
+    if (e.TableHorizontale)
+        vertical(e);
+    sim_.projet().LoadTable();
+    if (e.TableHorizontale)
+        horizontal(e);
+    sim_.redessiner();
+}
+
+void Surveillance::relire_tout() {
+    Etat& e = sim_.etat();
+    for (int i = 0; i <= robots_max; ++i)
+        e.TrajetModifie(i) = false;
+    sim_.projet().LoadTable();
+    sim_.projet().Init_Robot();
+    sim_.projet().Init_Jeu();
+    if (e.TableHorizontale)
+        horizontal(e);
+    sim_.recommencer_console();
+    sim_.redessiner();
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QFileSystemWatcher>
+#include <QTimer>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+class Sim1;
+
+/// Watches the loaded project's table, robot and trajectory files. One that another program has
+/// saved is read again at once when nothing runs and nothing unsaved would be lost, after a
+/// question otherwise. A table read again alone leaves robots and trajectories as they are.
+class Surveillance final {
+public:
+    /// From the last sign of a change to the reading: an editor may write a file in several goes.
+    static constexpr int attente_ms = 300;
+
+    explicit Surveillance(Sim1& sim);
+
+    /// The files as they are now are those that are loaded.
+    void prendre_note();
+    /// The same for the trajectory files alone, which the program writes itself.
+    void prendre_note_des_trajets();
+
+private:
+    /// The table, then the robots, then the trajectories.
+    static constexpr std::size_t nombre = 19, premier_trajet = 10;
+
+    /// A file as it was last seen; `version` tells without reading it whether it was touched.
+    struct Empreinte {
+        std::array<std::int64_t, 4> version{};
+        std::size_t contenu = 0;
+    };
+
+    static Empreinte empreinte(const std::filesystem::path& fichier, const Empreinte& connue);
+    std::filesystem::path fichier(std::size_t k) const;
+    void noter(std::size_t debut);
+    void suivre();
+    void verifier();
+    std::vector<std::size_t> chercher_changements();
+    bool permis(bool table_seule, const std::string& quoi);
+    void relire_table();
+    void relire_tout();
+    std::string noms(const std::vector<std::size_t>& changes) const;
+
+    Sim1& sim_;
+    QFileSystemWatcher veilleur_;
+    QTimer attente_;
+    std::string projet_; ///< whose files the prints are
+    std::array<Empreinte, nombre> empreintes_;
+};

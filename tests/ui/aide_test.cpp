@@ -1,0 +1,99 @@
+#include "ui/aide.h"
+
+#include "ui/banc.h"
+#include "ui/manuel.h"
+
+#include <QDir>
+#include <QTextBlock>
+
+namespace {
+
+class Manuel : public Banc {
+protected:
+    Aide& aide() { return trouver<Aide>("Aide"); }
+    QString titre(QWidget& fenetre) {
+        return fenetre.findChild<QTextBrowser*>("page")->document()->begin().text();
+    }
+};
+
+TEST_F(Manuel, chaque_page_existe_et_ses_liens_menent_a_une_page) {
+    const QRegularExpression lien("\\]\\(([^)]*)\\)");
+    QStringList fichiers;
+    for (const PageManuel& page : pages_du_manuel())
+        fichiers << QString(page.fichier) + ".md";
+    QStringList presents = QDir(":/manuel").entryList(QDir::Files);
+    EXPECT_EQ(presents.size(), fichiers.size());
+    for (const PageManuel& page : pages_du_manuel()) {
+        const QString texte = texte_de(page);
+        EXPECT_TRUE(texte.startsWith("# ")) << page.fichier;
+        EXPECT_FALSE(texte.contains("<")) << page.fichier; // would be taken for markup
+        for (const auto& trouve : lien.globalMatch(texte))
+            EXPECT_TRUE(fichiers.contains(trouve.captured(1)))
+                << page.fichier << trouve.captured(1).toStdString();
+    }
+}
+
+TEST_F(Manuel, chaque_fenetre_ouvre_sa_page) {
+    demarrer();
+    cliquer("Aide");
+    EXPECT_TRUE(aide().isVisible());
+    EXPECT_EQ(titre(aide()), "Les options et les projets");
+    for (const auto& [controle, page] : {std::pair{"Table", "La fenêtre principale"},
+                                         {"Command1", "Les options et les projets"}}) {
+        aide().hide();
+        QTest::keyClick(&trouver(controle), Qt::Key_F1);
+        EXPECT_TRUE(aide().isVisible()) << controle;
+        EXPECT_EQ(titre(aide()).toStdString(), page);
+    }
+    sim->montrer_console();
+    QTest::keyClick(&trouver("Text1"), Qt::Key_F1);
+    EXPECT_EQ(titre(aide()), "La télécommande");
+    QTest::keyClick(&aide(), Qt::Key_F1); // stays
+    EXPECT_EQ(titre(aide()), "La télécommande");
+    QTest::keyClick(&aide(), Qt::Key_Escape);
+    EXPECT_FALSE(aide().isVisible());
+}
+
+TEST_F(Manuel, une_fenetre_modale_a_son_aide_a_elle) {
+    demarrer();
+    QTimer::singleShot(0, [this] {
+        QWidget& ouvrir = *QApplication::activeModalWidget();
+        QTest::keyClick(ouvrir.findChild<QWidget*>("Combo1"), Qt::Key_F1);
+        auto* locale = ouvrir.findChild<QWidget*>("Aide");
+        ASSERT_NE(locale, nullptr);
+        EXPECT_EQ(titre(*locale), "Les options et les projets");
+        QTest::keyClick(&ouvrir, Qt::Key_Escape);
+    });
+    cliquer("Command2");
+}
+
+TEST_F(Manuel, les_pages_se_suivent_et_la_recherche_les_trie) {
+    demarrer();
+    cliquer("Aide");
+    auto& sommaire = trouver<QListWidget>("sommaire");
+    auto& page = trouver<QTextBrowser>("page");
+    const int depart = sommaire.currentRow();
+    sommaire.setCurrentRow(depart + 1);
+    EXPECT_EQ(titre(aide()), "La télécommande");
+    QTest::mouseClick(&trouver("precedent"), Qt::LeftButton);
+    EXPECT_EQ(sommaire.currentRow(), depart);
+    QTest::mouseClick(&trouver("suivante"), Qt::LeftButton);
+    EXPECT_EQ(sommaire.currentRow(), depart + 1);
+
+    auto& recherche = trouver<QLineEdit>("recherche");
+    recherche.setText("DEFAUTGENERE"); // in one page only
+    int visibles = 0;
+    for (int i = 0; i < sommaire.count(); ++i)
+        visibles += sommaire.item(i)->isHidden() ? 0 : 1;
+    EXPECT_EQ(visibles, 1);
+    QTest::keyClick(&recherche, Qt::Key_Return);
+    EXPECT_EQ(titre(aide()), "La génération PICBASIC");
+    EXPECT_EQ(page.textCursor().selectedText(), "DefautGENERE");
+    recherche.setText("telecommande");
+    EXPECT_FALSE(page.extraSelections().isEmpty());
+    EXPECT_EQ(page.extraSelections().first().cursor.selectedText(), "télécommande");
+    recherche.clear();
+    EXPECT_TRUE(page.extraSelections().isEmpty());
+}
+
+} // namespace

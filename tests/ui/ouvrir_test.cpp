@@ -1,0 +1,150 @@
+#include "ui/banc.h"
+#include "ui/ouvrir.h"
+
+#include <algorithm>
+
+namespace {
+
+class Charger : public Banc {
+protected:
+    Charger() { dossier.ecrire("Configuration/Essai Table.ini", "M,Essai\r\nL,0,0,90,50\r\n"); }
+
+    /// Presses "Charger"; `agir` finds the list open.
+    void charger(const std::function<void(Ouvrir&)>& agir) {
+        bool ouverte = false;
+        QTimer attente;
+        QObject::connect(&attente, &QTimer::timeout, [&] {
+            auto* ouvrir = dynamic_cast<Ouvrir*>(QApplication::activeModalWidget());
+            if (ouvrir == nullptr || std::exchange(ouverte, true))
+                return;
+            agir(*ouvrir);
+        });
+        attente.start(1);
+        cliquer("Command2");
+        EXPECT_TRUE(ouverte);
+    }
+    static void choisir(Ouvrir& ouvrir, const QString& projet, const char* bouton = "Command1") {
+        if (!projet.isNull())
+            ouvrir.findChild<QComboBox*>("Combo1")->setCurrentText(projet);
+        QTest::mouseClick(ouvrir.findChild<QPushButton*>(bouton), Qt::LeftButton);
+    }
+    std::string general() const { return dossier.lire("Configuration/Tavolmex.ini"); }
+};
+
+TEST_F(Charger, la_liste_dit_ce_qui_sera_lu_et_choisit_le_projet_courant) {
+    demarrer();
+    for (const auto& [projet, choisi] : {std::pair{"Essai", 1}, {"Defaut", 0}, {"Absent", 0}}) {
+        const char* courant = projet;
+        e().NomProjet = courant;
+        charger([&, attendu = choisi](Ouvrir& o) {
+            EXPECT_EQ(o.windowTitle(), "Ouvrir ...");
+            auto& liste = *o.findChild<QComboBox*>("Combo1");
+            ASSERT_EQ(liste.count(), 2);
+            EXPECT_EQ(liste.itemText(0), "Defaut");
+            EXPECT_EQ(liste.itemText(1), "Essai");
+            EXPECT_EQ(liste.currentIndex(), attendu) << courant;
+            EXPECT_EQ(o.findChild<QLabel*>("Label2")->text(), "( Avec n  de 1 à 9 )");
+            EXPECT_EQ(o.findChild<QLabel*>("Label3")->text().toStdString(),
+                      " Répertoire : \n" + (dossier / "Configuration").string());
+            QTest::keyClick(&o, Qt::Key_Escape);
+        });
+        EXPECT_EQ(e().NomProjet, courant);
+    }
+}
+
+TEST_F(Charger, le_projet_choisi_est_cree_lu_dessine_et_retenu) {
+    demarrer();
+    cliquer("Command1");
+    const QSize avant = sim->size();
+    charger([](Ouvrir& o) { choisir(o, "Essai"); });
+    EXPECT_EQ(e().NomProjet, "Essai");
+    EXPECT_TRUE(std::filesystem::exists(dossier / "Configuration/Essai Trajet9.ini"));
+    EXPECT_FALSE(sim->en_course());
+    EXPECT_EQ(e().XMax, 90);
+    EXPECT_NE(sim->size(), avant);
+    EXPECT_EQ(trouver<QLabel>("LNom").text(), "\nEssai");
+    EXPECT_TRUE(sim->options().modifie);
+    EXPECT_TRUE(messages.empty()) << messages[0];
+    // The settings had not been modified when the choice was made: they are written on leaving.
+    EXPECT_EQ(general().find("Essai"), std::string::npos);
+    cliquer("Command4");
+    EXPECT_NE(general().find("Défaut , Essai\r\n"), std::string::npos);
+}
+
+TEST_F(Charger, annuler_ne_relit_rien_meme_apres_un_chargement) {
+    demarrer();
+    charger([](Ouvrir& o) { choisir(o, "Essai"); });
+    dossier.ecrire("Configuration/Essai Table.ini", "L,0,0,70,70\r\n");
+    for (const auto& [projet, bouton] : {std::pair{"Defaut", "Command2"}, {"Essai", "Command2"}}) {
+        charger([&, p = projet, b = bouton](Ouvrir& o) { choisir(o, p, b); });
+        EXPECT_EQ(e().NomProjet, "Essai");
+        EXPECT_EQ(e().XMax, 90);
+    }
+    charger([](Ouvrir& o) { choisir(o, "Essai"); });
+    EXPECT_EQ(e().XMax, 70);
+}
+
+TEST_F(Charger, la_table_reste_tournee_et_les_robots_reviennent) {
+    demarrer();
+    cocher("Check3", true);
+    trouver<QScrollBar>("VScroll1").setValue(2);
+    charger([](Ouvrir& o) { choisir(o, "Essai"); });
+    EXPECT_EQ(e().XMax, 50);
+    EXPECT_EQ(e().YMax, 90);
+    EXPECT_EQ(e().NbRobot, 2);
+    trouver<QScrollBar>("VScroll1").setValue(7);
+    EXPECT_EQ(e().NbRobot, 7);
+}
+
+TEST_F(Charger, une_liste_vide_donne_le_projet_sans_nom) {
+    demarrer();
+    std::filesystem::remove(dossier / "Configuration/Essai Table.ini");
+    std::filesystem::remove(dossier / "Configuration/Defaut Table.ini");
+    charger([](Ouvrir& o) {
+        EXPECT_EQ(o.findChild<QComboBox*>("Combo1")->count(), 0);
+        choisir(o, {});
+    });
+    EXPECT_EQ(e().NomProjet, "");
+    EXPECT_TRUE(std::filesystem::exists(dossier / "Configuration/ Table.ini"));
+}
+
+TEST_F(Charger, le_trajet_enregistre_est_propose_avant_la_liste) {
+    demarrer();
+    e().TrajetModifie(1) = true;
+    reponses = {false};
+    charger([this](Ouvrir& o) {
+        EXPECT_EQ(messages.size(), 1U);
+        choisir(o, "Essai");
+    });
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_EQ(messages[0].find("question: Vous avez modifié le trajet du robot 1"), 0U);
+}
+
+// A whole session on the options window: only what it changed is in the file afterwards.
+TEST_F(Charger, une_session_entiere) {
+    dossier.ecrire("Configuration/Tavolmex.ini", "Rapide,0\r\n");
+    demarrer();
+    cliquer("Command4");
+    EXPECT_EQ(general(), "Rapide,0\r\n"); // nothing was changed
+
+    demarrer();
+    cocher("Check2", true);
+    cocher("utiliDamier", true);
+    trouver<QScrollBar>("VScroll1").setValue(3);
+    charger([](Ouvrir& o) { choisir(o, "Essai"); });
+    EXPECT_NE(general().find("Défaut , Essai\r\n"), std::string::npos); // already modified
+    cliquer("Command1");
+    EXPECT_TRUE(sim->en_course());
+    cliquer("Command1");
+    e().TrajetModifie(2) = true;
+    reponses = {true};
+    cliquer("Command4");
+    EXPECT_EQ(fins, (std::vector{0, 0}));
+    const std::string attendu = "Défaut , Essai\r\nRapide,0\r\nAllege,1\r\nNbRobot,3\r\n"
+                                "Horizontale,0\r\n";
+    EXPECT_NE(general().find(attendu), std::string::npos) << general();
+    ASSERT_EQ(messages.size(), 2U);
+    EXPECT_NE(messages[1].find("Essai PourGenerer10.ini"), std::string::npos);
+}
+
+} // namespace

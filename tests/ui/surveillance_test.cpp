@@ -1,0 +1,122 @@
+#include "ui/surveillance.h"
+
+#include "base/fichiers.h"
+#include "ui/banc.h"
+
+#include <fstream>
+
+namespace {
+
+class FichiersChanges : public Banc {
+protected:
+    static constexpr const char* table = "L,0,0,90,50\r\n";
+
+    std::filesystem::path chemin(const std::string& nom) const {
+        return dossier / ("Configuration/Defaut " + nom);
+    }
+    void ecrire(const std::string& nom, std::string_view octets) const {
+        std::ofstream(chemin(nom), std::ios::binary) << octets;
+    }
+    void attendre() {
+        QTest::qWait(2 * Surveillance::attente_ms);
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    }
+    std::string etat() { return trouver<LigneTexte>("Mess").texte().toStdString(); }
+};
+
+TEST_F(FichiersChanges, ecrit_remplace_ou_recree_le_fichier_est_relu) {
+    demarrer();
+    const std::function<void()> manieres[] = {
+        [this] { ecrire("Table.ini", "L,0,0,90,50\r\n"); },
+        [this] { remplacer_fichier(chemin("Table.ini"), "L,0,0,91,50\r\n"); },
+        [this] { ecrire("Table.ini", "L,0,0,92,50\r\n"); }, // the replaced file is still watched
+        [this] {
+            std::filesystem::remove(chemin("Table.ini"));
+            QTest::qWait(2 * Surveillance::attente_ms);
+            EXPECT_EQ(e().XMax, 92);
+            ecrire("Table.ini", "L,0,0,93,50\r\n");
+        }};
+    int x = 90;
+    for (const auto& maniere : manieres) {
+        maniere();
+        attendre();
+        EXPECT_EQ(e().XMax, x++);
+        EXPECT_EQ(etat(), "Relu après un changement : Defaut Table.ini");
+    }
+    EXPECT_TRUE(messages.empty());
+}
+
+TEST_F(FichiersChanges, une_table_relue_laisse_les_robots_ou_ils_sont) {
+    demarrer();
+    cocher("Check3", true);
+    e().XRobot(1) = 40;
+    e().YRobot(1) = 60;
+    e().TrajetModifie(1) = true; // a table takes nothing away from a recording
+    const QSize taille = sim->size();
+    ecrire("Table.ini", "L,0,0,200,320\r\nO,1,2,3,4\r\n");
+    attendre();
+    EXPECT_EQ(e().NbZones, 2);
+    EXPECT_EQ(e().Zones(2).X1, 2); // turned
+    EXPECT_EQ(e().XRobot(1), 40);
+    EXPECT_EQ(e().YRobot(1), 60);
+    EXPECT_EQ(sim->size(), taille);
+    EXPECT_TRUE(e().TrajetModifie(1));
+    EXPECT_TRUE(messages.empty());
+    e().TrajetModifie(1) = false;
+}
+
+TEST_F(FichiersChanges, robots_et_trajets_sont_relus_ensemble) {
+    demarrer();
+    for (int n = 1; n <= 4; ++n)
+        ecrire("Trajet" + std::to_string(n) + ".ini", "Init,7,8,9\r\nFIN\r\n");
+    ecrire("Robot2.ini", "V,50,50\r\n");
+    attendre();
+    EXPECT_EQ(e().XRobot(1), 7);
+    EXPECT_EQ(e().VitesseLin(2), 0.5F);
+    EXPECT_EQ(etat(), "Relu après un changement : Defaut Robot2.ini, Defaut Trajet1.ini, "
+                      "Defaut Trajet2.ini et 2 de plus");
+}
+
+TEST_F(FichiersChanges, une_course_ou_un_enregistrement_fait_demander) {
+    int x = 0;
+    for (const bool course : {true, false}) {
+        for (const bool oui : {false, true}) {
+            demarrer();
+            messages.clear();
+            e().TrajetModifie(1) = !course;
+            if (course)
+                cliquer("Command1");
+            reponses = {oui};
+            ecrire("Trajet1.ini", "Init," + std::to_string(++x) + ",8,9\r\nFIN\r\n");
+            attendre();
+            ASSERT_EQ(messages.size(), 1U) << course << oui;
+            EXPECT_NE(messages[0].find("Modifié par un autre programme : Defaut Trajet1.ini\n"),
+                      std::string::npos);
+            EXPECT_NE(messages[0].find(course ? "arrêter la course" : "perdre"), std::string::npos);
+            EXPECT_EQ(e().XInit(1) == float(x), oui);
+            EXPECT_EQ(sim->en_course(), course && !oui);
+            EXPECT_EQ(e().TrajetModifie(1), !course && !oui);
+            attendre(); // asked once only
+            EXPECT_EQ(messages.size(), 1U);
+            e().TrajetModifie(1) = false;
+        }
+    }
+}
+
+TEST_F(FichiersChanges, ce_que_le_programme_ecrit_ou_qui_ne_change_rien_ne_dit_rien) {
+    demarrer();
+    e().TrajetModifie(1) = true;
+    reponses = {true};
+    sim->SauvRobot();
+    messages.clear();
+    const std::string question = etat();
+    const std::string avant = dossier.lire("Configuration/Defaut Table.ini");
+    ecrire("Table.ini", avant);
+    dossier.ecrire("Configuration/Autre Table.ini", table);
+    attendre();
+    EXPECT_EQ(etat(), question);
+    EXPECT_EQ(e().XMax, 200);
+    EXPECT_TRUE(messages.empty());
+}
+
+} // namespace
