@@ -12,8 +12,11 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 
+#include <cstdlib>
 #include <filesystem>
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -22,18 +25,17 @@ constexpr auto mode_enfant = "--enfant";
 // Ends the program once the main window and the options window have been painted.
 class FinAuPremierTrait final : public QObject {
 public:
-    explicit FinAuPremierTrait(Sim1& sim) : sim_(sim) {
+    explicit FinAuPremierTrait(Sim1& sim) {
         sim.findChild<QWidget*>("Table")->installEventFilter(this);
         sim.findChild<QWidget*>("Command1")->installEventFilter(this);
     }
     bool eventFilter(QObject*, QEvent* evenement) override {
         if (evenement->type() == QEvent::Paint && ++peints_ == 2)
-            QTimer::singleShot(0, &sim_, [this] { sim_.terminer(0); });
+            QTimer::singleShot(0, this, [] { std::_Exit(0); });
         return false;
     }
 
 private:
-    Sim1& sim_;
     int peints_ = 0;
 };
 
@@ -48,6 +50,7 @@ int enfant(int argc, char** argv) {
 long lancer(const std::string& programme, std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), programme);
     std::vector<char*> argv;
+    argv.reserve(arguments.size() + 1);
     for (std::string& a : arguments)
         argv.push_back(a.data());
     argv.push_back(nullptr);

@@ -4,6 +4,8 @@
 #include <QPaintEvent>
 #include <QTimer>
 
+#include <cstdlib>
+
 namespace {
 
 class Fenetre final : public QLabel {
@@ -13,7 +15,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* evenement) override {
         QLabel::paintEvent(evenement);
-        QTimer::singleShot(0, qApp, &QApplication::quit);
+        QTimer::singleShot(0, this, [] { std::_Exit(0); });
     }
 };
 

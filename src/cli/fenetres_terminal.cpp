@@ -2,7 +2,7 @@
 
 #include <string>
 
-void FenetresTerminal::message(std::string_view texte) {
+void FenetresTerminal::message(std::string_view texte, std::string_view) {
     std::string ligne;
     Lignes lignes(texte);
     while (const auto suivante = lignes.suivante())

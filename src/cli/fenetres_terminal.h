@@ -12,7 +12,7 @@ public:
     FenetresTerminal(Etat& etat, std::ostream& erreurs) : e(etat), erreurs_(erreurs) {}
     virtual ~FenetresTerminal() = default;
 
-    void message(std::string_view texte) override;
+    void message(std::string_view texte, std::string_view explication = {}) override;
     bool question(std::string_view texte) override;
     void regler_Timer(Entier16 ms) override { intervalle_ = ms; }
     void ecrire_Mess(const LigneMess&) override {}

@@ -6,6 +6,7 @@
 
 #include <unistd.h>
 
+#include <cstdio>
 #include <iostream>
 
 namespace {
@@ -34,6 +35,8 @@ public:
             return reponse_ == "oui";
         std::string reponse;
         std::cerr << "(oui/non) ? " << std::flush;
+        std::cin.clear(); // after the commands' end-of-file key, a terminal still answers
+        std::clearerr(stdin);
         std::getline(std::cin, reponse);
         return minuscules(rogner(reponse)).starts_with('o');
     }

@@ -115,15 +115,17 @@ bool Projet::lire(const std::string& nom, const Entier16& NoLigne, Lecteur lecte
             return lire_octets_natif(chemin.c_str(), taille_lisible);
         }
     };
+    std::string raison;
     try {
         const std::string texte = en_utf8(contenu());
         lecteur(std::string_view(texte));
         return true;
-    } catch (const ErreurExecution&) { // NOLINT(bugprone-empty-catch)
-        // Whatever happened, the message names the file and the line.
+    } catch (const ErreurExecution& erreur) {
+        raison = erreur.what();
     }
     f.message("Erreur lors de la lecture du fichier " + chemin + " Ligne " +
-              std::to_string(NoLigne));
+                  std::to_string(NoLigne),
+              "Raison : " + raison);
     return false;
 }
 

@@ -30,10 +30,10 @@ private:
         const auto portees = portee_.premiers(nb_robots_vus_);
         const auto x = e.XRobot.premiers(nb_robots_vus_);
         const auto y = e.YRobot.premiers(nb_robots_vus_);
-        bool tous = true;
+        unsigned tous = 1; // without a branch
         for (std::size_t i = 0; i < portees.size(); ++i)
-            tous = tous & (std::fabs(x[i]) < portees[i]) & (std::fabs(y[i]) < portees[i]);
-        return tous;
+            tous &= unsigned{std::fabs(x[i]) < portees[i]} & unsigned{std::fabs(y[i]) < portees[i]};
+        return tous != 0;
     }
 
     bool table_vue_ = false;

@@ -69,7 +69,7 @@ void SurfaceSvg::contour(Couleur couleur, bool rempli) {
 
 void SurfaceSvg::boite_pleine(double x1, double y1, double x2, double y2) {
     rectangle(x1, y1, x2, y2);
-    corps_ += " fill=\"" + hexadecimal(trait_) + "\"/>\n";
+    corps_ += " fill=\"" + hexadecimal(trait_) + "\" stroke=\"none\"/>\n";
 }
 
 void SurfaceSvg::boite(double x1, double y1, double x2, double y2, Couleur couleur) {
@@ -124,8 +124,8 @@ void SurfaceSvg::repere(PointTable centre, double rayon, Couleur couleur, std::s
     nombre("cx", centre.x);
     nombre("cy", -centre.y);
     nombre("r", rayon);
-    corps_ +=
-        " fill=\"" + hexadecimal(couleur) + "\"><title>" + echapper(bulle) + "</title></circle>\n";
+    corps_ += " fill=\"" + hexadecimal(couleur) + "\" stroke=\"none\"><title>" + echapper(bulle) +
+              "</title></circle>\n";
 }
 
 std::string SurfaceSvg::document(std::string_view titre) const {

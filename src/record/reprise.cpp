@@ -49,7 +49,8 @@ std::string BilanSauvegarde::message() const {
 }
 
 fs::path Reprise::chemin_de(const std::string& projet) const {
-    return dossier_ / (projet + std::string(suffixe));
+    // Put together as text: a name that begins with a separator stays below the directory.
+    return {dossier_.native() + "/" + projet + std::string(suffixe)};
 }
 
 fs::path Reprise::chemin() const {

@@ -9,8 +9,9 @@
 /// compile. The windows, the command line and the tests each implement it.
 class Fenetres {
 public:
-    /// Message box with an OK button; returns once it is closed.
-    virtual void message(std::string_view texte) = 0;
+    /// Message box with an OK button; returns once it is closed. `explication` says more where
+    /// there is more to say; a window shows it beneath the text, the command line leaves it out.
+    virtual void message(std::string_view texte, std::string_view explication = {}) = 0;
     /// Message box with Yes and No buttons; true = Yes.
     virtual bool question(std::string_view texte) = 0;
     /// The simulation clock, in milliseconds; 0 = stopped.

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QTimer>
 #include <QTranslator>
 
 #include <cstdio>
@@ -28,6 +29,8 @@ int executer(const std::filesystem::path& dossier, const std::function<void(Sim1
         QCoreApplication::exit(sortie);
     });
     sim.Form_Load();
+    // After the windows: the icon is a picture to be read.
+    QTimer::singleShot(0, &sim, [] { QApplication::setWindowIcon(QIcon(":/tavolmex.svg")); });
     if (prete)
         prete(sim);
     return code ? *code : QApplication::exec();
@@ -42,7 +45,6 @@ int executer_application(int& argc, char** argv,
     QApplication::setStyle("Fusion");
     const QApplication application(argc, argv);
     QApplication::setApplicationName("Tavolmex");
-    QApplication::setWindowIcon(QIcon(":/tavolmex.svg"));
     QTranslator francais;
     if (francais.load("qtbase_fr", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&francais);

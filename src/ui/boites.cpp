@@ -26,10 +26,11 @@ void preparer(QMessageBox& boite, const char* nom, std::string_view texte) {
 
 } // namespace
 
-void Boites::message(std::string_view texte) {
+void Boites::message(std::string_view texte, std::string_view explication) {
     const Ouverture ouverture(ouvertes_);
     QMessageBox boite(&fenetre_);
     preparer(boite, "message", texte);
+    boite.setInformativeText(texte_qt(explication));
     boite.setIcon(QMessageBox::Warning);
     boite.setStandardButtons(QMessageBox::Ok);
     boite.exec();

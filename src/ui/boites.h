@@ -13,7 +13,7 @@ public:
     explicit Boites(QWidget& fenetre) : fenetre_(fenetre) {}
 
     /// A box with an OK button; returns once it is closed.
-    void message(std::string_view texte);
+    void message(std::string_view texte, std::string_view explication = {});
     /// A box with "Oui" and "Non"; closing it otherwise means "Non". @returns true for "Oui"
     bool question(std::string_view texte);
     bool ouverte() const { return ouvertes_ > 0; }

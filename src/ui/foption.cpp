@@ -123,5 +123,6 @@ void FOption::connecter() {
     connect(&VScroll1, &QScrollBar::valueChanged, this,
             [this](int valeur) { garde(sim_, [&] { VScroll1_Change(valeur); }); });
     brancher(Command1, [this] { Command1_Click(); });
+    brancher(Command5, [this] { sim_.montrer_console(); });
     brancher(Command4, [this] { Command4_Click(); });
 }

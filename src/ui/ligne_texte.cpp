@@ -75,12 +75,21 @@ QString LigneTexte::texte() const {
 int LigneTexte::hauteur(int largeur) const {
     constexpr std::string_view usuel = "     Durée : 1 mn 30 s     Action 100/100 en cours : "
                                        "BALISE DRO  -100/100 cm Incidence:359.5 Nbre carreaux:100";
-    const auto tient = [&](std::string_view t) {
-        return fontMetrics().horizontalAdvance(texte_qt(rogner(t))) + 2 * marge <= largeur;
-    };
-    const int lignes = tient(usuel) ? 1 : tient(usuel.substr(0, coupes(usuel).mesure)) ? 2 : 3;
+    if (largeurs_.entiere == 0) {
+        const auto mesurer = [this](std::string_view t) {
+            return fontMetrics().horizontalAdvance(texte_qt(t)) + 2 * marge;
+        };
+        largeurs_ = {mesurer(usuel), mesurer(rogner(usuel.substr(0, coupes(usuel).mesure)))};
+    }
+    const int lignes = largeurs_.entiere <= largeur ? 1 : largeurs_.debut <= largeur ? 2 : 3;
     const int h = fontMetrics().height() * lignes + 2 * marge_verticale;
     return h + h % 2; // even: the table lies on whole pixels at 150 % as well
+}
+
+void LigneTexte::changeEvent(QEvent* evenement) {
+    if (evenement->type() == QEvent::FontChange)
+        largeurs_ = {};
+    QWidget::changeEvent(evenement);
 }
 
 void LigneTexte::changer(const Contenu& contenu) {

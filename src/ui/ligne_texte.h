@@ -30,6 +30,7 @@ public:
     static void installer_accessibilite();
 
 protected:
+    void changeEvent(QEvent* evenement) override;
     void paintEvent(QPaintEvent* evenement) override;
     void resizeEvent(QResizeEvent*) override { ranger(); }
     void showEvent(QShowEvent*) override { ranger(); }
@@ -44,6 +45,13 @@ private:
     int rangees_possibles() const;
     QRect place(int numero) const;
 
+    /// Widths (logical pixels) of the longest usual text and of its beginning up to the name.
+    struct Largeurs {
+        int entiere = 0;
+        int debut = 0;
+    };
+
     Contenu contenu_;
+    mutable Largeurs largeurs_;                   ///< measured once for a font
     std::array<TexteCourt, rangees_max> rangees_; ///< what is on the screen, line by line
 };

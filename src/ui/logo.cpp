@@ -1,21 +1,18 @@
 #include "ui/logo.h"
 
+#include <QIcon>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QSvgRenderer>
+#include <QTimer>
 
 namespace {
 
 constexpr int marge = 8; ///< logical pixels around the banner's text
 constexpr int drapeaux = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
 
+// Through Qt's SVG plugin, which is loaded only then.
 QPixmap dessiner(QSize taille, qreal densite) {
-    QPixmap image(taille * densite);
-    image.setDevicePixelRatio(densite);
-    image.fill(Qt::transparent);
-    QPainter peintre(&image);
-    QSvgRenderer(QStringLiteral(":/logo.svg")).render(&peintre, QRectF({0, 0}, taille));
-    return image;
+    return QIcon(":/logo.svg").pixmap(taille, densite);
 }
 
 } // namespace
@@ -25,10 +22,17 @@ Logo::Logo(QWidget* parent) : QWidget(parent) {
 }
 
 void Logo::paintEvent(QPaintEvent*) {
-    const qreal densite = devicePixelRatioF();
-    if (image_.size() != size() * densite)
-        image_ = dessiner(size(), densite);
-    QPainter(this).drawPixmap(0, 0, image_);
+    if (image_.size() == size() * devicePixelRatioF()) {
+        QPainter(this).drawPixmap(0, 0, image_);
+    } else if (!attendue_) {
+        // The windows first: reading the picture takes longer than painting them.
+        attendue_ = true;
+        QTimer::singleShot(0, this, [this] {
+            attendue_ = false;
+            image_ = dessiner(size(), devicePixelRatioF());
+            update();
+        });
+    }
 }
 
 void Logo::mouseReleaseEvent(QMouseEvent* evenement) {

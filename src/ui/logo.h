@@ -19,6 +19,7 @@ protected:
 
 private:
     QPixmap image_;
+    bool attendue_ = false; ///< the picture is about to be made
 };
 
 /// The project's banner: a card behind the logo, with the text below it. The line breaks that push

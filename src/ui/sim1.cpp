@@ -5,6 +5,7 @@
 #include "sim/disposition.h"
 #include "sim/orientation.h"
 #include "ui/garde.h"
+#include "ui/telecommande.h"
 
 #include <QCloseEvent>
 #include <QMenu>
@@ -19,7 +20,8 @@ Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(
       Table(*e, *this, this),
       LNom(&Table),
       logo(&Table),
-      options_(*this) {
+      options_(*this),
+      reprise_(*e, projet_.dossier_configuration()) {
     nommer();
     connecter();
 }
@@ -74,6 +76,33 @@ void Sim1::Form_Load() {
         return;
     show();
     Table_Click();
+    garde(*this, [this] { proposer_reprise(); });
+}
+
+// What a crash, a kill or a power cut left unsaved.
+void Sim1::proposer_reprise() {
+    const bool repris = reprise_.proposer(*this, [this](const std::string& nom) {
+        e->NomProjet = nom;
+        recharger_projet();
+    });
+    if (repris && !terminee_) {
+        Dessine_Table();
+        Dessine_Robot();
+    }
+}
+
+void Sim1::recharger_projet() {
+    projet_.Installe();
+    moteur_.Fin_Jeu();
+    projet_.LoadTable();
+    projet_.Init_Robot();
+    projet_.Init_Jeu();
+    if (e->TableHorizontale)
+        horizontal(*e);
+    Init_Table();
+    Dessine_Table();
+    Dessine_Robot();
+    options_.modifie = true;
 }
 
 void Sim1::charger_projet() {
@@ -89,6 +118,44 @@ void Sim1::charger_projet() {
 }
 
 void Sim1::Table_Click() {
+    montrer_options();
+    if (console_)
+        console_->hide();
+}
+
+void Sim1::montrer_console() {
+    if (!console_)
+        console_ = std::make_unique<Télécommande>(*this, reprise_);
+    const QRect cadre_options = options_.frameGeometry();
+    if (!console_->isVisible())
+        console_->move(cadre_options.topLeft());
+    console_->show();
+    console_->raise();
+    console_->activateWindow();
+}
+
+void Sim1::SauvRobot() {
+    const BilanSauvegarde bilan = reprise_.sauver(*this);
+    if (const std::string texte = bilan.message(); !texte.empty())
+        message(texte);
+}
+
+void Sim1::Active_Desactive(bool Status) {
+    if (!console_)
+        return;
+    if (Status)
+        console_->action_finie();
+    else
+        console_->Active_Desactive(false);
+}
+
+void Sim1::montrer_course(bool en_cours) {
+    options_.montrer_course(en_cours);
+    if (!en_cours && console_)
+        console_->action_finie();
+}
+
+void Sim1::montrer_options() {
     options_.show();
     options_.raise();
     options_.activateWindow();
@@ -140,9 +207,9 @@ void Sim1::closeEvent(QCloseEvent* evenement) {
         garde(*this, [this] { Form_Unload(); });
 }
 
-void Sim1::message(std::string_view texte) {
+void Sim1::message(std::string_view texte, std::string_view explication) {
     show();
-    boites_.message(texte);
+    boites_.message(texte, explication);
 }
 
 bool Sim1::question(std::string_view texte) {

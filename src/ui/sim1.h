@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/projet.h"
+#include "record/reprise.h"
 #include "sim/fenetres.h"
 #include "sim/moteur.h"
 #include "ui/boites.h"
@@ -14,6 +15,8 @@
 
 #include <functional>
 #include <memory>
+
+class Télécommande;
 
 /// The main window: owns the simulation's state, the engine, the project's files, the clock and the
 /// options window. The other windows reach the state through it.
@@ -30,8 +33,15 @@ public:
     void Init_Table();
     void Table_Click();
     void logo_Click() { Table_Click(); }
-    /// Offers to save the paths that were recorded since the last saving.
-    void SauvRobot() {}
+    /// Offers to save the paths that were recorded since the last saving; tells what could not be
+    /// written.
+    void SauvRobot();
+    /// Shows the options window.
+    void montrer_options();
+    /// Shows the console, made the first time.
+    void montrer_console();
+    /// Loads the present project's files in place of what is there.
+    void recharger_projet();
     /// Writes the general settings if they were modified.
     void SaveGeneral();
     /// Ends the program; nothing of it runs any more afterwards.
@@ -43,7 +53,7 @@ public:
     Projet& projet() { return projet_; }
     FOption& options() { return options_; }
 
-    void message(std::string_view texte) override;
+    void message(std::string_view texte, std::string_view explication = {}) override;
     bool question(std::string_view texte) override;
     void regler_Timer(Entier16 ms) override;
     void ecrire_Mess(const LigneMess& mess) override { Mess.ecrire(mess); }
@@ -51,11 +61,11 @@ public:
     void ecrire_Info(const LigneInfo& info) override { Info.ecrire(info); }
     void ecrire_LNom(std::string_view texte) override;
     void ecrire_nbre_carreaux(std::string_view texte) override;
-    void Active_Desactive(bool) override {}
+    void Active_Desactive(bool Status) override;
     void Dessine_Table() override;
     void Dessine_Robot() override;
     void apres_actions() override {}
-    void montrer_course(bool en_cours) override { options_.montrer_course(en_cours); }
+    void montrer_course(bool en_cours) override;
     void montrer_logo(bool visible) override;
     void fin_du_programme() override;
 
@@ -71,6 +81,7 @@ private:
     void placer_options();
     struct MesuresEcran mesures(int largeur_Mess) const;
     void charger_projet();
+    void proposer_reprise();
     void Timer_Timer();
     void menu_robots(const QPoint& ou);
     void Form_Unload();
@@ -88,4 +99,6 @@ private:
     Logo logo;
     QSize taille_Table_; ///< logical pixels that Init_Table chose: only their ratio counts
     FOption options_;
+    Reprise reprise_;
+    std::unique_ptr<Télécommande> console_; ///< made when it is first shown
 };

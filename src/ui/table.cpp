@@ -1,6 +1,7 @@
 #include "ui/table.h"
 
 #include "draw/robot.h"
+#include "draw/surface_vide.h"
 #include "draw/table.h"
 
 #include <QKeyEvent>
@@ -57,13 +58,23 @@ Repere Table::repere() const {
 }
 
 void Table::Dessine_Table() {
-    if (cle() == cle_du_fond_ || !peindre_fond())
+    if (cle() == cle_dessinee_)
+        return;
+    if (image_.isNull()) {
+        const ZoneEntiere zone(e);
+        SurfaceVide surface; // the errors alone; the drawing comes with the next painting
+        if (!::Dessine_Table(e, surface, f))
+            return;
+        cle_dessinee_ = cle();
+    } else if (!peindre_fond())
         return;
     peindre_robots();
     update();
 }
 
 void Table::Dessine_Robot() {
+    if (!e.logo_visible && image_.isNull() && !peindre_fond()) // a run begins
+        return;
     effacer_robots();
     signaler_robots(); // what they leave
     contours_.vider();
@@ -90,7 +101,7 @@ bool Table::peindre_fond() {
     peintre.end();
     fond_ = image;
     image_ = image.copy();
-    cle_du_fond_ = nouvelle;
+    cle_dessinee_ = nouvelle;
     return true;
 }
 
@@ -99,13 +110,27 @@ void Table::peindre_robots() {
     if (image_.isNull() || nombre_rectangles_ == 0)
         return;
     QPainter peintre(&image_);
+    peindre_contours(peintre);
+}
+
+void Table::peindre_contours(QPainter& peintre) {
     SurfaceQt surface(peintre, size());
     regler(surface, e);
     for (const Contours::Trait& t : contours_)
         surface.ligne(t.x1, t.y1, t.x2, t.y2, t.couleur);
 }
 
+void Table::peindre_directement(QPainter& peintre) {
+    const ZoneEntiere zone(e);
+    SurfaceQt surface(peintre, size());
+    regler(surface, e);
+    peindre_table(e, surface);
+    peindre_contours(peintre);
+}
+
 void Table::effacer_robots() {
+    if (image_.isNull())
+        return;
     const double densite = image_.devicePixelRatio();
     for (int i = 0; i < nombre_rectangles_; ++i) {
         const QRect& r = rectangles_[static_cast<std::size_t>(i)];
@@ -154,18 +179,25 @@ void Table::ajouter_rectangle(QRect r) {
     nombre_rectangles_ = static_cast<int>(fin - debut);
 }
 
+// True while the table is as it was drawn, whatever size it is shown at: painting it again cannot
+// fail.
+bool Table::meme_table() const {
+    return !cle_dessinee_.taille.isEmpty() && e.version_table == cle_dessinee_.version &&
+           e.Echelle == cle_dessinee_.Echelle;
+}
+
 void Table::paintEvent(QPaintEvent* evenement) {
-    const Cle maintenant = cle();
-    if (maintenant.taille != cle_du_fond_.taille && maintenant.version == cle_du_fond_.version &&
-        maintenant.Echelle == cle_du_fond_.Echelle && peindre_fond())
+    const bool a_garder = !image_.isNull() ? cle() != cle_dessinee_ : peinte_;
+    if (a_garder && meme_table() && peindre_fond())
         peindre_robots();
     QPainter peintre(this);
-    if (image_.isNull()) // before the first drawing
-        peintre.fillRect(evenement->rect(), palette().window());
-    else if (maintenant.taille == cle_du_fond_.taille)
-        peintre.drawImage(0, 0, image_);
-    else
+    if (!image_.isNull())
         peintre.drawImage(rect(), image_);
+    else if (meme_table()) {
+        peindre_directement(peintre);
+        peinte_ = true;
+    } else // before the first drawing
+        peintre.fillRect(evenement->rect(), palette().window());
 }
 
 void Table::mouseReleaseEvent(QMouseEvent* evenement) {

@@ -44,9 +44,10 @@ private:
     int nombre_ = 0;
 };
 
-/// The drawing surface of the main window. The table is painted once into a picture, again only
-/// when its records, its size or the screen's density change. A second picture shows the robots on
-/// it: a tick gives back the pixels that they left and draws them where they are; the screen gets
+/// The drawing surface of the main window. The first painting is a straight one. From the second
+/// painting or the first run on, the table is kept in one picture, painted again only when its
+/// records, its size or the screen's density change, and the table with the robots in another one:
+/// a tick gives back the pixels that the robots left and draws them where they are; the screen gets
 /// those pixels alone.
 class Table final : public QWidget {
 public:
@@ -77,7 +78,10 @@ private:
     static constexpr int rectangles_max = 16;
 
     Cle cle() const;
+    bool meme_table() const;
     bool peindre_fond();
+    void peindre_contours(QPainter& peintre);
+    void peindre_directement(QPainter& peintre);
     void peindre_robots();
     void effacer_robots();
     void signaler_robots();
@@ -86,9 +90,10 @@ private:
 
     Etat& e;
     Fenetres& f;
-    QImage fond_;  ///< the table
-    QImage image_; ///< the table and the robots
-    Cle cle_du_fond_;
+    bool peinte_ = false; ///< the straight painting was made
+    QImage fond_;         ///< the table
+    QImage image_;        ///< the table and the robots
+    Cle cle_dessinee_;    ///< of the table last drawn
     Contours contours_;
     std::array<QRect, rectangles_max> rectangles_{}; ///< pixels that the robots cover
     int nombre_rectangles_ = 0;

@@ -21,6 +21,7 @@ TEST_F(LireProjet, un_autre_projet_est_installe_un_seul_nom_apres_l_autre) {
     ecrire("Tavolmex.ini", "Défaut, Essai\nRapide, 1\nFaute, 1\nAllege, 1");
     projet.LoadGeneral();
     EXPECT_EQ(f.messages, std::vector{message("Tavolmex.ini", 3)});
+    EXPECT_NE(f.explications[0].find("FAUTE"), std::string::npos) << f.explications[0];
     EXPECT_EQ(e.NomProjet, "Essai");
     EXPECT_EQ(e.Options(1), 1);
     EXPECT_EQ(e.Options(2), 0);

@@ -17,7 +17,7 @@ TEST(SurfaceSvg, retourne_l_axe_des_y_et_garde_les_epaisseurs_en_pixels) {
     for (
         const char* attendu :
         {R"(width="400" height="600" viewBox="-5 -325 210 330" preserveAspectRatio="none")",
-         R"(<rect x="0" y="-30" width="10" height="10" fill="#008000"/>)",
+         R"(<rect x="0" y="-30" width="10" height="10" fill="#008000" stroke="none"/>)",
          R"(<circle cx="1" cy="-2" r="3" fill="#ffff00" stroke="#ff0000" stroke-width="1")",
          R"(<line x1="0" y1="0" x2="1.5" y2="2" fill="none" stroke="#000000" stroke-width="1" stroke-dasharray="1 2")",
          "<title>a &lt; b &amp; c</title>"})

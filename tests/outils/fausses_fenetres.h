@@ -13,12 +13,14 @@ public:
 
     std::vector<std::string> appels;
     std::vector<std::string> messages;
+    std::vector<std::string> explications; ///< one for each message
     std::deque<bool> reponses;
     std::string Mess, Info, LNom, nbre_carreaux;
     int intervalle = 0;
     bool terminee = false;
 
-    void message(std::string_view texte) override {
+    void message(std::string_view texte, std::string_view explication = {}) override {
+        explications.emplace_back(explication);
         messages.emplace_back(texte);
         noter("message", texte);
     }

@@ -31,7 +31,7 @@ using Appels = std::vector<std::string>;
 // Says nothing and keeps nothing.
 class FenetresMuettes final : public Fenetres {
 public:
-    void message(std::string_view) override {}
+    void message(std::string_view, std::string_view) override {}
     bool question(std::string_view) override { return false; }
     void regler_Timer(Entier16) override {}
     void ecrire_Mess(const LigneMess&) override {}

@@ -96,8 +96,8 @@ TEST_F(Course, le_bouton_lance_puis_arrete_et_fige_les_options) {
     EXPECT_TRUE(Timer.isActive());
     EXPECT_EQ(e().RobotTele, 0);
     EXPECT_TRUE(QTest::qWaitFor([this] { return e().TempsEcoule >= 3; }));
-    EXPECT_TRUE(QTest::qWaitFor(
-        [this] { return trouver<LigneTexte>("Info").texte().startsWith("Xm="); }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return trouver<LigneTexte>("Info").texte().startsWith("Xm="); }));
     EXPECT_TRUE(trouver<LigneTexte>("Mess").texte().startsWith("     Durée : 0 mn 0"));
 
     cliquer("Command1");

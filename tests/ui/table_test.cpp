@@ -24,6 +24,7 @@ protected:
         table.resize(420, 660);
         table.show();
         dessiner();
+        table.grab(); // the second painting: from now on pictures are kept
     }
     void dessiner() {
         table.Dessine_Table();
@@ -38,6 +39,20 @@ protected:
     FaussesFenetres f;
     Table table{*e, f, nullptr};
 };
+
+TEST_F(TableTest, l_image_gardee_est_celle_de_la_premiere_peinture) {
+    e->Lignes(1) = {0, 0, 200, 320};
+    e->NbLignes = 1;
+    e->CapRobot(1) = 30;
+    Table neuve(*e, f, nullptr);
+    neuve.resize(333, 555);
+    neuve.Dessine_Table();
+    neuve.Dessine_Robot();
+    const QImage directe = neuve.grab().toImage();
+    EXPECT_EQ(directe, neuve.grab().toImage());
+    neuve.Dessine_Robot(); // erased and drawn again at the same place
+    EXPECT_EQ(directe, neuve.grab().toImage());
+}
 
 // Keeps what the widget is asked to repaint.
 class Espion : public QObject {

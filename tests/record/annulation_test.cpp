@@ -1,0 +1,127 @@
+#include "banc_console.h"
+
+#include "sim/orientation.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Everything that an action can have changed, as text.
+std::string photo(const BancConsole& b) {
+    std::string texte = b.trajet(1) + b.table() + std::to_string(b.e.nb_a_generer);
+    for (int i = 1; i <= 2; ++i) {
+        for (const float v : {b.e.XRobot(i), b.e.YRobot(i), b.e.CapRobot(i), b.e.Xm(i), b.e.Ym(i),
+                              b.e.Xextr(i), b.e.Yextr(i)})
+            texte.append(" ").append(texte_simple(v).vue());
+        texte += " " + std::to_string(b.e.NumAction(i));
+    }
+    return texte + " " + std::to_string(b.e.TempsEcoule) + " " +
+           std::string(texte_simple(b.e.Incidence).vue()) + " " + std::to_string(b.e.NbreCarreaux) +
+           (b.e.logo_visible ? " fin" : " course") + b.d.lire("Defaut Reprise.ini");
+}
+
+TEST(Annulation, chaque_action_se_reprend_jusqu_a_la_premiere) {
+    BancConsole b;
+    b.e.utiliDamier = true;
+    b.e.TrajNbActions(2) = 2; // the other robot moves meanwhile
+    b.e.TrajAction(2, 1) = actions::AVANCE;
+    b.e.TrajParam1(2, 1) = 150;
+    b.e.TrajAction(2, 2) = actions::FIN;
+    b.debuter();
+    b.jouer("Avance", "10");
+    std::vector<std::string> photos;
+    for (const auto& [legende, Text1, Text4] : {std::tuple{"Avance", "50", "0"},
+                                                {"Pause", "20", "0"},
+                                                {"VirAvGa", "30", "90"},
+                                                {"Droite", "0", "45"}}) {
+        photos.push_back(photo(b));
+        b.jouer(legende, Text1, Text4);
+    }
+    while (!photos.empty()) {
+        b.c.annuler();
+        EXPECT_EQ(photo(b), photos.back());
+        EXPECT_EQ(b.f.nbre_carreaux, std::to_string(b.e.NbreCarreaux));
+        photos.pop_back();
+    }
+    b.jouer("Recule", "4");
+    EXPECT_EQ(b.e.TrajNbActions(1), 2);
+    EXPECT_EQ(b.c.etapes().size(), 2U);
+}
+
+TEST(Annulation, le_recommencement_apres_90_s_se_reprend_aussi) {
+    BancConsole b;
+    b.debuter();
+    b.jouer("Avance", "10");
+    b.jouer("Recule", "3");
+    const std::string avant_la_fin = photo(b);
+    b.rendre_la_balise_introuvable(1);
+    b.jouer("Balise Droite");
+    const std::string fin_du_match = photo(b);
+    b.jouer("Gauche", "0", "30");
+    EXPECT_EQ(b.trajet(1), "GAUCHE    ,30,0;");
+    b.c.annuler();
+    EXPECT_EQ(photo(b), fin_du_match);
+    EXPECT_TRUE(b.e.logo_visible);
+    b.c.annuler();
+    EXPECT_EQ(photo(b), avant_la_fin);
+    b.jouer("Avance", "1");
+    EXPECT_EQ(b.trajet(1), "AVANCE    ,10,0;RECULE    ,3,0;AVANCE    ,1,0;");
+}
+
+TEST(Annulation, seulement_en_enregistrant_et_au_repos) {
+    BancConsole b;
+    EXPECT_FALSE(b.c.annulation_possible());
+    b.debuter();
+    EXPECT_FALSE(b.c.annulation_possible());
+    b.c.Command4_Click("Avance", "50", "0");
+    b.c.annuler();
+    EXPECT_EQ(b.c.phase(), Console::Phase::action);
+    b.tourner();
+    EXPECT_TRUE(b.c.annulation_possible());
+    b.e.RobotTele = 0; // "Démarrer" plays the trajectory
+    b.m.Fin_Jeu();
+    b.m.Run_Jeu();
+    EXPECT_FALSE(b.c.annulation_possible());
+    b.m.Fin_Jeu();
+    EXPECT_TRUE(b.c.annulation_possible());
+    b.c.Command9_Click({});
+    EXPECT_FALSE(b.c.annulation_possible());
+    b.debuter(); // a new recording does not reach into the previous one
+    EXPECT_FALSE(b.c.annulation_possible());
+    EXPECT_EQ(b.trajet(1), "AVANCE    ,50,0;");
+}
+
+TEST(Annulation, la_table_tournee_entre_temps_garde_son_sens) {
+    BancConsole b;
+    b.debuter();
+    b.jouer("Avance", "10");
+    b.jouer("Avance", "20");
+    b.e.TableHorizontale = -1;
+    horizontal(b.e);
+    b.c.annuler();
+    EXPECT_EQ(b.e.XMax, 320);
+    // (60, 50) heading 90 on the table of 200 x 320, turned.
+    EXPECT_NEAR(b.e.XRobot(1), 50, 1e-3);
+    EXPECT_NEAR(b.e.YRobot(1), 140, 1e-3);
+    EXPECT_NEAR(b.e.CapRobot(1), 0, 1e-3);
+}
+
+TEST(Liste, montre_valeurs_durees_et_temps_du_match) {
+    BancConsole b;
+    b.debuter();
+    b.jouer("Avance", "50"); // 50 steps and the tick that finds the robot idle, after the first one
+    b.jouer("VirAvDr", "30", "90");
+    b.jouer("Pause", "100");
+    b.jouer("Balise Gauche");
+    const LigneListe avance = ligne_de_liste(b.c.etapes().at(0));
+    EXPECT_EQ(avance.numero + "|" + avance.action + "|" + avance.duree + "|" + avance.total,
+              "1|Avance 50 cm|0,51 s|0,52 s");
+    EXPECT_EQ(ligne_de_liste(b.c.etapes().at(1)).action, "VirAvDr 90° rayon 30 cm");
+    const LigneListe pause = ligne_de_liste(b.c.etapes().at(2));
+    EXPECT_EQ(pause.action + "|" + pause.duree, "Pause 1,00 s|1,02 s");
+    EXPECT_EQ(ligne_de_liste(b.c.etapes().at(3)).action, "Balise Gauche");
+    EXPECT_EQ(texte_duree(b.e.TempsEcoule), ligne_de_liste(b.c.etapes().back()).total);
+    EXPECT_EQ(texte_duree(9005), "90,05 s");
+}
+
+} // namespace

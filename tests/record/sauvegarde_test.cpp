@@ -1,0 +1,333 @@
+#include "banc_console.h"
+
+#include "record/generation.h"
+#include "sim/orientation.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/ptrace.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <csignal>
+#include <set>
+
+namespace {
+
+const std::string entete_generation =
+    "# Fichier Defaut PourGenerer10.iniréalisé par " TAVOLMEX_CONTACT "\r\n"
+    "# Projet Ardanel. Equipe Brindalo\r\n"
+    "# Site : " TAVOLMEX_SITE "\r\n"
+    "\r\n"
+    "# Fichier de description du déplacement du robot: POUR GENERATION DU CODE PICBASIC.\r\n"
+    "#\r\n";
+
+struct BancSauvegarde : BancConsole {
+    /// The lines after the header of a trajectory file, "/" between them.
+    std::string lignes(const std::string& nom) const {
+        std::string texte;
+        const std::string contenu = d.lire(nom); // Lignes only looks at it
+        Lignes lignes(contenu);
+        int numero = 0;
+        while (const auto ligne = lignes.suivante()) {
+            if (++numero > 8)
+                texte.append(texte.empty() ? "" : "/").append(*ligne);
+        }
+        return texte;
+    }
+    void ajouter(int i, Nom10 action, int p1 = 0, int p2 = 0) {
+        const Entier16 n = e.TrajNbActions(i) + 1;
+        e.TrajNbActions(i) = n;
+        e.TrajAction(i, n) = action;
+        e.TrajParam1(i, n) = p1;
+        e.TrajParam2(i, n) = p2;
+    }
+    void ligne(int code, int p1 = 0, int p2 = 0) {
+        const int n = e.nb_a_generer;
+        e.TableauAGenerer(n, 0) = static_cast<std::uint8_t>(code);
+        e.TableauAGenerer(n, 1) = static_cast<std::uint8_t>(p1);
+        e.TableauAGenerer(n, 2) = static_cast<std::uint8_t>(p2);
+        e.nb_a_generer = n + 1;
+    }
+};
+
+TEST(SauvRobot, ecrit_les_deux_fichiers_d_un_trajet) {
+    BancSauvegarde b;
+    b.e.XInit(1) = 120;
+    b.e.YInit(1) = 80.5F;
+    b.e.CapInit(1) = 90;
+    b.e.TrajNbActions(1) = 0;
+    b.ajouter(1, actions::AVANCE, 120);
+    b.ajouter(1, actions::FIN);
+    b.ajouter(1, actions::DROITE, -90);
+    b.ajouter(1, actions::VIRAVGA, 40, 1);
+    b.ajouter(1, actions::BD, 3, 4);
+    b.ajouter(1, actions::INIT, 1, 2);
+    b.ajouter(1, actions::BALISE_GAU);
+    b.ligne(1, 120);
+    b.ligne(4, 90);
+    b.ligne(5, 40, 1);
+    b.ligne(10);
+    b.e.TableauAGenerer(5, 0) = 1; // beyond the end mark
+    Set_Sauv_Robot(b.e, 1);
+    b.f.reponses = {true};
+    EXPECT_TRUE(SauvRobot(b.e, b.f, b.d.chemin()).empty());
+
+    const std::string P = (b.d / "Defaut Trajet1.ini").string();
+    const std::string question = "Vous avez modifié le trajet du robot 1\r\n"
+                                 "Doit-on le sauvegarder ?\r\n( Fichier : " +
+                                 P;
+    EXPECT_EQ(b.f.appels,
+              (std::vector<std::string>{"Mess " + question, "question " + question,
+                                        "message " + (b.d / "Defaut PourGenerer10.ini").string()}));
+    EXPECT_EQ(b.lignes("Defaut Trajet1.ini"),
+              "Init,120,80.5,90/AVANCE    ,120/DROITE    ,-90/VIRAVGA   ,40,1/BD        /BALISE "
+              "GAU/FIN");
+    EXPECT_EQ(b.d.lire("Defaut PourGenerer10.ini"),
+              entete_generation + "AVANCE:120\r\nGAUCHE:90\r\nAVANCE:33.6588393923159\r\n"
+                                  "GAUCHE:90\r\nAVANCE:18.3879077652744\r\nBALDROITE\r\n");
+}
+
+TEST(TexteGeneration, chaque_code_a_ses_lignes) {
+    struct Cas {
+        int code, p1, p2;
+        const char* attendu;
+    };
+    const Cas cas[] = {
+        {2, 0, 9, "RECULE:0\r\n"},
+        {3, 90, 0, "DROITE:90\r\n"},
+        {6, 50, 90, "AVANCE:44.6998331800279\r\nDROITE:90\r\nAVANCE:72.4036808064585\r\n"},
+        {7, 30, 0, "RECULE:0\r\nGAUCHE:90\r\nRECULE:0\r\n"},
+        {8, 255, 4, "RECULE:-192.984636303522\r\nDROITE:90\r\nRECULE:421.679123320221\r\n"},
+        {9, 255, 0, "DELAY :255\r\n"},
+        {11, 5, 5, "BALGAUCHE\r\n"},
+        {12, 7, 0, "CARREAUX:7\r\n"},
+        {13, 7, 0, "'*** PB remplissage fichier\r\n"},
+    };
+    for (const Cas& c : cas) {
+        BancSauvegarde b;
+        b.ligne(c.code, c.p1, c.p2);
+        EXPECT_EQ(texte_generation(b.e, "Defaut PourGenerer10.ini"), entete_generation + c.attendu);
+    }
+    BancSauvegarde pleine;
+    for (int n = 0; n <= 1000; ++n)
+        pleine.ligne(10);
+    EXPECT_EQ(texte_generation(pleine.e, "Defaut PourGenerer10.ini").size(),
+              entete_generation.size() + std::size_t{1001} * 11);
+    EXPECT_THROW(Set_Sauv_Robot(pleine.e, 11), HorsTable);
+}
+
+TEST(SauvRobot, la_derniere_reponse_decide_de_la_generation) {
+    struct Cas {
+        std::vector<bool> reponses;
+        bool trajet1, trajet2, generation;
+    };
+    for (const Cas& cas :
+         {Cas{{true, false}, true, false, false}, Cas{{false, true}, false, true, true}}) {
+        BancSauvegarde b;
+        b.e.TrajetModifie(1) = b.e.TrajetModifie(2) = b.e.TrajetModifie(10) = true;
+        b.f.reponses.assign(cas.reponses.begin(), cas.reponses.end());
+        EXPECT_TRUE(SauvRobot(b.e, b.f, b.d.chemin()).empty());
+        EXPECT_EQ(std::filesystem::exists(b.d / "Defaut Trajet1.ini"), cas.trajet1);
+        EXPECT_EQ(std::filesystem::exists(b.d / "Defaut Trajet2.ini"), cas.trajet2);
+        EXPECT_EQ(std::filesystem::exists(b.d / "Defaut PourGenerer10.ini"), cas.generation);
+        EXPECT_FALSE(b.e.TrajetModifie(1) || b.e.TrajetModifie(2));
+        EXPECT_TRUE(b.e.TrajetModifie(10)); // never offered
+    }
+    BancSauvegarde b;
+    SauvRobot(b.e, b.f, b.d.chemin());
+    EXPECT_TRUE(b.f.appels.empty());
+    EXPECT_TRUE(std::filesystem::is_empty(b.d.chemin()));
+    b.e.TrajetModifie(0) = true;
+    b.f.reponses = {true};
+    SauvRobot(b.e, b.f, b.d.chemin());
+    EXPECT_EQ(b.lignes("Defaut Trajet0.ini"), "Init,0,0,0/FIN");
+}
+
+TEST(SauvRobot, une_table_tournee_est_ecrite_droite_et_rendue_tournee) {
+    BancSauvegarde b;
+    b.e.TableHorizontale = -1;
+    horizontal(b.e);
+    b.debuter(1, {"20", "50", "0"});
+    b.jouer("Avance", "10");
+    b.f.reponses = {true};
+    SauvRobot(b.e, b.f, b.d.chemin());
+    EXPECT_EQ(b.lignes("Defaut Trajet1.ini"), "Init,20,50,0/AVANCE    ,10/FIN");
+    EXPECT_EQ(b.e.XMax, 320);
+    EXPECT_EQ(b.e.XInit(1), 50);
+    EXPECT_EQ(b.e.YInit(1), 180);
+    EXPECT_EQ(b.e.CapInit(1), -90);
+
+    // A pose that cannot be turned: everything stays as it was, and the caller learns it.
+    b.e.TrajetModifie(1) = true;
+    b.e.XRobot(2) = 40000;
+    b.f.reponses = {false};
+    EXPECT_EQ(SauvRobot(b.e, b.f, b.d.chemin()).size(), 1U);
+    EXPECT_EQ(b.e.XMax, 320);
+    EXPECT_EQ(b.e.YInit(1), 180);
+}
+
+TEST(SauvRobot, dix_versions_precedentes_sont_gardees) {
+    BancSauvegarde b;
+    b.d.ecrire("Defaut Trajet1.ini", "le premier");
+    std::set<std::string> gardees;
+    for (int essai = 1; essai <= 12; ++essai) {
+        b.e.XInit(1) = static_cast<float>(essai);
+        b.e.TrajetModifie(1) = true;
+        b.f.reponses = {true};
+        SauvRobot(b.e, b.f, b.d.chemin());
+        gardees.clear();
+        for (const auto& copie : std::filesystem::directory_iterator(b.d / "Sauvegardes")) {
+            const std::string nom = "Sauvegardes/" + copie.path().filename().string();
+            if (nom.starts_with("Sauvegardes/Defaut Trajet1.ini."))
+                gardees.insert(b.d.lire(nom));
+        }
+        EXPECT_EQ(gardees.contains("le premier"), essai <= 10);
+    }
+    EXPECT_EQ(gardees.size(), 10U);
+    EXPECT_EQ(b.lignes("Defaut Trajet1.ini").substr(0, 8), "Init,12,");
+}
+
+// What stands in the way of one file does not keep the others from being written.
+TEST(Sauver, un_echec_est_dit_et_l_enregistrement_est_garde) {
+    BancSauvegarde b;
+    std::filesystem::create_directory(b.d / "Defaut Trajet1.ini");
+    b.debuter(2);
+    b.jouer("Avance", "10");
+    Set_Sauv_Robot(b.e, 1);
+    b.f.reponses = {true, true};
+    const BilanSauvegarde bilan = b.reprise.sauver(b.f);
+    EXPECT_EQ(bilan.message(), "Le trajet enregistré n'a pas pu être sauvegardé en entier :\r\n" +
+                                   (b.d / "Defaut Trajet1.ini").string() +
+                                   " : c'est un dossier\r\n" + "L'enregistrement est gardé dans " +
+                                   b.reprise.chemin().string() +
+                                   " : il sera proposé au prochain démarrage.");
+    EXPECT_EQ(b.lignes("Defaut Trajet2.ini"), "Init,60,40,90/AVANCE    ,10/FIN");
+    EXPECT_TRUE(std::filesystem::exists(b.d / "Defaut PourGenerer10.ini"));
+    EXPECT_NE(b.d.lire("Defaut Reprise.ini").find("Robot,1\r\n"), std::string::npos);
+
+    // A later recording that is saved does not take the one that failed with it.
+    b.c.Command9_Click({});
+    b.debuter(2);
+    b.f.reponses = {true};
+    EXPECT_TRUE(b.reprise.sauver(b.f).complete());
+    EXPECT_NE(b.d.lire("Defaut Reprise.ini").find("Robot,1\r\n"), std::string::npos);
+}
+
+// A full disk: no file may grow beyond some bytes.
+class DisquePlein {
+public:
+    explicit DisquePlein(rlim_t octets) {
+        ::getrlimit(RLIMIT_FSIZE, &avant_);
+        ancien_ = std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limite{octets, avant_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limite);
+    }
+    DisquePlein(const DisquePlein&) = delete;
+    DisquePlein& operator=(const DisquePlein&) = delete;
+    ~DisquePlein() {
+        ::setrlimit(RLIMIT_FSIZE, &avant_);
+        std::signal(SIGXFSZ, ancien_);
+    }
+
+private:
+    rlimit avant_{};
+    void (*ancien_)(int) = nullptr;
+};
+
+TEST(Sauver, un_disque_plein_laisse_les_anciens_fichiers_entiers) {
+    for (const rlim_t octets : {rlim_t{0}, rlim_t{40}, rlim_t{200}}) {
+        BancSauvegarde b;
+        b.d.ecrire("Defaut Trajet1.ini", "l'ancien");
+        b.d.ecrire("Defaut PourGenerer10.ini", "l'ancien");
+        b.debuter();
+        b.jouer("Avance", "10");
+        const std::string reprise = b.d.lire("Defaut Reprise.ini");
+        b.f.reponses = {true};
+        BilanSauvegarde bilan;
+        {
+            const DisquePlein plein(octets);
+            bilan = b.reprise.sauver(b.f);
+            b.jouer("Avance", "11");
+            b.jouer("Avance", "12");
+        }
+        EXPECT_EQ(bilan.echecs.size(), 2U);
+        EXPECT_EQ(bilan.echec_reprise.empty(), octets == 200);
+        EXPECT_EQ(b.d.lire("Defaut Trajet1.ini"), "l'ancien");
+        EXPECT_EQ(b.d.lire("Defaut PourGenerer10.ini"), "l'ancien");
+        EXPECT_EQ(b.d.lire("Defaut Reprise.ini").substr(0, 60), reprise.substr(0, 60));
+        // The recovery file's own failure is told once, and the recording goes on.
+        EXPECT_EQ(b.f.messages.size(), 2U); // the first is the path shown
+        EXPECT_EQ(b.e.TrajNbActions(1), 3);
+    }
+}
+
+TEST(Sauver, un_dossier_impossible_est_dit) {
+    BancSauvegarde b;
+    const std::filesystem::path faux = b.d.ecrire("fichier", "") / "Configuration";
+    Reprise reprise(b.e, faux);
+    b.e.TrajetModifie(1) = true;
+    b.f.reponses = {true};
+    const BilanSauvegarde bilan = reprise.sauver(b.f);
+    EXPECT_EQ(bilan.echecs.size(), 2U);
+    EXPECT_NE(bilan.message().find("n'est gardé nulle part ailleurs"), std::string::npos);
+}
+
+// Runs `action` in a child that is killed at its `arret`-th system call. @returns true when it
+// ended by itself before
+template <typename Action>
+bool tuer_au_pas(int arret, Action action) {
+    const pid_t enfant = ::fork();
+    if (enfant == 0) {
+        ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+        ::raise(SIGSTOP);
+        action();
+        ::_exit(0);
+    }
+    int etat = 0;
+    ::waitpid(enfant, &etat, 0);
+    for (int pas = 0; WIFSTOPPED(etat) && pas < arret; ++pas) {
+        ::ptrace(PTRACE_SYSCALL, enfant, nullptr, nullptr);
+        ::waitpid(enfant, &etat, 0);
+    }
+    if (!WIFSTOPPED(etat))
+        return true;
+    ::kill(enfant, SIGKILL);
+    ::waitpid(enfant, &etat, 0);
+    return false;
+}
+
+TEST(Sauver, tue_a_tout_instant_chaque_fichier_est_l_ancien_ou_le_nouveau) {
+    const std::array<const char*, 2> noms = {"Defaut Trajet1.ini", "Defaut PourGenerer10.ini"};
+    std::array<std::string, 2> nouveaux;
+    // The first run goes to its end and shows what is new.
+    bool finie = false;
+    int pas = 0;
+    for (; !finie || pas <= 1; ++pas) {
+        BancSauvegarde b;
+        for (const char* const nom : noms)
+            b.d.ecrire(nom, "l'ancien");
+        b.debuter();
+        b.jouer("Avance", "10");
+        b.f.reponses = {true};
+        finie = tuer_au_pas(pas == 0 ? 100000 : pas, [&b] { b.reprise.sauver(b.f); });
+        int ecrits = 0;
+        for (std::size_t i = 0; i < noms.size(); ++i) {
+            const std::string contenu = b.d.lire(noms[i]);
+            if (pas == 0)
+                nouveaux[i] = contenu;
+            EXPECT_TRUE(contenu == "l'ancien" || contenu == nouveaux[i]) << contenu;
+            ecrits += contenu == nouveaux[i] ? 1 : 0;
+        }
+        // Until both are there, the recording waits in the recovery file.
+        const bool garde = std::filesystem::exists(b.d / "Defaut Reprise.ini");
+        EXPECT_TRUE(ecrits == 2 || garde) << pas;
+        EXPECT_TRUE(!finie || !garde);
+    }
+    EXPECT_NE(nouveaux[0].find("AVANCE    ,10"), std::string::npos);
+    EXPECT_GT(pas, 40);
+}
+
+} // namespace

@@ -1,0 +1,169 @@
+#include "ui/banc.h"
+#include "ui/telecommande.h"
+
+#include "sim/actions.h"
+
+#include <QKeyEvent>
+
+namespace {
+
+// Drives the console by its buttons and keys; each action is played by the real clock.
+class ConsoleFenetre : public Banc {
+protected:
+    void ouvrir() {
+        if (!sim)
+            demarrer();
+        cliquer("Command5");
+        console = &trouver("Télécommande");
+        ASSERT_TRUE(QTest::qWaitForWindowActive(console));
+    }
+    template <typename Controle = QWidget>
+    Controle& dans_console(const char* nom) {
+        return *console->findChild<Controle*>(nom);
+    }
+    QPushButton& bouton(const char* legende) {
+        for (auto* b : console->findChildren<QPushButton*>("Command4")) {
+            if (b->text() == legende)
+                return *b;
+        }
+        throw std::runtime_error(legende);
+    }
+    void saisir(const char* champ, const char* texte) {
+        dans_console<QLineEdit>(champ).setText(texte);
+    }
+    // The engine's clock is the real one: long actions are not waited for, but ticked through.
+    void finir_l_action() {
+        for (int tick = 0; tick < 3000 && !bouton("Avance").isEnabled(); ++tick)
+            sim->moteur().Timer_Timer();
+    }
+    void jouer(const char* legende) {
+        bouton(legende).click();
+        finir_l_action();
+    }
+    void commencer() {
+        dans_console<QPushButton>("Command9").click();
+        finir_l_action(); // the tick that finds the robot idle
+    }
+    std::string fichier(const char* nom) {
+        return dossier.lire(std::string("Configuration/") + nom);
+    }
+
+    QWidget* console = nullptr;
+};
+
+TEST_F(ConsoleFenetre, trois_etats_ouvrent_et_ferment_les_controles) {
+    ouvrir();
+    auto& Command9 = dans_console<QPushButton>("Command9");
+    const auto etat = [&] {
+        return std::array{Command9.text() == "Fin Enr.", bouton("Avance").isEnabled(),
+                          dans_console("Text1").isEnabled(), dans_console("TextX").isEnabled(),
+                          dans_console("VScroll1").isEnabled()};
+    };
+    EXPECT_EQ(etat(), (std::array{false, false, false, true, true}));
+    Command9.click();
+    finir_l_action();
+    EXPECT_EQ(etat(), (std::array{true, true, true, false, false}));
+    bouton("Avance").click();
+    EXPECT_EQ(etat(), (std::array{true, false, false, false, false}));
+    finir_l_action();
+    EXPECT_EQ(etat(), (std::array{true, true, true, false, false}));
+    Command9.click();
+    EXPECT_EQ(etat(), (std::array{false, false, false, true, true}));
+    EXPECT_FALSE(dans_console("annuler").isEnabled());
+}
+
+TEST_F(ConsoleFenetre, ce_qui_est_conduit_est_enregistre_et_sauve_en_quittant) {
+    ouvrir();
+    saisir("TextX", "60");
+    saisir("TextY", "40");
+    saisir("TextA", "90");
+    commencer();
+    saisir("Text1", "50");
+    QTest::keyClick(console, Qt::Key_Up, Qt::AltModifier);
+    finir_l_action();
+    saisir("Text4", "90");
+    jouer("Droite");
+    saisir("Text1", "30");
+    jouer("VirAvGa");
+    jouer("Pause");
+    EXPECT_EQ(dans_console<QListWidget>("liste").count(), 4);
+    dans_console<QPushButton>("annuler").click();
+    EXPECT_EQ(dans_console<QListWidget>("liste").count(), 3);
+    dans_console<QPushButton>("Command9").click();
+
+    reponses = {true};
+    sim->close(); // the frame does what "Quitter" does
+    EXPECT_EQ(fins, std::vector{0});
+    ASSERT_EQ(messages.size(), 2U);
+    EXPECT_TRUE(messages[0].starts_with("question: Vous avez modifié le trajet du robot 1\n"))
+        << messages[0];
+    EXPECT_TRUE(messages[1].ends_with("Defaut PourGenerer10.ini"));
+    EXPECT_NE(fichier("Defaut Trajet1.ini")
+                  .find("Init,60,40,90\r\nAVANCE    ,50\r\nDROITE    ,90\r\n"
+                        "VIRAVGA   ,90,30\r\nFIN\r\n"),
+              std::string::npos);
+    EXPECT_NE(fichier("Defaut PourGenerer10.ini").find("#\r\nAVANCE:50\r\nGAUCHE:90\r\n"),
+              std::string::npos);
+}
+
+TEST_F(ConsoleFenetre, une_valeur_refusee_est_nommee_et_la_console_reste_utilisable) {
+    ouvrir();
+    commencer();
+    saisir("Text1", "");
+    jouer("Avance");
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_NE(messages[0].find("Distance, durée ou rayon"), std::string::npos) << messages[0];
+    saisir("Text1", "300"); // too much for the generation table: it plays all the same
+    jouer("Avance");
+    ASSERT_EQ(messages.size(), 2U);
+    EXPECT_NE(messages[1].find("300"), std::string::npos) << messages[1];
+    EXPECT_EQ(e().TrajNbActions(1), 1);
+    EXPECT_EQ(e().nb_a_generer, 0);
+    EXPECT_TRUE(bouton("Avance").isEnabled());
+    QTest::keyClicks(&dans_console("Text4"), "4x,5");
+    EXPECT_FALSE(dans_console<QLineEdit>("Text4").text().contains('x'));
+    const int avant = e().NumAction(1);
+    QTest::keyClick(&dans_console("Text4"), Qt::Key_Return);
+    EXPECT_EQ(e().NumAction(1), avant) << "Enter in a field runs nothing";
+}
+
+TEST_F(ConsoleFenetre, une_recherche_sans_fin_s_arrete_par_echap_ou_par_arreter) {
+    ouvrir();
+    e().DistExtr(1) = 50;
+    e().PointY = {float(e().Xm(1)) + 10, e().Ym(1), 0}; // closer than the sensor line is long
+    commencer();
+    bouton("Balise Droite").click();
+    for (int tick = 0; tick < 50; ++tick)
+        sim->moteur().Timer_Timer();
+    EXPECT_FALSE(bouton("Avance").isEnabled());
+    QTest::keyClick(console, Qt::Key_Escape);
+    finir_l_action();
+    EXPECT_TRUE(bouton("Avance").isEnabled());
+    bouton("Balise Gauche").click();
+    EXPECT_EQ(trouver<QPushButton>("Command1").text(), "Arrêter");
+    EXPECT_TRUE(console->isVisible());
+    QTest::keyClick(&trouver("FOption"), Qt::Key_Escape);
+    sim->options().Command1.click();
+    EXPECT_TRUE(bouton("Avance").isEnabled());
+    QTest::keyClick(console, Qt::Key_Escape);
+    EXPECT_FALSE(console->isVisible());
+    EXPECT_TRUE(sim->options().isVisible());
+}
+
+TEST_F(ConsoleFenetre, ce_qui_n_est_pas_sauve_est_propose_au_prochain_depart) {
+    ouvrir();
+    saisir("TextX", "70");
+    commencer();
+    jouer("Recule");
+    sim.reset(); // killed: nothing was asked
+    EXPECT_TRUE(messages.empty());
+    reponses = {true};
+    ouvrir();
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_TRUE(messages[0].starts_with("question: "));
+    EXPECT_EQ(e().TrajAction(1, 1), actions::RECULE);
+    EXPECT_TRUE(e().TrajetModifie(1));
+    EXPECT_EQ(dans_console<QLineEdit>("TextX").text(), "70");
+}
+
+} // namespace
