@@ -72,7 +72,7 @@ void Document::retirer(std::size_t i) {
     renumeroter();
 }
 
-std::size_t Document::ajouter(Enregistrement e) {
+std::size_t Document::ajouter(Fiche e) {
     std::size_t r = entrees_.size();
     for (const std::size_t rang : rangs_)
         if (entrees_[rang].objet->cle == e.cle)
@@ -101,7 +101,7 @@ std::string Document::commentaire(const Entree& e) {
 }
 
 std::string Document::composer(const Entree& e, std::size_t champs) const {
-    const Enregistrement& o = *e.objet;
+    const Fiche& o = *e.objet;
     std::string ligne = o.cle;
     if (o.cle == "M") {
         std::string texte = "," + o.texte;

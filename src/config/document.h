@@ -11,12 +11,12 @@
 #include <vector>
 
 /// One record of a table or robot file, as the editors show and change it.
-struct Enregistrement {
+struct Fiche {
     std::string cle;          ///< upper case: "L", "PB", "R"...
     std::array<float, 4> v{}; ///< numbers in the record's own order (cm, degrees, hundredths);
                               ///< whole ones except the first of "A"; those it lacks are 0
     std::string texte;        ///< "M" only: the caption, lines separated by "\n"
-    bool operator==(const Enregistrement&) const = default;
+    bool operator==(const Fiche&) const = default;
 
     int entier(std::size_t i) const { return static_cast<int>(v[i]); }
 };
@@ -27,17 +27,17 @@ struct Enregistrement {
 class Document {
 public:
     std::size_t nombre() const { return rangs_.size(); }
-    const Enregistrement& operator[](std::size_t i) const { return *entrees_[rangs_[i]].objet; }
+    const Fiche& operator[](std::size_t i) const { return *entrees_[rangs_[i]].objet; }
     /// Records whose key is one of `cles`.
     int compter(const std::vector<std::string_view>& cles) const;
     /// Lines that count but hold no record, by their number from 1.
     std::vector<int> incomprises() const;
 
-    void remplacer(std::size_t i, Enregistrement e) { entrees_[rangs_[i]].objet = std::move(e); }
+    void remplacer(std::size_t i, Fiche e) { entrees_[rangs_[i]].objet = std::move(e); }
     void retirer(std::size_t i);
     /// Puts a record on a line of its own behind the last one of the same key, else at the end.
     /// @returns its index
-    std::size_t ajouter(Enregistrement e);
+    std::size_t ajouter(Fiche e);
     /// Swaps two records with their lines.
     void echanger(std::size_t i, std::size_t j);
 
@@ -47,12 +47,12 @@ protected:
     struct Entree {
         std::string octets;                  ///< the line as it was read, without its end
         std::string fin;                     ///< its end: CR LF, LF, CR, or none (last line)
-        std::optional<Enregistrement> lu;    ///< the record that `octets` hold
-        std::optional<Enregistrement> objet; ///< the record to write; none: the line as it was read
+        std::optional<Fiche> lu;    ///< the record that `octets` hold
+        std::optional<Fiche> objet; ///< the record to write; none: the line as it was read
         bool compte = false;                 ///< a line that a reader looks at
     };
     /// The record of one line (UTF-8, without its comment); none when it holds no proper one.
-    using Analyse = std::function<std::optional<Enregistrement>(std::string_view)>;
+    using Analyse = std::function<std::optional<Fiche>(std::string_view)>;
 
     void lire(std::string_view octets, const Analyse& analyse);
     void renumeroter();

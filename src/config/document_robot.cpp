@@ -9,10 +9,10 @@
 
 namespace {
 
-std::optional<Enregistrement> analyser(std::string_view ligne) {
+std::optional<Fiche> analyser(std::string_view ligne) {
     try {
         Champs champs(ligne);
-        Enregistrement e;
+        Fiche e;
         e.cle = champs.cle().vue();
         static constexpr std::string_view cles[] = {"R", "V", "A", "E", "I"};
         if (std::find(std::begin(cles), std::end(cles), e.cle) == std::end(cles))
@@ -50,7 +50,7 @@ DocumentRobot DocumentRobot::depuis(std::string_view octets) {
     return d;
 }
 
-std::size_t DocumentRobot::ajouter(Enregistrement e) {
+std::size_t DocumentRobot::ajouter(Fiche e) {
     if (e.cle == "R" && compter({"R"}) >= segments_max)
         throw ErreurExecution("Le robot ne peut pas avoir plus de 50 segments");
     return Document::ajouter(std::move(e));
@@ -69,7 +69,7 @@ std::array<float, 4> DocumentRobot::valeurs(std::string_view cle) const {
 }
 
 void DocumentRobot::regler(std::string_view cle, const std::array<float, 4>& v) {
-    const Enregistrement e{std::string(cle), v, ""};
+    const Fiche e{std::string(cle), v, ""};
     if (const auto i = trouver(cle))
         remplacer(*i, e);
     else

@@ -16,7 +16,7 @@ public:
     static DocumentRobot depuis(std::string_view octets);
 
     /// @throws ErreurExecution, a sentence for the user, beyond 50 segments
-    std::size_t ajouter(Enregistrement e);
+    std::size_t ajouter(Fiche e);
     /// The last record of that key: V, A, E or I.
     std::optional<std::size_t> trouver(std::string_view cle) const;
     /// Its numbers, 0 when the file has none.

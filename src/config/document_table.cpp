@@ -18,7 +18,7 @@ bool est_pion(std::string_view cle) {
     return cle != "DR" && nombre_de_champs(cle) == 3;
 }
 
-void remettre_d_aplomb(Enregistrement& e) {
+void remettre_d_aplomb(Fiche& e) {
     if (e.v[0] > e.v[2])
         std::swap(e.v[0], e.v[2]);
     if (e.v[1] > e.v[3])
@@ -28,7 +28,7 @@ void remettre_d_aplomb(Enregistrement& e) {
 /// Parses the records of one file, line after line: a disc depends on the lines before it.
 class AnalyseTable {
 public:
-    std::optional<Enregistrement> operator()(std::string_view ligne) {
+    std::optional<Fiche> operator()(std::string_view ligne) {
         try {
             return analyser(ligne);
         } catch (const ErreurExecution&) {
@@ -37,9 +37,9 @@ public:
     }
 
 private:
-    std::optional<Enregistrement> analyser(std::string_view ligne) {
+    std::optional<Fiche> analyser(std::string_view ligne) {
         Champs champs(ligne);
-        Enregistrement e;
+        Fiche e;
         e.cle = champs.cle().vue();
         if (e.cle == "M") {
             e.texte = champs.reste();
@@ -55,7 +55,7 @@ private:
         return e;
     }
 
-    void lire_nombres(Champs& champs, Enregistrement& e) {
+    void lire_nombres(Champs& champs, Fiche& e) {
         const std::size_t n = nombre_de_champs(e.cle);
         for (std::size_t i = 0; i + 1 < n; ++i)
             e.v[i] = simple(champs.entier());
@@ -68,7 +68,7 @@ private:
         virgule4_ = champs.virgule();
     }
 
-    void lire_disque(Champs& champs, Enregistrement& e) const {
+    void lire_disque(Champs& champs, Fiche& e) const {
         e.v[0] = simple(champs.entier());
         e.v[1] = simple(champs.entier());
         const std::ptrdiff_t longueur = virgule4_ - champs.virgule() - 1;
@@ -79,7 +79,7 @@ private:
         refuser_negatifs(e, 2);
     }
 
-    static void refuser_negatifs(const Enregistrement& e, std::size_t n) {
+    static void refuser_negatifs(const Fiche& e, std::size_t n) {
         if (std::any_of(e.v.begin(), e.v.begin() + static_cast<std::ptrdiff_t>(n),
                         [](float x) { return x < 0; }))
             throw ErreurLecture("coordonnée négative");
@@ -113,7 +113,7 @@ std::optional<int> rayon_lu(std::string_view ligne, std::ptrdiff_t virgule4) {
     }
 }
 
-std::string disque_serre(const Enregistrement& e) {
+std::string disque_serre(const Fiche& e) {
     const auto nombre = [&](std::size_t i) { return std::to_string(e.entier(i)); };
     return "DR," + nombre(0) + "," + nombre(1) + "," + nombre(2);
 }
@@ -162,7 +162,7 @@ DocumentTable DocumentTable::depuis(std::string_view octets) {
     return d;
 }
 
-Enregistrement DocumentTable::normaliser(Enregistrement e) {
+Fiche DocumentTable::normaliser(Fiche e) {
     const std::size_t n = nombre_de_champs(e.cle);
     const bool pion = est_pion(e.cle);
     for (std::size_t i = 0; i < n; ++i) {
@@ -185,7 +185,7 @@ Enregistrement DocumentTable::normaliser(Enregistrement e) {
     return e;
 }
 
-std::size_t DocumentTable::ajouter(Enregistrement e) {
+std::size_t DocumentTable::ajouter(Fiche e) {
     const SorteTable* sorte = sorte_table(e.cle);
     if (sorte != nullptr && compter(sorte->cles) >= sorte->capacite)
         throw ErreurExecution("La table ne peut pas avoir plus de " +
@@ -300,7 +300,7 @@ class Relecture {
 public:
     Relecture(const Etat& e, std::string nom) : e_(e), nom_(std::move(nom)) {}
 
-    bool rend(const Enregistrement& o) {
+    bool rend(const Fiche& o) {
         const SorteTable* sorte = sorte_table(o.cle);
         if (sorte == nullptr)
             return true; // the caption: only the last one counts
@@ -321,18 +321,18 @@ public:
     const std::string& nom() const { return nom_; }
 
 private:
-    static bool memes(const Enregistrement& o, const auto& q) {
+    static bool memes(const Fiche& o, const auto& q) {
         return o.entier(0) == q.X1 && o.entier(1) == q.Y1 && o.entier(2) == q.X2 &&
                o.entier(3) == q.Y2;
     }
-    static bool zone(const Enregistrement& o, const Zone& z) {
+    static bool zone(const Fiche& o, const Zone& z) {
         return o.cle == std::string(1, z.Type) && memes(o, z);
     }
-    static bool pion(const Enregistrement& o, const Pion& p) {
+    static bool pion(const Fiche& o, const Pion& p) {
         return o.cle == p.Type && o.entier(0) == p.X && o.entier(1) == p.Y &&
                o.entier(2) == p.Taille;
     }
-    static bool bloc(const Enregistrement& o, const Quatre& q) {
+    static bool bloc(const Fiche& o, const Quatre& q) {
         if (o.cle == "DC")
             return memes(o, q);
         return q.Y2 == marque_disque && o.entier(0) == q.X1 && o.entier(1) == q.Y1 &&
@@ -344,7 +344,7 @@ private:
     int zones_ = 0, pions_ = 0, lignes_ = 0, ellipses_ = 0, blocs_ = 0;
 };
 
-std::string nom_attendu(const Enregistrement& o) {
+std::string nom_attendu(const Fiche& o) {
     std::string nom(RetourLigne);
     for (const char c : o.texte)
         c == '\n' ? nom.append(RetourLigne) : nom.append(1, c);
@@ -372,7 +372,7 @@ void DocumentTable::verifier(const std::vector<std::string>& lignes) const {
     }
     Relecture relecture(*e, nom);
     for (std::size_t i = 0; i < nombre(); ++i) {
-        const Enregistrement& o = (*this)[i];
+        const Fiche& o = (*this)[i];
         if (!relecture.rend(o))
             throw ErreurExecution("L'objet " + std::to_string(i + 1) + " (" + o.cle +
                                   ") ne serait pas relu tel qu'il est dessiné");
@@ -407,7 +407,7 @@ void ranger(Tableau<T, Dernier>& table, Entier16& nombre, const T& valeur) {
     }
 }
 
-void etendre(Etat& e, const Enregistrement& o) {
+void etendre(Etat& e, const Fiche& o) {
     const bool quatre = nombre_de_champs(o.cle) == 4;
     for (std::size_t i = 0; i < (quatre ? 4U : 2U); ++i) {
         Entier16& etendue = i % 2 == 0 ? e.XMax : e.YMax;
@@ -415,7 +415,7 @@ void etendre(Etat& e, const Enregistrement& o) {
     }
 }
 
-void ranger_objet(Etat& e, const Enregistrement& o) {
+void ranger_objet(Etat& e, const Fiche& o) {
     if (est_pion(o.cle))
         return ranger(e.Pions, e.NbPions, Pion{o.entier(0), o.entier(1), o.entier(2), o.cle});
     etendre(e, o);

@@ -37,12 +37,12 @@ public:
 
     /// The record, its numbers brought into the range that reader and drawing accept, its box the
     /// right way round.
-    static Enregistrement normaliser(Enregistrement e);
-    void remplacer(std::size_t i, Enregistrement e) {
+    static Fiche normaliser(Fiche e);
+    void remplacer(std::size_t i, Fiche e) {
         Document::remplacer(i, normaliser(std::move(e)));
     }
     /// Adds a record. @throws ErreurExecution, a sentence for the user, when its kind is full
-    std::size_t ajouter(Enregistrement e);
+    std::size_t ajouter(Fiche e);
     /// Moves a record one step within its kind: later ones are drawn over it.
     /// @returns its new index, `i` when it is the last (first) already
     std::size_t deplacer(std::size_t i, bool vers_l_avant);

@@ -106,6 +106,8 @@ void FOption::Command1_Click() {
 }
 
 void FOption::Command4_Click() {
+    if (!sim_.peut_partir())
+        return;
     sim_.SaveGeneral();
     sim_.SauvRobot();
     sim_.terminer(0);

@@ -16,6 +16,8 @@
 #include <functional>
 #include <memory>
 
+class Editeurs;
+
 class Télécommande;
 
 /// The main window: owns the simulation's state, the engine, the project's files, the clock and the
@@ -44,6 +46,10 @@ public:
     void recharger_projet();
     /// Writes the general settings if they were modified.
     void SaveGeneral();
+    /// The table and robot editors.
+    Editeurs& editeurs();
+    /// Asks about unsaved drawings. @returns false when the user does not want to leave
+    bool peut_partir();
     /// Ends the program; nothing of it runs any more afterwards.
     void terminer(int code_de_sortie);
     bool terminee() const { return terminee_; }
@@ -101,4 +107,5 @@ private:
     FOption options_;
     Reprise reprise_;
     std::unique_ptr<Télécommande> console_; ///< made when it is first shown
+    std::unique_ptr<Editeurs> editeurs_;    ///< made when they are first asked for
 };

@@ -10,7 +10,7 @@
 
 namespace {
 
-Enregistrement objet(std::string cle, float a, float b, float c, float d = 0) {
+Fiche objet(std::string cle, float a, float b, float c, float d = 0) {
     return {std::move(cle), {a, b, c, d}, ""};
 }
 
