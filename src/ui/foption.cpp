@@ -120,6 +120,8 @@ void FOption::Command2_Click() {
 }
 
 void FOption::Command4_Click() {
+    if (!sim_.peut_partir())
+        return;
     sim_.SaveGeneral();
     sim_.SauvRobot();
     sim_.terminer(0);

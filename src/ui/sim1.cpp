@@ -4,8 +4,9 @@
 #include "sim/damier.h"
 #include "sim/disposition.h"
 #include "sim/orientation.h"
-#include "ui/dialog.h"
 #include "ui/aide.h"
+#include "ui/dialog.h"
+#include "ui/editeurs.h"
 #include "ui/garde.h"
 #include "ui/place.h"
 #include "ui/surveillance.h"
@@ -56,6 +57,7 @@ void Sim1::connecter() {
     connect(&Timer, &QTimer::timeout, this, [this] { Timer_Timer(); });
     connect(&Table, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& ou) { garde(*this, [&] { menu_robots(ou); }); });
+    options_.brancher(options_.dessinAire, [this] { editeurs().montrer(); });
     Table.au_clic = [this] { garde(*this, [this] { Table_Click(); }); };
     logo.au_clic = [this] { garde(*this, [this] { logo_Click(); }); };
 }
@@ -237,6 +239,16 @@ void Sim1::menu_robots(const QPoint& ou) {
         options_.choisir_robots(choix->data().toInt());
 }
 
+Editeurs& Sim1::editeurs() {
+    if (!editeurs_)
+        editeurs_ = std::make_unique<Editeurs>(*this);
+    return *editeurs_;
+}
+
+bool Sim1::peut_partir() {
+    return !editeurs_ || editeurs_->peut_partir();
+}
+
 void Sim1::terminer(int code_de_sortie) {
     if (terminee_)
         return;
@@ -250,9 +262,10 @@ void Sim1::Form_Unload() {
 }
 
 void Sim1::closeEvent(QCloseEvent* evenement) {
-    evenement->accept();
     if (!terminee_)
         garde(*this, [this] { Form_Unload(); });
+    // Unsaved drawings may have kept the program from ending.
+    evenement->setAccepted(terminee_);
 }
 
 void Sim1::message(std::string_view texte, std::string_view explication) {

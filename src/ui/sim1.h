@@ -19,6 +19,8 @@
 class Dialog;
 class ServiceAide;
 class Surveillance;
+class Editeurs;
+
 class Télécommande;
 
 /// The main window: owns the simulation's state, the engine, the project's files, the clock and the
@@ -59,6 +61,10 @@ public:
     void montrer_aide(const QWidget& depuis);
     /// Writes the general settings if they were modified.
     void SaveGeneral();
+    /// The table and robot editors.
+    Editeurs& editeurs();
+    /// Asks about unsaved drawings. @returns false when the user does not want to leave
+    bool peut_partir();
     /// Ends the program; nothing of it runs any more afterwards.
     void terminer(int code_de_sortie);
     bool terminee() const { return terminee_; }
@@ -121,4 +127,5 @@ private:
     std::unique_ptr<Dialog> generateur_;    ///< likewise
     std::unique_ptr<Surveillance> surveillance_;
     std::unique_ptr<ServiceAide> aide_;
+    std::unique_ptr<Editeurs> editeurs_; ///< made when they are first asked for
 };

@@ -53,7 +53,7 @@ protected:
 private:
     void repondre() {
         auto* boite = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (boite == nullptr)
+        if (boite == nullptr || boite->objectName() == "enregistrer") // its tests answer it
             return;
         messages.push_back((boite->objectName() + ": " + boite->text()).toStdString());
         bool oui = false;

@@ -1,0 +1,35 @@
+#include "config/document_robot.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace {
+
+/// What was not changed is written as it was read; after one change the rest still is.
+template <typename Doc>
+void essayer(std::string_view octets) {
+    Doc d = Doc::depuis(octets);
+    const std::vector<int> incomprises = d.incomprises();
+    try {
+        if (d.ecrire() != octets)
+            std::abort();
+        if (d.nombre() == 0)
+            return;
+        d.remplacer(0, d[d.nombre() / 2]);
+        const std::string ecrit = d.ecrire();
+        const Doc relu = Doc::depuis(ecrit);
+        if (relu.nombre() != d.nombre() || relu.incomprises().size() != incomprises.size())
+            std::abort();
+    } catch (const ErreurExecution&) { // NOLINT(bugprone-empty-catch)
+        // A file that the simulator's reader would refuse is not written.
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+    const std::string texte(octets, octets + taille);
+    essayer<DocumentTable>(texte);
+    essayer<DocumentRobot>(texte);
+    return 0;
+}

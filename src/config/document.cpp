@@ -1,0 +1,123 @@
+#include "config/document.h"
+
+#include "config/ligne.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr std::string_view marque_utf8 = "\xEF\xBB\xBF";
+
+bool est_dans(std::string_view cle, const std::vector<std::string_view>& cles) {
+    return std::find(cles.begin(), cles.end(), cle) != cles.end();
+}
+
+} // namespace
+
+int Document::compter(const std::vector<std::string_view>& cles) const {
+    return static_cast<int>(std::count_if(rangs_.begin(), rangs_.end(), [&](std::size_t r) {
+        return est_dans(entrees_[r].objet->cle, cles);
+    }));
+}
+
+std::vector<int> Document::incomprises() const {
+    std::vector<int> numeros;
+    for (std::size_t r = 0; r < entrees_.size(); ++r)
+        if (entrees_[r].compte && !entrees_[r].objet)
+            numeros.push_back(static_cast<int>(r) + 1);
+    return numeros;
+}
+
+void Document::lire(std::string_view octets, const Analyse& analyse) {
+    encodage_ = encodage_de(octets);
+    const std::string texte = en_utf8(std::string(octets));
+    if (encodage_ == Encodage::utf8 && octets.starts_with(marque_utf8)) {
+        prefixe_ = marque_utf8;
+        octets.remove_prefix(marque_utf8.size());
+    }
+    Lignes lignes(octets);
+    Lignes lisibles(texte); // the same lines: both encodings share the line ends
+    const char* fin_precedente = octets.data();
+    while (const auto ligne = lignes.suivante()) {
+        if (!entrees_.empty())
+            entrees_.back().fin.assign(fin_precedente, ligne->data());
+        fin_precedente = ligne->data() + ligne->size();
+        Entree e;
+        e.octets = *ligne;
+        const std::string_view utile = sans_commentaire(lisibles.suivante().value_or(""));
+        e.compte = contient_capitale_ou_chiffre(utile);
+        if (e.compte)
+            e.objet = e.lu = analyse(utile);
+        entrees_.push_back(std::move(e));
+    }
+    if (!entrees_.empty()) {
+        entrees_.back().fin.assign(fin_precedente, octets.data() + octets.size());
+        if (!entrees_.front().fin.empty())
+            fin_usuelle_ = entrees_.front().fin;
+    }
+    renumeroter();
+}
+
+void Document::renumeroter() {
+    rangs_.clear();
+    for (std::size_t r = 0; r < entrees_.size(); ++r)
+        if (entrees_[r].objet)
+            rangs_.push_back(r);
+}
+
+void Document::retirer(std::size_t i) {
+    const std::size_t r = rangs_[i];
+    entrees_.erase(entrees_.begin() + static_cast<std::ptrdiff_t>(r));
+    renumeroter();
+}
+
+std::size_t Document::ajouter(Fiche e) {
+    std::size_t r = entrees_.size();
+    for (const std::size_t rang : rangs_)
+        if (entrees_[rang].objet->cle == e.cle)
+            r = rang + 1;
+    if (r > 0 && entrees_[r - 1].fin.empty())
+        entrees_[r - 1].fin = fin_usuelle_;
+    Entree nouvelle;
+    nouvelle.fin = fin_usuelle_;
+    nouvelle.objet = std::move(e);
+    nouvelle.compte = true;
+    entrees_.insert(entrees_.begin() + static_cast<std::ptrdiff_t>(r), std::move(nouvelle));
+    renumeroter();
+    return static_cast<std::size_t>(std::find(rangs_.begin(), rangs_.end(), r) - rangs_.begin());
+}
+
+void Document::echanger(std::size_t i, std::size_t j) {
+    Entree& a = entrees_[rangs_[i]];
+    Entree& b = entrees_[rangs_[j]];
+    std::swap(a, b);
+    std::swap(a.fin, b.fin); // the last line may have none
+}
+
+std::string Document::commentaire(const Entree& e) {
+    const std::size_t debut = e.octets.find('#');
+    return debut == std::string::npos ? "" : " " + e.octets.substr(debut);
+}
+
+std::string Document::composer(const Entree& e, std::size_t champs) const {
+    const Fiche& o = *e.objet;
+    std::string ligne = o.cle;
+    if (o.cle == "M") {
+        std::string texte = "," + o.texte;
+        std::replace(texte.begin(), texte.end(), '\n', ',');
+        // A blank before the comment would belong to the caption.
+        const std::size_t debut = std::min(e.octets.find('#'), e.octets.size());
+        return ligne + encoder(texte, encodage_) + e.octets.substr(debut);
+    }
+    for (std::size_t i = 0; i < champs; ++i)
+        ligne.append(i == 0 ? " , " : ", ").append(texte_simple(o.v[i]).vue());
+    return ligne + commentaire(e);
+}
+
+std::string Document::assembler(const std::function<std::string(std::size_t)>& ecrire) const {
+    std::string texte = prefixe_;
+    for (std::size_t r = 0; r < entrees_.size(); ++r)
+        texte.append(ecrire(r)).append(entrees_[r].fin);
+    return texte;
+}

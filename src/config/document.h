@@ -1,0 +1,72 @@
+#pragma once
+
+#include "base/texte.h"
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// One record of a table or robot file, as the editors show and change it.
+struct Fiche {
+    std::string cle;          ///< upper case: "L", "PB", "R"...
+    std::array<float, 4> v{}; ///< numbers in the record's own order (cm, degrees, hundredths);
+                              ///< whole ones except the first of "A"; those it lacks are 0
+    std::string texte;        ///< "M" only: the caption, lines separated by "\n"
+    bool operator==(const Fiche&) const = default;
+
+    int entier(std::size_t i) const { return static_cast<int>(v[i]); }
+};
+
+/// A configuration file under edit: its records in order, and every other line (comments, blank
+/// lines, lines that are not understood) in its place. A line whose record is not changed keeps its
+/// bytes. A value: an earlier state is a copy of it.
+class Document {
+public:
+    std::size_t nombre() const { return rangs_.size(); }
+    const Fiche& operator[](std::size_t i) const { return *entrees_[rangs_[i]].objet; }
+    /// Records whose key is one of `cles`.
+    int compter(const std::vector<std::string_view>& cles) const;
+    /// Lines that count but hold no record, by their number from 1.
+    std::vector<int> incomprises() const;
+
+    void remplacer(std::size_t i, Fiche e) { entrees_[rangs_[i]].objet = std::move(e); }
+    void retirer(std::size_t i);
+    /// Puts a record on a line of its own behind the last one of the same key, else at the end.
+    /// @returns its index
+    std::size_t ajouter(Fiche e);
+    /// Swaps two records with their lines.
+    void echanger(std::size_t i, std::size_t j);
+
+    Encodage encodage() const { return encodage_; }
+
+protected:
+    struct Entree {
+        std::string octets;                  ///< the line as it was read, without its end
+        std::string fin;                     ///< its end: CR LF, LF, CR, or none (last line)
+        std::optional<Fiche> lu;    ///< the record that `octets` hold
+        std::optional<Fiche> objet; ///< the record to write; none: the line as it was read
+        bool compte = false;                 ///< a line that a reader looks at
+    };
+    /// The record of one line (UTF-8, without its comment); none when it holds no proper one.
+    using Analyse = std::function<std::optional<Fiche>(std::string_view)>;
+
+    void lire(std::string_view octets, const Analyse& analyse);
+    void renumeroter();
+    /// The comment at the end of a line, with a blank before it; "" without one.
+    static std::string commentaire(const Entree& e);
+    /// The line of a changed record: key, numbers, and the comment that it had.
+    /// @param champs  how many numbers the record has
+    std::string composer(const Entree& e, std::size_t champs) const;
+    /// The file's bytes, its lines made by `ecrire`.
+    std::string assembler(const std::function<std::string(std::size_t)>& ecrire) const;
+
+    std::string prefixe_; ///< byte-order mark
+    Encodage encodage_ = Encodage::utf8;
+    std::string fin_usuelle_{RetourLigne};
+    std::vector<Entree> entrees_;
+    std::vector<std::size_t> rangs_; ///< of the entries that hold a record
+};

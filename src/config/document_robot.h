@@ -1,0 +1,36 @@
+#pragma once
+
+#include "config/document_table.h"
+
+/// A robot file under edit: segments "R" (x1, y1, x2, y2), speeds "V" (linear and turning,
+/// hundredths), reference point and wheel track "A", sensor line "E" (extremity, length), initial
+/// pose "I" (x, y, heading). Of V, A, E and I the last one counts.
+class DocumentRobot : public Document {
+public:
+    static constexpr int segments_max = 50;
+
+    /// Numbers that a robot record of that key holds.
+    static std::size_t champs(std::string_view cle);
+
+    static DocumentRobot nouveau();
+    static DocumentRobot depuis(std::string_view octets);
+
+    /// @throws ErreurExecution, a sentence for the user, beyond 50 segments
+    std::size_t ajouter(Fiche e);
+    /// The last record of that key: V, A, E or I.
+    std::optional<std::size_t> trouver(std::string_view cle) const;
+    /// Its numbers, 0 when the file has none.
+    std::array<float, 4> valeurs(std::string_view cle) const;
+    /// Changes the last record of that key, or adds one.
+    void regler(std::string_view cle, const std::array<float, 4>& v);
+
+    /// The file's bytes. @throws ErreurExecution when the reader would not read back these very
+    /// records
+    std::string ecrire() const;
+    static std::optional<RefusLecture> relire(std::string_view octets);
+    /// Robot 1 of the state becomes this one, on its initial pose.
+    void remplir(Etat& e) const;
+
+private:
+    std::string texte(bool sans_les_incomprises) const;
+};

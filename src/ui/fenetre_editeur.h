@@ -1,0 +1,72 @@
+#pragma once
+
+#include "config/document_table.h"
+#include "config/nom_projet.h"
+#include "ui/boites.h"
+
+#include <QMainWindow>
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+
+class Foutil;
+class QUndoStack;
+class VueEchelle;
+class nouveauProjet;
+
+/// What the editors share: their file (opened, saved, closed without losing work), menus, undo.
+class FenetreEditeur : public QMainWindow {
+public:
+    /// What the editors need of the program.
+    struct Programme {
+        std::filesystem::path configuration;
+        std::function<void(const std::string& projet)> charger; ///< makes a project the current one
+    };
+
+    FenetreEditeur(QWidget* parent, Foutil& outils, Programme programme, GenreFichier genre);
+
+    /// Opens a file in place of the present drawing. @returns false after an error (told)
+    bool ouvrir(const std::filesystem::path& chemin);
+    /// Writes the drawing, whatever is needed asked before; then offers to load its project.
+    bool genererFic(const std::filesystem::path& chemin);
+    bool enregistrer();
+    bool enregistrer_sous();
+    /// Asks what becomes of unsaved changes. @returns false for "Annuler"
+    bool peut_partir();
+
+protected:
+    virtual QUndoStack& pile() = 0;
+    virtual VueEchelle& vue() = 0;
+    virtual void commencer() = 0;                                 ///< a new drawing
+    virtual std::vector<int> lire(const std::string& octets) = 0; ///< @returns lines not understood
+    virtual std::string octets() const = 0;                       ///< @throws ErreurExecution
+    virtual std::optional<RefusLecture> relire(const std::string& octets) const = 0;
+
+    /// To be called at the end of the derived constructor.
+    void preparer_menus();
+    QAction* action(QMenu& menu, const char* nom, const QString& texte, const QKeySequence& touche,
+                    std::function<void()> faire);
+    QMenu& menu_edition() { return *menu_edition_; }
+    void montrer_titre();
+    void closeEvent(QCloseEvent* evenement) override;
+
+    Foutil& outils_;
+    Boites boites_{*this};
+
+private:
+    void preparer_affichage();
+    void nouveau();
+    void choisir_un_fichier();
+    bool peut_remplacer(const std::filesystem::path& chemin);
+    void ecrire(const std::filesystem::path& chemin, const std::string& octets);
+    void proposer_de_charger();
+
+    Programme programme_;
+    GenreFichier genre_;
+    QMenu* menu_edition_ = nullptr;
+    std::filesystem::path chemin_; ///< empty: never saved
+    std::string sur_le_disque_;    ///< the file's bytes as they were read or written last
+    bool remplacement_accepte_ = false;
+};

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QUndoStack>
+
+#include <cstddef>
+#include <functional>
+#include <utility>
+#include <vector>
+
+/// Records chosen in an editor, by their index in the document, in increasing order.
+using Selection = std::vector<std::size_t>;
+
+/// A document under edit with its named steps. A step keeps the whole document before and after it:
+/// undoing gives back the very bytes.
+template <typename Doc>
+class Historique {
+public:
+    /// @param au_changement  called after every change of the document or the selection
+    explicit Historique(std::function<void()> au_changement)
+        : au_changement_(std::move(au_changement)) {
+        pile.setUndoLimit(500);
+    }
+
+    const Doc& doc() const { return etat_.doc; }
+    const Selection& selection() const { return etat_.selection; }
+
+    /// Another document: its steps start anew.
+    void repartir(Doc doc) {
+        etat_ = {std::move(doc), {}};
+        pile.clear();
+        au_changement_();
+    }
+    /// One more step. @param fusion  steps of the same number (above 0) in a row are one step
+    void changer(const QString& nom, Doc doc, Selection selection, int fusion = -1) {
+        pile.push(new Pas(*this, nom, {std::move(doc), std::move(selection)}, fusion));
+    }
+    void choisir(Selection selection) {
+        etat_.selection = std::move(selection);
+        au_changement_();
+    }
+
+    QUndoStack pile;
+
+private:
+    struct Etat {
+        Doc doc;
+        Selection selection;
+    };
+
+    class Pas final : public QUndoCommand {
+    public:
+        Pas(Historique& h, const QString& nom, Etat apres, int fusion)
+            : QUndoCommand(nom),
+              h_(h),
+              avant_(h.etat_),
+              apres_(std::move(apres)),
+              fusion_(fusion) {}
+        void undo() override { h_.montrer(avant_); }
+        void redo() override { h_.montrer(apres_); }
+        int id() const override { return fusion_; }
+        bool mergeWith(const QUndoCommand* autre) override {
+            apres_ = static_cast<const Pas*>(autre)->apres_; // same id: a step of ours
+            return true;
+        }
+
+    private:
+        Historique& h_;
+        Etat avant_, apres_;
+        int fusion_;
+    };
+
+    void montrer(const Etat& etat) {
+        etat_ = etat;
+        au_changement_();
+    }
+
+    Etat etat_;
+    std::function<void()> au_changement_;
+};

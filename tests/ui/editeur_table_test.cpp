@@ -1,0 +1,320 @@
+#include "ui/editeurs.h"
+
+#include "ui/banc.h"
+
+#include <QAction>
+#include <QDropEvent>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPlainTextEdit>
+
+namespace {
+
+constexpr std::string_view fichier = "# essai\r\nM,,Table\r\nU,0,0,100,100 # sol\r\n"
+                                     "\r\nPB,50,50,5\r\npas compris 1\r\nLN,10,80,90,80\r\n";
+
+/// The table editor on a file of its own, driven by the mouse. Three-way questions are answered
+/// from `reponses_fichier` ("Annuler" when it is empty), the name dialog from `noms`.
+class EditeurTable : public Banc {
+protected:
+    EditeurTable() {
+        QObject::connect(&veilleur_fichier_, &QTimer::timeout, [this] { repondre_fichier(); });
+        veilleur_fichier_.start(1);
+        demarrer();
+        cliquer("dessinAire");
+    }
+
+    dessinTable& editeur() { return trouver<dessinTable>("dessinTable"); }
+    VueTable& vue() { return trouver<VueTable>("vueTable"); }
+    const DocumentTable& doc() { return editeur().document(); }
+    bool ouvrir(std::string_view octets = fichier) {
+        const auto chemin = dossier.ecrire("Configuration/Essai Table.ini", octets);
+        const bool ouvert = editeur().ouvrir(chemin);
+        vue().resize(600, 500);
+        vue().ajuster();
+        return ouvert;
+    }
+    std::string sur_le_disque() { return dossier.lire("Configuration/Essai Table.ini"); }
+    void commande(const char* nom) { editeur().findChild<QAction*>(nom)->trigger(); }
+    QPoint en(double x, double y) { return vue().en_pixels(QPointF(x, y)).toPoint(); }
+    void clic(double x, double y, Qt::KeyboardModifiers touches = {}) {
+        QTest::mouseClick(&vue(), Qt::LeftButton, touches, en(x, y));
+    }
+    void tirer(QPointF a, QPointF b, Qt::KeyboardModifiers touches = {}) {
+        QTest::mousePress(&vue(), Qt::LeftButton, touches, en(a.x(), a.y()));
+        for (const QPointF& p : {(a + b) / 2, b}) {
+            QMouseEvent e(QEvent::MouseMove, en(p.x(), p.y()), vue().mapToGlobal(en(p.x(), p.y())),
+                          Qt::NoButton, Qt::LeftButton, touches);
+            QApplication::sendEvent(&vue(), &e);
+        }
+        QTest::mouseRelease(&vue(), Qt::LeftButton, touches, en(b.x(), b.y()));
+    }
+    /// "PB 50 50 5" for the last record of the document with that key.
+    std::string dernier(std::string_view cle) {
+        for (std::size_t i = doc().nombre(); i-- > 0;)
+            if (doc()[i].cle == cle)
+                return texte(doc()[i]);
+        return "";
+    }
+    static std::string texte(const Fiche& f) {
+        std::string t = f.cle;
+        for (std::size_t i = 0; i < nombre_de_champs(f.cle); ++i)
+            t += " " + std::to_string(f.entier(i));
+        return t;
+    }
+
+    std::deque<QMessageBox::StandardButton> reponses_fichier;
+    std::deque<QString> noms;
+    std::string avis;
+
+private:
+    void repondre_fichier() {
+        QWidget* fenetre = QApplication::activeModalWidget();
+        if (fenetre == nullptr)
+            return;
+        if (auto* boite = dynamic_cast<QMessageBox*>(fenetre);
+            boite != nullptr && boite->objectName() == "enregistrer") {
+            const auto choix =
+                reponses_fichier.empty() ? QMessageBox::Cancel : reponses_fichier.front();
+            if (!reponses_fichier.empty())
+                reponses_fichier.pop_front();
+            messages.push_back("enregistrer");
+            boite->button(choix)->click();
+        } else if (fenetre->objectName() == "nouveauProjet") {
+            repondre_nom(*fenetre);
+        }
+    }
+    void repondre_nom(QWidget& dialogue) {
+        auto& ok = *dialogue.findChild<QPushButton*>("OKButton");
+        if (noms.empty())
+            return dialogue.findChild<QPushButton*>("CancelButton")->click();
+        dialogue.findChild<QLineEdit*>("nomProjet")->setText(noms.front());
+        noms.pop_front();
+        avis = dialogue.findChild<QLabel*>("avis")->text().toStdString();
+        if (!ok.isEnabled())
+            dialogue.findChild<QPushButton*>("corriger")->click();
+        ok.click();
+    }
+
+    QTimer veilleur_fichier_;
+};
+
+TEST_F(EditeurTable, chaque_outil_place_son_objet_d_un_clic_et_d_un_trace) {
+    ASSERT_TRUE(ouvrir());
+    messages.clear();
+    trouver<QSpinBox>("largeur").setValue(20);
+    trouver<QSpinBox>("hauteur").setValue(10);
+    trouver<QSpinBox>("rayon").setValue(7);
+    trouver<QSpinBox>("longueur").setValue(30);
+    trouver<QSpinBox>("incidence").setValue(90);
+    struct Cas {
+        const char *outil, *cle, *clic, *trace;
+    };
+    for (const Cas& c : {Cas{"outil_L", "L", "L 30 35 50 45", "L 20 20 60 40"},
+                         Cas{"outil_W", "W", "W 30 35 50 45", "W 20 20 60 40"},
+                         Cas{"outil_DC", "DC", "DC 30 35 50 45", "DC 20 20 60 40"},
+                         Cas{"outil_LE", "LE", "LE 30 35 50 45", "LE 20 20 60 40"},
+                         Cas{"outil_BJ", "BJ", "BJ 40 40 7", "BJ 20 40 45"},
+                         Cas{"outil_DR", "DR", "DR 40 40 7", "DR 20 40 45"},
+                         Cas{"outil_X", "X", "X 40 40 7", "X 20 40 45"},
+                         Cas{"outil_Horizontale", "LN", "LN 25 40 55 40", "LN 20 40 60 40"},
+                         Cas{"outil_Verticale", "LN", "LN 40 25 40 55", "LN 20 40 20 20"},
+                         Cas{"outil_Ligne", "LN", "LN 40 25 40 55", "LN 20 40 60 20"}}) {
+        cliquer(c.outil);
+        clic(40, 40);
+        EXPECT_EQ(dernier(c.cle), c.clic) << c.outil;
+        EXPECT_TRUE(trouver<QToolButton>("outil_Selection").isChecked()) << c.outil;
+        cliquer(c.outil);
+        tirer({20, 40}, {60, 20});
+        EXPECT_EQ(dernier(c.cle), c.trace) << c.outil;
+    }
+    cliquer("outil_M");
+    clic(40, 40);
+    EXPECT_TRUE(messages.empty());
+    for (int i = 0; i < 20; ++i)
+        commande("annuler");
+    EXPECT_EQ(doc().ecrire(), fichier); // the very bytes
+}
+
+TEST_F(EditeurTable, un_outil_tire_de_la_palette_se_pose_ou_il_est_lache) {
+    ouvrir();
+    QMimeData donnees;
+    donnees.setData(BoutonOutil::format, "outil_PN");
+    QDragEnterEvent entree(en(31, 29), Qt::CopyAction, &donnees, Qt::LeftButton, {});
+    QApplication::sendEvent(&vue(), &entree);
+    EXPECT_TRUE(entree.isAccepted());
+    QDropEvent lacher(en(31, 29), Qt::CopyAction, &donnees, Qt::LeftButton, {});
+    QApplication::sendEvent(&vue(), &lacher);
+    EXPECT_EQ(dernier("PN"), "PN 30 30 5");
+}
+
+TEST_F(EditeurTable, deplacer_redimensionner_et_suspendre_la_grille) {
+    ouvrir();
+    tirer({50, 50}, {62, 58});
+    EXPECT_EQ(dernier("PB"), "PB 60 60 5");
+    tirer({60, 60}, {63, 61}, Qt::AltModifier);
+    EXPECT_EQ(dernier("PB"), "PB 63 61 5");
+    tirer({68, 61}, {83, 61}); // the handle of its radius
+    EXPECT_EQ(dernier("PB"), "PB 63 61 22");
+    clic(30, 80);
+    tirer({90, 80}, {70, 20});
+    EXPECT_EQ(dernier("LN"), "LN 10 80 70 20");
+    clic(5, 5);
+    tirer({5, 5}, {-40, 25}); // the table begins at 0
+    EXPECT_EQ(dernier("U"), "U 0 20 100 120");
+    for (int i = 0; i < 5; ++i)
+        commande("annuler");
+    EXPECT_EQ(doc().ecrire(), fichier);
+    tirer({50, 50}, {62, 58});
+    QTest::keyClick(&vue(), Qt::Key_Escape);
+    EXPECT_EQ(dernier("PB"), "PB 60 60 5");
+}
+
+TEST_F(EditeurTable, choix_multiple_copies_ordre_et_alignement) {
+    ouvrir("L,0,0,200,200\nO,10,10,20,20\nT,40,30,80,50\nV,15,15,45,45");
+    clic(17, 12);
+    clic(70, 40, Qt::ControlModifier);
+    EXPECT_EQ(trouver<QListWidget>("listeObjets").selectedItems().size(), 2);
+    commande("aligner_haut");
+    EXPECT_EQ(dernier("O"), "O 10 40 20 50");
+    commande("aligner_gauche");
+    EXPECT_EQ(dernier("T"), "T 10 30 50 50");
+    commande("dupliquer");
+    EXPECT_EQ(dernier("T"), "T 15 35 55 55");
+    EXPECT_EQ(doc().nombre(), 6U);
+    commande("pas_droite_10");
+    EXPECT_EQ(dernier("O"), "O 25 45 35 55");
+    commande("supprimer");
+    EXPECT_EQ(doc().nombre(), 4U);
+    trouver<QListWidget>("listeObjets").setCurrentRow(1); // O lies under T
+    commande("avancer");
+    EXPECT_EQ(texte(doc()[2]), "O 10 40 20 50");
+    tirer({-3, -3}, {90, 90}); // a frame takes what lies in it
+    EXPECT_EQ(trouver<QListWidget>("listeObjets").selectedItems().size(), 3);
+    commande("tout");
+    EXPECT_EQ(trouver<QListWidget>("listeObjets").selectedItems().size(), 4);
+}
+
+TEST_F(EditeurTable, nombres_exacts_sorte_et_legende) {
+    ouvrir();
+    clic(50, 50);
+    trouver<QDoubleSpinBox>("X").setValue(-3);
+    trouver<QDoubleSpinBox>("Rayon").setValue(9);
+    EXPECT_EQ(dernier("PB"), "PB -3 50 9");
+    auto& sorte = trouver<QComboBox>("sorte");
+    sorte.setCurrentIndex(sorte.findData("BB"));
+    emit sorte.activated(sorte.currentIndex());
+    EXPECT_EQ(dernier("BB"), "BB -3 50 9");
+    clic(30, 80);
+    trouver<QDoubleSpinBox>("Incidence").setValue(-90);
+    EXPECT_EQ(dernier("LN"), "LN 10 80 10 0");
+    auto& legende = trouver<QPlainTextEdit>("legende");
+    EXPECT_EQ(legende.toPlainText(), "\nTable");
+    legende.setPlainText("Une\nautre");
+    EXPECT_NE(doc().ecrire().find("M,Une,autre\r\n"), std::string::npos);
+    for (int i = 0; i < 5; ++i)
+        commande("annuler");
+    EXPECT_EQ(doc().ecrire(), fichier);
+    EXPECT_EQ(legende.toPlainText(), "\nTable");
+}
+
+TEST_F(EditeurTable, une_capacite_depassee_est_dite) {
+    std::string plein = "L,0,0,100,100\n";
+    for (int i = 0; i < 10; ++i)
+        plein += "LE,10,10,20,20\n";
+    ouvrir(plein);
+    cliquer("outil_LE");
+    clic(50, 50);
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_EQ(messages[0], "message: La table ne peut pas avoir plus de 10 ellipses");
+    EXPECT_NE(trouver<QLabel>("comptes").text().indexOf("ellipses 10/10"), -1);
+    EXPECT_EQ(doc().ecrire(), plein);
+}
+
+TEST_F(EditeurTable, enregistrer_demande_garde_la_version_d_avant_et_propose_de_charger) {
+    ouvrir();
+    tirer({50, 50}, {60, 60});
+    messages.clear();
+    reponses = {true, true, true}; // not understood, replace, load
+    commande("enregistrer");
+    ASSERT_EQ(messages.size(), 4U); // the reader refuses the line that it does not know
+    EXPECT_NE(messages[0].find("ligne 6"), std::string::npos) << messages[0];
+    EXPECT_EQ(messages[1],
+              "question: Le fichier Essai Table.ini existe déjà. Doit-on le remplacer ?");
+    EXPECT_EQ(messages[2], "question: Doit-on charger le projet Essai maintenant ?");
+    EXPECT_NE(messages[3].find("Ligne 6"), std::string::npos);
+    EXPECT_EQ(e().NomProjet, "Essai");
+    EXPECT_NE(sur_le_disque().find("PB , 60, 60, 5"), std::string::npos);
+    std::size_t copies = 0;
+    for (const auto& f : std::filesystem::directory_iterator(dossier / "Configuration/Sauvegardes"))
+        if (f.path().filename().string().starts_with("Essai Table.ini"))
+            ++copies;
+    EXPECT_EQ(copies, 1U);
+    // Changed behind our back: asked again, and "Non" leaves the other's file alone.
+    dossier.ecrire("Configuration/Essai Table.ini", "autre");
+    messages.clear();
+    reponses = {true, false};
+    commande("enregistrer");
+    EXPECT_NE(messages.at(1).find("modifié depuis"), std::string::npos);
+    EXPECT_EQ(sur_le_disque(), "autre");
+}
+
+TEST_F(EditeurTable, nouveau_projet_explique_et_corrige_les_noms) {
+    struct Cas {
+        const char *nom, *ecrit, *avis;
+    };
+    for (const Cas& c : {Cas{"Un Table", "Un Table.ini", "du projet « Un »"},
+                         Cas{"Deux", "Deux.ini", "la table d'aucun projet"},
+                         Cas{"a/b", "ab Table.ini", "ne peut pas contenir"}}) {
+        commande("nouveau");
+        cliquer("outil_L");
+        clic(50, 50);
+        noms = {c.nom};
+        commande("enregistrer");
+        EXPECT_TRUE(std::filesystem::exists(dossier / "Configuration" / c.ecrit)) << c.nom;
+        EXPECT_NE(avis.find(c.avis), std::string::npos) << avis;
+        EXPECT_FALSE(editeur().isWindowModified()) << c.nom;
+    }
+}
+
+TEST_F(EditeurTable, rien_n_est_perdu_en_partant) {
+    ouvrir();
+    tirer({50, 50}, {60, 60});
+    EXPECT_TRUE(editeur().isWindowModified());
+    editeur().close(); // "Annuler"
+    EXPECT_TRUE(editeur().isVisible());
+    cliquer("Command4"); // nor does the program end
+    EXPECT_TRUE(fins.empty());
+    reponses_fichier = {QMessageBox::Save};
+    reponses = {true, true, false};
+    editeur().close();
+    EXPECT_FALSE(editeur().isVisible());
+    EXPECT_NE(sur_le_disque().find("PB , 60, 60, 5"), std::string::npos);
+    cliquer("dessinAire");
+    tirer({60, 60}, {40, 40});
+    reponses_fichier = {QMessageBox::Discard};
+    cliquer("Command4");
+    EXPECT_EQ(fins, std::vector<int>{0});
+    EXPECT_EQ(dernier("PB"), "PB 60 60 5");
+}
+
+TEST_F(EditeurTable, zoom_au_curseur_et_deplacement_de_la_vue) {
+    ouvrir();
+    const QPointF curseur = en(80, 20);
+    const QPointF cm = vue().en_cm(curseur);
+    const double avant = vue().pixels_par_cm();
+    QWheelEvent roue(curseur, vue().mapToGlobal(curseur), {}, {0, 240}, {}, {}, Qt::NoScrollPhase,
+                     false);
+    QApplication::sendEvent(&vue(), &roue);
+    EXPECT_NEAR(vue().pixels_par_cm(), avant * 1.44, 1e-9);
+    EXPECT_NEAR(vue().en_cm(curseur).x(), cm.x(), 1e-9);
+    EXPECT_NEAR(vue().en_cm(curseur).y(), cm.y(), 1e-9);
+    QTest::mousePress(&vue(), Qt::MiddleButton, {}, {200, 200});
+    QTest::mouseMove(&vue(), QPoint(230, 190));
+    QTest::mouseRelease(&vue(), Qt::MiddleButton, {}, {230, 190});
+    EXPECT_NEAR(vue().en_cm(curseur + QPointF(30, -10)).x(), cm.x(), 1e-9);
+    commande("ajuster");
+    EXPECT_NEAR(vue().pixels_par_cm(), avant, 1e-9);
+}
+
+} // namespace
