@@ -45,11 +45,11 @@ public:
 
 protected:
     struct Entree {
-        std::string octets;                  ///< the line as it was read, without its end
-        std::string fin;                     ///< its end: CR LF, LF, CR, or none (last line)
+        std::string octets;         ///< the line as it was read, without its end
+        std::string fin;            ///< its end: CR LF, LF, CR, or none (last line)
         std::optional<Fiche> lu;    ///< the record that `octets` hold
         std::optional<Fiche> objet; ///< the record to write; none: the line as it was read
-        bool compte = false;                 ///< a line that a reader looks at
+        bool compte = false;        ///< a line that a reader looks at
     };
     /// The record of one line (UTF-8, without its comment); none when it holds no proper one.
     using Analyse = std::function<std::optional<Fiche>(std::string_view)>;

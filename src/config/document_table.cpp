@@ -290,7 +290,12 @@ std::string DocumentTable::ecrire() const {
     d.monter_un_quatre_champs();
     const std::vector<std::string> lignes = d.mettre_en_page();
     d.verifier(lignes);
-    return d.assembler([&](std::size_t r) { return lignes[r]; });
+    std::string octets = d.assembler([&](std::size_t r) { return lignes[r]; });
+    // A disc that no four-field record preceded may have got one.
+    if (depuis(octets).incomprises() != d.incomprises())
+        throw ErreurExecution("Une ligne qui n'était pas comprise le deviendrait : corrigez-la "
+                              "d'abord dans le fichier");
+    return octets;
 }
 
 namespace {

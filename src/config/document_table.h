@@ -38,9 +38,7 @@ public:
     /// The record, its numbers brought into the range that reader and drawing accept, its box the
     /// right way round.
     static Fiche normaliser(Fiche e);
-    void remplacer(std::size_t i, Fiche e) {
-        Document::remplacer(i, normaliser(std::move(e)));
-    }
+    void remplacer(std::size_t i, Fiche e) { Document::remplacer(i, normaliser(std::move(e))); }
     /// Adds a record. @throws ErreurExecution, a sentence for the user, when its kind is full
     std::size_t ajouter(Fiche e);
     /// Moves a record one step within its kind: later ones are drawn over it.

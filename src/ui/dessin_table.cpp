@@ -91,38 +91,10 @@ void dessinTable::connecter() {
 
 void dessinTable::preparer_edition() {
     QMenu& m = menu_edition();
-    action(m, "dupliquer", "&Dupliquer", QKeySequence("Ctrl+D"), [this] { dupliquer(); });
-    action(m, "supprimer", "&Supprimer", QKeySequence::Delete, [this] { retirer(); });
-    action(m, "tout", "&Tout choisir", QKeySequence::SelectAll, [this] { tout_choisir(); });
-    m.addSeparator();
     action(m, "avancer", "Vers l'a&vant", QKeySequence("Ctrl+Up"), [this] { changer_plan(true); });
     action(m, "reculer", "Vers l'arri&ère", QKeySequence("Ctrl+Down"),
            [this] { changer_plan(false); });
     preparer_alignement();
-    // Within the view only: elsewhere these keys belong to the text and the numbers.
-    for (QAction* a : m.actions())
-        if (a->objectName() == "supprimer" || a->objectName() == "tout") {
-            a->setShortcutContext(Qt::WidgetShortcut);
-            vue_.addAction(a);
-        }
-    QMenu& pas = *m.addMenu("Déplacer d'un &pas");
-    struct Fleche {
-        const char *nom, *texte;
-        Qt::Key touche;
-        int dx, dy;
-    };
-    for (const Fleche& f :
-         {Fleche{"gauche", "gauche", Qt::Key_Left, -1, 0},
-          Fleche{"droite", "droite", Qt::Key_Right, 1, 0}, Fleche{"haut", "haut", Qt::Key_Up, 0, 1},
-          Fleche{"bas", "bas", Qt::Key_Down, 0, -1}})
-        for (const int n : {1, 10}) {
-            QAction* a = action(pas, qPrintable(QString("pas_%1_%2").arg(f.nom).arg(n)),
-                                QString("%1 cm vers : %2").arg(n).arg(f.texte),
-                                QKeySequence(n == 10 ? Qt::SHIFT | f.touche : f.touche),
-                                [this, f, n] { deplacer(f.dx * n, f.dy * n); });
-            a->setShortcutContext(Qt::WidgetShortcut);
-            vue_.addAction(a);
-        }
 }
 
 void dessinTable::preparer_alignement() {

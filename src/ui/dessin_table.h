@@ -27,6 +27,10 @@ protected:
     std::optional<RefusLecture> relire(const std::string& octets) const override {
         return DocumentTable::relire(octets);
     }
+    void retirer() override;
+    void dupliquer() override;
+    void tout_choisir() override;
+    void deplacer(double dx, double dy) override;
 
 private:
     enum class Bord { gauche, droite, haut, bas, milieu_x, milieu_y };
@@ -42,10 +46,6 @@ private:
     void montrer_comptes();
     void refuser(const std::string& raison);
 
-    void retirer();
-    void dupliquer();
-    void tout_choisir();
-    void deplacer(double dx, double dy);
     void changer_plan(bool vers_l_avant);
     void aligner(Bord bord);
     void changer_nombre(std::size_t champ, double valeur);

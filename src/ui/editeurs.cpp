@@ -34,11 +34,10 @@ FenetreEditeur::Programme programme(Sim1& sim) {
 Editeurs::Editeurs(Sim1& sim)
     : sim_(sim),
       outils_(*new Foutil(&sim)),
-      table_(*new dessinTable(&sim, outils_, programme(sim))) {
+      table_(*new dessinTable(&sim, outils_, programme(sim))),
+      robot_(*new dessinRobot(&sim, outils_, programme(sim))) {
     outils_.au_choix_d_outil = [this] { table_.outil_change(); };
     outils_.au_choix_du_dessin = [this] { montrer_dessin(); };
-    // What is drawn is the table; a robot's file is written with any text editor.
-    outils_.chx_dessinRobot.setEnabled(false);
 }
 
 void Editeurs::montrer() {
@@ -49,24 +48,33 @@ void Editeurs::montrer() {
 }
 
 void Editeurs::montrer_dessin() {
-    table_.show();
-    table_.raise();
-    table_.activateWindow();
+    const bool robot = outils_.chx_dessinRobot.isChecked();
+    if (robot) {
+        const Etat& e = sim_.etat();
+        const bool tournee = e.TableHorizontale;
+        robot_.regler_table(tournee ? e.YMax : e.XMax, tournee ? e.XMax : e.YMax);
+    }
+    QWidget& dessin = robot ? static_cast<QWidget&>(robot_) : table_;
+    dessin.show();
+    dessin.raise();
+    dessin.activateWindow();
 }
 
 // The palette at the left edge of the screen, the drawing beside it.
 void Editeurs::placer() {
-    if (table_.isVisible())
+    if (outils_.isVisible())
         return;
     const QRect ecran = sim_.screen()->availableGeometry();
     constexpr int marge = 8;
     outils_.move(ecran.topLeft() + QPoint(marge, 4 * marge)); // its title bar above
     const int gauche = ecran.left() + outils_.sizeHint().width() + 3 * marge;
-    table_.move(gauche, ecran.top() + marge);
-    table_.resize(std::min(table_.width(), ecran.right() - gauche - 2 * marge),
-                  std::min(std::max(table_.height(), 620), ecran.height() - 60));
+    for (QWidget* dessin : std::initializer_list<QWidget*>{&table_, &robot_}) {
+        dessin->move(gauche, ecran.top() + marge);
+        dessin->resize(std::min(dessin->width(), ecran.right() - gauche - 2 * marge),
+                       std::min(std::max(dessin->height(), 620), ecran.height() - 60));
+    }
 }
 
 bool Editeurs::peut_partir() {
-    return table_.peut_partir();
+    return table_.peut_partir() && robot_.peut_partir();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/dessin_robot.h"
 #include "ui/dessin_table.h"
 #include "ui/foutil.h"
 
@@ -23,4 +24,5 @@ private:
     // The windows belong to the main window, like all others.
     Foutil& outils_;
     dessinTable& table_;
+    dessinRobot& robot_;
 };

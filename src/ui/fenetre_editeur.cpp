@@ -64,10 +64,47 @@ void FenetreEditeur::preparer_menus() {
     retablir->setShortcut(QKeySequence("Ctrl+Y"));
     menu_edition_->addActions({annuler, retablir});
     menu_edition_->addSeparator();
+    preparer_edition();
     preparer_affichage();
     connect(&pile(), &QUndoStack::cleanChanged, this, [this] { montrer_titre(); });
     commencer();
     montrer_titre();
+}
+
+void FenetreEditeur::preparer_edition() {
+    QMenu& m = *menu_edition_;
+    action(m, "dupliquer", "&Dupliquer", QKeySequence("Ctrl+D"), [this] { dupliquer(); });
+    QAction* supprimer =
+        action(m, "supprimer", "&Supprimer", QKeySequence::Delete, [this] { retirer(); });
+    QAction* tout =
+        action(m, "tout", "&Tout choisir", QKeySequence::SelectAll, [this] { tout_choisir(); });
+    // Within the view only: elsewhere these keys belong to the text and the numbers.
+    for (QAction* a : {supprimer, tout}) {
+        a->setShortcutContext(Qt::WidgetShortcut);
+        vue().addAction(a);
+    }
+    preparer_pas();
+    m.addSeparator();
+}
+
+void FenetreEditeur::preparer_pas() {
+    QMenu& pas = *menu_edition_->addMenu("Déplacer d'un &pas");
+    struct Fleche {
+        const char* nom;
+        Qt::Key touche;
+        int dx, dy;
+    };
+    for (const Fleche& f :
+         {Fleche{"gauche", Qt::Key_Left, -1, 0}, Fleche{"droite", Qt::Key_Right, 1, 0},
+          Fleche{"haut", Qt::Key_Up, 0, 1}, Fleche{"bas", Qt::Key_Down, 0, -1}})
+        for (const int n : {1, 10}) {
+            QAction* a = action(pas, qPrintable(QString("pas_%1_%2").arg(f.nom).arg(n)),
+                                QString("%1 cm : %2").arg(n).arg(f.nom),
+                                QKeySequence(n == 10 ? Qt::SHIFT | f.touche : f.touche),
+                                [this, f, n] { deplacer(f.dx * n, f.dy * n); });
+            a->setShortcutContext(Qt::WidgetShortcut);
+            vue().addAction(a);
+        }
 }
 
 void FenetreEditeur::preparer_affichage() {

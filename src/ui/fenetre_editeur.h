@@ -44,6 +44,11 @@ protected:
     virtual std::string octets() const = 0;                       ///< @throws ErreurExecution
     virtual std::optional<RefusLecture> relire(const std::string& octets) const = 0;
 
+    virtual void retirer() = 0; ///< what is chosen, and likewise:
+    virtual void dupliquer() = 0;
+    virtual void tout_choisir() = 0;
+    virtual void deplacer(double dx, double dy) = 0; ///< cm
+
     /// To be called at the end of the derived constructor.
     void preparer_menus();
     QAction* action(QMenu& menu, const char* nom, const QString& texte, const QKeySequence& touche,
@@ -56,6 +61,8 @@ protected:
     Boites boites_{*this};
 
 private:
+    void preparer_edition();
+    void preparer_pas();
     void preparer_affichage();
     void nouveau();
     void choisir_un_fichier();

@@ -77,7 +77,7 @@ QPixmap image(const Outil& outil) {
 
 Fiche enregistrement(const Outil& outil, double a, double b, double c, double d = 0) {
     const auto f = [](double x) { return static_cast<float>(std::round(x)); };
-    return DocumentTable::normaliser({outil.cle, {f(a), f(b), f(c), f(d)}, ""});
+    return {outil.cle, {f(a), f(b), f(c), f(d)}, ""};
 }
 
 } // namespace
@@ -191,6 +191,8 @@ QWidget* Foutil::placer_outils() {
     for (const Outil& o : outils()) {
         auto* bouton = new BoutonOutil(o, boite);
         groupe_.addButton(bouton);
+        if (o.forme != Outil::Forme::selection && o.cle != std::string_view("LN"))
+            de_la_table_.push_back(bouton);
         grille->addWidget(bouton, rang / 5, rang % 5);
         ++rang;
     }
@@ -204,6 +206,10 @@ QWidget* Foutil::placer_tailles() {
     lignes->addRow("&Largeur", &largeur);
     lignes->addRow("&Hauteur", &hauteur);
     lignes->addRow("&Rayon", &rayon);
+    for (QWidget* champ : {&largeur, &hauteur, &rayon}) {
+        de_la_table_.push_back(champ);
+        de_la_table_.push_back(lignes->labelForField(champ));
+    }
     lignes->addRow("L&ongueur", &longueur);
     lignes->addRow("&Incidence", &incidence);
     return boite;
@@ -214,18 +220,21 @@ void Foutil::placer() {
     colonne->setSizeConstraint(QLayout::SetFixedSize);
     colonne->addWidget(&chx_dessinTable);
     colonne->addWidget(&chx_dessinRobot);
-    table_ = new QWidget;
-    auto* dedans = new QVBoxLayout(table_);
-    dedans->setContentsMargins(0, 0, 0, 0);
-    dedans->addWidget(placer_outils());
-    dedans->addWidget(placer_tailles());
-    colonne->addWidget(table_);
+    colonne->addWidget(placer_outils());
+    colonne->addWidget(placer_tailles());
+}
+
+// A robot's outline is made of lines alone.
+void Foutil::montrer_outils(bool table) {
+    for (QWidget* w : de_la_table_)
+        w->setVisible(table);
+    reposer();
 }
 
 void Foutil::connecter() {
     chx_dessinTable.setChecked(true);
     connect(&chx_dessinTable, &QRadioButton::toggled, this, [this](bool table) {
-        table_->setVisible(table);
+        montrer_outils(table);
         if (au_choix_du_dessin)
             au_choix_du_dessin();
     });
@@ -254,9 +263,13 @@ Fiche Foutil::creer(const Outil& outil, QPointF c) const {
         dx = longueur.value() * std::cos(radians(angle));
         dy = longueur.value() * std::sin(radians(angle));
     }
-    // Whole centimetres and the size as it was asked for; within the table's first quadrant.
-    const double x = std::max(std::round(c.x() - dx / 2), std::max(0.0, -std::round(dx)));
-    const double y = std::max(std::round(c.y() - dy / 2), std::max(0.0, -std::round(dy)));
+    // Whole centimetres and the size as it was asked for; a table has no negative coordinates.
+    double x = std::round(c.x() - dx / 2);
+    double y = std::round(c.y() - dy / 2);
+    if (chx_dessinTable.isChecked()) {
+        x = std::max({x, 0.0, -std::round(dx)});
+        y = std::max({y, 0.0, -std::round(dy)});
+    }
     return enregistrement(outil, x, y, x + std::round(dx), y + std::round(dy));
 }
 

@@ -66,9 +66,10 @@ private:
     void placer();
     QWidget* placer_outils();
     QWidget* placer_tailles();
+    void montrer_outils(bool table);
     void connecter();
 
     const Outil* en_main_ = nullptr;
     QButtonGroup groupe_;
-    QWidget* table_ = nullptr; ///< what only the table has
+    std::vector<QWidget*> de_la_table_; ///< what only the table has
 };

@@ -48,12 +48,7 @@ void VueTable::peindre(QPainter& peintre) {
 
 void VueTable::peindre_dessus(QPainter& peintre) {
     const DocumentTable& d = montre();
-    for (std::size_t i = 0; i < d.nombre(); ++i)
-        if (d[i].cle == "M" && !d[i].texte.empty()) {
-            peintre.setPen(Qt::black);
-            peintre.drawText(en_pixels(QRectF(0, 0, e_->XMax, e_->YMax)), Qt::AlignCenter,
-                             texte_qt(d[i].texte).trimmed());
-        }
+    peindre_legende(peintre);
     const QColor teinte = palette().color(QPalette::Highlight);
     for (const std::size_t i : h_.selection()) {
         peintre.setBrush(Qt::NoBrush);
@@ -82,6 +77,23 @@ void VueTable::peindre_dessus(QPainter& peintre) {
     }
     if (geste_ == Geste::cadre)
         peintre.drawRect(QRectF(depart_, ici_).normalized());
+}
+
+// Where the main window shows it, on a light ground: it stays readable on any floor.
+void VueTable::peindre_legende(QPainter& peintre) const {
+    QString texte;
+    for (std::size_t i = 0; i < montre().nombre(); ++i)
+        if (montre()[i].cle == "M")
+            texte = texte_qt(montre()[i].texte).trimmed();
+    if (texte.isEmpty())
+        return;
+    const QRectF table = en_pixels(QRectF(0, 0, e_->XMax, e_->YMax));
+    const QRectF place = peintre.boundingRect(table, Qt::AlignCenter, texte);
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(QColor(255, 255, 255, 170));
+    peintre.drawRoundedRect(place.adjusted(-6, -3, 6, 3), 4, 4);
+    peintre.setPen(Qt::black);
+    peintre.drawText(table, Qt::AlignCenter, texte);
 }
 
 // The topmost shape: what is drawn last, first.

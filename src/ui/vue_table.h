@@ -40,6 +40,7 @@ private:
     const DocumentTable& montre() const { return provisoire_ ? *provisoire_ : h_.doc(); }
     std::optional<std::size_t> objet_sous(QPointF cm) const;
     std::optional<std::size_t> poignee_sous(QPointF pixels) const;
+    void peindre_legende(QPainter& peintre) const;
     void choisir_sous(std::size_t i, bool en_plus);
     void deplacer(QPointF cm, Qt::KeyboardModifiers touches);
     void ajouter(Fiche e, const QString& nom);
@@ -54,5 +55,5 @@ private:
     std::size_t pris_ = 0; ///< the record under the mouse when it was pressed
     std::size_t poignee_ = 0;
     std::optional<DocumentTable> provisoire_; ///< the document as a drag shows it
-    std::optional<Fiche> ebauche_;   ///< what the tool in hand is drawing
+    std::optional<Fiche> ebauche_;            ///< what the tool in hand is drawing
 };

@@ -140,6 +140,12 @@ TEST(DocumentTable, le_rayon_d_un_disque_est_relu_entier) {
                   apres("LN,0,0,9,9\nDR,5,5,7\n", [](auto& d) { d.retirer(0); });
               }).find("à quatre champs"),
               std::string::npos);
+    // A disc that was not read is not brought to life by what is drawn elsewhere.
+    EXPECT_NE(erreur([] {
+                  apres("M,a\nDR,5,5,7\nL,0,0,9,9",
+                        [](auto& d) { d.remplacer(0, objet("L", 100, 100, 200, 200)); });
+              }).find("n'était pas comprise"),
+              std::string::npos);
 }
 
 TEST(DocumentTable, capacites_dites_clairement) {

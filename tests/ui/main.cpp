@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -25,11 +24,8 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(dire);
     QApplication::setStyle("Fusion");
     const QApplication application(argc, argv);
-    // Nothing of the user's own settings is read or written.
-    const QTemporaryDir reglages;
     QApplication::setOrganizationName("Tavolmex");
     QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, reglages.path());
     LigneTexte::installer_accessibilite();
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "ui/apercu_robot.h"
+#include "ui/fenetre_editeur.h"
+#include "ui/historique.h"
+#include "ui/panneau_proprietes.h"
+#include "ui/vue_robot.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QListWidget>
+
+/// The robot editor.
+class dessinRobot final : public FenetreEditeur {
+public:
+    dessinRobot(QWidget* parent, Foutil& outils, Programme programme);
+
+    const DocumentRobot& document() const { return historique_.doc(); }
+    /// The table on which the preview shows the robot (cm).
+    void regler_table(int XMax, int YMax) { apercu_.regler_table(XMax, YMax); }
+
+protected:
+    QUndoStack& pile() override { return historique_.pile; }
+    VueEchelle& vue() override { return vue_; }
+    void commencer() override { historique_.repartir(DocumentRobot::nouveau()); }
+    std::vector<int> lire(const std::string& octets) override;
+    std::string octets() const override { return historique_.doc().ecrire(); }
+    std::optional<RefusLecture> relire(const std::string& octets) const override {
+        return DocumentRobot::relire(octets);
+    }
+    void retirer() override;
+    void dupliquer() override;
+    void tout_choisir() override;
+    void deplacer(double dx, double dy) override;
+
+private:
+    void placer();
+    void connecter();
+    void rafraichir();
+    void montrer_segment();
+    void montrer_reglages();
+    void montrer_liste();
+    void miroir();
+    void ajouter(const std::vector<Fiche>& segments, const QString& nom);
+    Selection segments_choisis() const;
+    void changer_segment(std::size_t champ, double valeur);
+    void changer_reglage(std::size_t champ, double valeur);
+
+    Historique<DocumentRobot> historique_;
+    VueRobot vue_;
+    ApercuRobot apercu_;
+    PanneauProprietes segment_, reglages_;
+    QListWidget liste_;
+    QCheckBox tourner_;
+    QLabel position_, comptes_;
+    bool en_cours_ = false; ///< the list is being filled
+};

@@ -1,0 +1,144 @@
+#include "ui/editeurs.h"
+
+#include "ui/banc.h"
+
+#include <QAction>
+#include <QDropEvent>
+#include <QListWidget>
+#include <QMimeData>
+
+namespace {
+
+constexpr std::string_view fichier = "# r\r\nV,100,90\r\nA,10,14,10\r\nI,100,60,0\r\nE,10,30,16\r\n"
+                                     "R,0,0,0,34 # gauche\r\nR,0,0,20,0\r\n";
+
+/// The robot editor on a file of its own, driven by the mouse.
+class EditeurRobot : public Banc {
+protected:
+    EditeurRobot() {
+        demarrer();
+        cliquer("dessinAire");
+        trouver<QRadioButton>("chx_dessinRobot").setChecked(true);
+        editeur().ouvrir(dossier.ecrire("Configuration/Essai Robot2.ini", fichier));
+        vue().resize(500, 500);
+        vue().ajuster();
+    }
+
+    dessinRobot& editeur() { return trouver<dessinRobot>("dessinRobot"); }
+    VueRobot& vue() { return trouver<VueRobot>("vueRobot"); }
+    const DocumentRobot& doc() { return editeur().document(); }
+    void commande(const char* nom) { editeur().findChild<QAction*>(nom)->trigger(); }
+    static void tirer(VueEchelle& vue, QPointF a, QPointF b, Qt::KeyboardModifiers touches = {}) {
+        const auto en = [&](QPointF cm) { return vue.en_pixels(cm).toPoint(); };
+        QTest::mousePress(&vue, Qt::LeftButton, touches, en(a));
+        for (const QPointF& p : {(a + b) / 2, b}) {
+            QMouseEvent e(QEvent::MouseMove, en(p), vue.mapToGlobal(en(p)), Qt::NoButton,
+                          Qt::LeftButton, touches);
+            QApplication::sendEvent(&vue, &e);
+        }
+        QTest::mouseRelease(&vue, Qt::LeftButton, touches, en(b));
+    }
+    void clic(double x, double y, Qt::KeyboardModifiers touches = {}) {
+        QTest::mouseClick(&vue(), Qt::LeftButton, touches,
+                          vue().en_pixels(QPointF(x, y)).toPoint());
+    }
+    std::string nombres(std::string_view cle) {
+        std::string t;
+        for (std::size_t i = 0; i < DocumentRobot::champs(cle); ++i)
+            t += (i == 0 ? "" : " ") + std::to_string(static_cast<int>(doc().valeurs(cle)[i]));
+        return t;
+    }
+};
+
+TEST_F(EditeurRobot, les_outils_tracent_des_segments_et_tout_s_annule) {
+    EXPECT_TRUE(editeur().isVisible());
+    EXPECT_FALSE(trouver("outil_L").isVisible()) << "a robot is made of lines";
+    trouver<QSpinBox>("longueur").setValue(10);
+    cliquer("outil_Horizontale");
+    clic(5, 20);
+    EXPECT_EQ(nombres("R"), "0 20 10 20");
+    cliquer("outil_Ligne");
+    tirer(vue(), {-2, 3}, {12, 25});
+    EXPECT_EQ(nombres("R"), "-2 3 12 25");
+    QMimeData donnees;
+    donnees.setData(BoutonOutil::format, "outil_Verticale");
+    const QPointF ici = vue().en_pixels(QPointF(15, 20));
+    QDragEnterEvent entree(ici.toPoint(), Qt::CopyAction, &donnees, Qt::LeftButton, {});
+    QApplication::sendEvent(&vue(), &entree);
+    QDropEvent lacher(ici, Qt::CopyAction, &donnees, Qt::LeftButton, {});
+    QApplication::sendEvent(&vue(), &lacher);
+    EXPECT_EQ(nombres("R"), "15 15 15 25");
+    clic(15, 22);
+    tirer(vue(), {15, 25}, {18, 29}); // one end
+    EXPECT_EQ(nombres("R"), "15 15 18 29");
+    commande("pas_haut_1");
+    EXPECT_EQ(nombres("R"), "15 16 18 30");
+    trouver<QDoubleSpinBox>("X2").setValue(-40);
+    EXPECT_EQ(nombres("R"), "15 16 -40 30");
+    commande("supprimer");
+    EXPECT_EQ(nombres("R"), "-2 3 12 25");
+    for (int i = 0; i < 7; ++i)
+        commande("annuler");
+    EXPECT_EQ(doc().ecrire(), fichier); // the very bytes
+}
+
+TEST_F(EditeurRobot, reperes_tires_a_la_souris_ou_donnes_en_nombres) {
+    tirer(vue(), {10, 14}, {12, 16});
+    EXPECT_EQ(nombres("A"), "12 16 10");
+    tirer(vue(), {10, 30}, {13, 28});
+    EXPECT_EQ(nombres("E"), "13 28 16");
+    tirer(vue(), {17, 16}, {20, 16}); // a wheel
+    EXPECT_EQ(nombres("A"), "12 16 16");
+    trouver<QDoubleSpinBox>("A1").setValue(9.5);
+    EXPECT_NE(doc().ecrire().find("A , 9.5, 16, 16\r\n"), std::string::npos);
+    trouver<QDoubleSpinBox>("V2").setValue(45);
+    EXPECT_EQ(nombres("V"), "100 45");
+    trouver<QTabWidget>("onglets").setCurrentIndex(2);
+    auto& apercu = trouver<ApercuRobot>("apercuRobot");
+    apercu.resize(300, 400);
+    apercu.ajuster();
+    tirer(apercu, {100, 60}, {120, 90});
+    EXPECT_EQ(nombres("I"), "120 90 0");
+    for (int i = 0; i < 6; ++i)
+        commande("annuler");
+    EXPECT_EQ(doc().ecrire(), fichier);
+}
+
+TEST_F(EditeurRobot, l_apercu_tourne_autour_du_point_de_reference) {
+    trouver<QTabWidget>("onglets").setCurrentIndex(2);
+    auto& apercu = trouver<ApercuRobot>("apercuRobot");
+    const QImage avant = apercu.grab().toImage();
+    trouver<QCheckBox>("tourner").setChecked(true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return apercu.grab().toImage() != avant; }, 3000));
+    trouver<QCheckBox>("tourner").setChecked(false);
+    EXPECT_EQ(apercu.grab().toImage(), avant);
+}
+
+TEST_F(EditeurRobot, miroir_copies_et_capacite) {
+    commande("miroir"); // the one on the axis's other side already exists
+    EXPECT_EQ(doc().compter({"R"}), 3);
+    EXPECT_EQ(nombres("R"), "20 0 20 34");
+    commande("miroir");
+    EXPECT_EQ(doc().compter({"R"}), 3) << "only what is chosen: its image is there";
+    messages.clear();
+    for (int i = 0; i < 6; ++i) {
+        commande("tout");
+        commande("dupliquer");
+    }
+    ASSERT_FALSE(messages.empty());
+    EXPECT_EQ(messages[0], "message: Le robot ne peut pas avoir plus de 50 segments");
+    EXPECT_LE(doc().compter({"R"}), 50);
+}
+
+TEST_F(EditeurRobot, enregistre_et_charge_le_projet) {
+    trouver<QDoubleSpinBox>("V1").setValue(80);
+    messages.clear();
+    reponses = {true, true};
+    commande("enregistrer");
+    EXPECT_EQ(messages.back(), "question: Doit-on charger le projet Essai maintenant ?");
+    EXPECT_EQ(e().NomProjet, "Essai");
+    EXPECT_FLOAT_EQ(e().VitesseLin(2), 0.8F);
+    EXPECT_FALSE(editeur().isWindowModified());
+}
+
+} // namespace
