@@ -1,32 +1,26 @@
 #include "ui/editeurs.h"
 
-#include "sim/orientation.h"
+#include "ui/place.h"
 #include "ui/sim1.h"
 
 #include <QScreen>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
 /// What "Charger" does once a project is chosen.
 void charger_projet(Sim1& sim, const std::string& projet) {
-    Etat& e = sim.etat();
-    e.NomProjet = projet;
-    sim.projet().Installe();
-    sim.moteur().Fin_Jeu();
-    sim.projet().LoadTable();
-    sim.projet().Init_Robot();
-    sim.projet().Init_Jeu();
-    if (e.TableHorizontale)
-        horizontal(e);
-    sim.Init_Table();
-    sim.Dessine_Table();
-    sim.Dessine_Robot();
-    sim.options().modifie = true;
+    sim.SauvRobot();
+    sim.etat().NomProjet = projet;
+    sim.charger_projet_choisi();
 }
 
 FenetreEditeur::Programme programme(Sim1& sim) {
     return {sim.projet().dossier_configuration(),
-            [&sim](const std::string& projet) { charger_projet(sim, projet); }};
+            [&sim](const std::string& projet) { charger_projet(sim, projet); },
+            [&sim] { sim.fichiers_ecrits(); }};
 }
 
 } // namespace
@@ -60,9 +54,9 @@ void Editeurs::montrer_dessin() {
     dessin.activateWindow();
 }
 
-// The palette at the left edge of the screen, the drawing beside it.
+// The palette at the left edge of the screen, the drawing beside it; or where the user left them.
 void Editeurs::placer() {
-    if (outils_.isVisible())
+    if (std::exchange(places_, true))
         return;
     const QRect ecran = sim_.screen()->availableGeometry();
     constexpr int marge = 8;
@@ -72,7 +66,9 @@ void Editeurs::placer() {
         dessin->move(gauche, ecran.top() + marge);
         dessin->resize(std::min(dessin->width(), ecran.right() - gauche - 2 * marge),
                        std::min(std::max(dessin->height(), 620), ecran.height() - 60));
+        retenir_place(*dessin);
     }
+    retenir_place(outils_);
 }
 
 bool Editeurs::peut_partir() {

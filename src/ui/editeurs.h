@@ -25,4 +25,5 @@ private:
     Foutil& outils_;
     dessinTable& table_;
     dessinRobot& robot_;
+    bool places_ = false; ///< the windows have got their first place
 };

@@ -213,6 +213,8 @@ void FenetreEditeur::ecrire(const std::filesystem::path& chemin, const std::stri
     std::filesystem::create_directories(programme_.configuration);
     sauvegarder_version(chemin, programme_.configuration / "Sauvegardes");
     remplacer_fichier(chemin, octets);
+    if (programme_.ecrit)
+        programme_.ecrit();
     chemin_ = chemin;
     sur_le_disque_ = octets;
     remplacement_accepte_ = true;

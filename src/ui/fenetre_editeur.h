@@ -23,6 +23,7 @@ public:
     struct Programme {
         std::filesystem::path configuration;
         std::function<void(const std::string& projet)> charger; ///< makes a project the current one
+        std::function<void()> ecrit = {};                       ///< a file was written
     };
 
     FenetreEditeur(QWidget* parent, Foutil& outils, Programme programme, GenreFichier genre);

@@ -16,6 +16,8 @@ constexpr PageManuel pages[] = {
     {"options", "Les options et les projets", " FOption Ouvrir "},
     {"telecommande", "La télécommande", " Télécommande "},
     {"generation", "La génération PICBASIC", " Dialog OuvGeneration Visualiser "},
+    {"editeurs", "Les éditeurs de table et de robot",
+     " Foutil dessinTable dessinRobot nouveauProjet "},
     {"fichiers", "Les fichiers de configuration", ""},
     {"messages", "Messages et dépannage", " message question "},
     {"ligne-de-commande", "La ligne de commande", ""},

@@ -46,12 +46,14 @@ private:
     void retenir() {
         const bool comme_propose =
             proposee_ && (fenetre_.pos() - *proposee_).manhattanLength() <= ecart_du_cadre;
-        if (choisie_ || !comme_propose || fenetre_.size() != taille_)
+        if (!comme_propose || fenetre_.size() != taille_)
+            choisie_ = true;
+        if (choisie_)
             QSettings().setValue(cle(), fenetre_.saveGeometry());
     }
 
     QWidget& fenetre_;
-    bool choisie_ = false; ///< the user's own place, from an earlier start
+    bool choisie_ = false; ///< the user's own place, from now or an earlier start
     std::optional<QPoint> proposee_;
     std::optional<QSize> taille_; ///< when it was first shown
 };

@@ -136,6 +136,10 @@ void Sim1::recommencer_console() {
         console_->recommencer();
 }
 
+void Sim1::fichiers_ecrits() {
+    surveillance_->prendre_note();
+}
+
 void Sim1::montrer_aide(const QWidget& depuis) {
     aide_->montrer(depuis);
 }

@@ -48,8 +48,11 @@ TEST_F(Manuel, chaque_fenetre_ouvre_sa_page) {
     sim->montrer_console();
     QTest::keyClick(&trouver("Text1"), Qt::Key_F1);
     EXPECT_EQ(titre(aide()), "La télécommande");
+    cliquer("dessinAire");
+    QTest::keyClick(&trouver("Foutil"), Qt::Key_F1);
+    EXPECT_EQ(titre(aide()), "Les éditeurs de table et de robot");
     QTest::keyClick(&aide(), Qt::Key_F1); // stays
-    EXPECT_EQ(titre(aide()), "La télécommande");
+    EXPECT_EQ(titre(aide()), "Les éditeurs de table et de robot");
     QTest::keyClick(&aide(), Qt::Key_Escape);
     EXPECT_FALSE(aide().isVisible());
 }

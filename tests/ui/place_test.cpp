@@ -28,6 +28,9 @@ TEST(Place, la_place_choisie_revient_celle_du_programme_non) {
         proposer_place(f, {10, 10}); // the user has moved it
         EXPECT_EQ(f.pos(), QPoint(310, 150));
         f.resize(350, 250);
+        f.hide();
+        proposer_place(f, {10, 10}); // nor when it is shown again
+        EXPECT_EQ(f.pos(), QPoint(310, 150));
     }
     Fenetre f;
     proposer_place(f, {100, 80});
