@@ -15,6 +15,7 @@ constexpr PageManuel pages[] = {
     {"fenetre-principale", "La fenêtre principale", " Sim1 "},
     {"options", "Les options et les projets", " FOption Ouvrir "},
     {"telecommande", "La télécommande", " Télécommande "},
+    {"editeurs", "Les éditeurs", " Foutil dessinTable dessinRobot nouveauProjet "},
     {"generation", "La génération PICBASIC", " Dialog OuvGeneration Visualiser "},
     {"fichiers", "Les fichiers de configuration", ""},
     {"messages", "Messages et dépannage", " message question "},
