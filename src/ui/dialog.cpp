@@ -4,6 +4,7 @@
 #include "ui/boites.h"
 #include "ui/garde.h"
 #include "ui/ouv_generation.h"
+#include "ui/place.h"
 #include "ui/sim1.h"
 #include "ui/visualiser.h"
 
@@ -65,6 +66,7 @@ Dialog::Dialog(Sim1& sim)
     nommer();
     placer();
     connecter();
+    retenir_place(*this);
     Form_Load();
 }
 

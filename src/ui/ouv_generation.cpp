@@ -3,6 +3,7 @@
 #include "ui/boites.h"
 #include "ui/dialog.h"
 #include "ui/garde.h"
+#include "ui/place.h"
 #include "ui/sim1.h"
 
 #include <QFileDialog>
@@ -22,6 +23,7 @@ OuvGeneration::OuvGeneration(Sim1& sim, Dialog& dialog)
     relier(Fermer, &OuvGeneration::Fermer_Click);
     relier(parcourir_, &OuvGeneration::parcourir_Click);
     Rep_Gen.aller(sim.projet().dossier_application());
+    retenir_place(*this);
 }
 
 void OuvGeneration::nommer() {

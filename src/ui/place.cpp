@@ -15,7 +15,7 @@ class Place final : public QObject {
 public:
     explicit Place(QWidget& fenetre) : QObject(&fenetre), fenetre_(fenetre) {
         fenetre.installEventFilter(this);
-        choisie_ = fenetre.restoreGeometry(reglages().value(cle()).toByteArray());
+        choisie_ = fenetre.restoreGeometry(QSettings().value(cle()).toByteArray());
     }
 
     void proposer(QPoint ou) {
@@ -35,10 +35,7 @@ protected:
     }
 
 private:
-    static QSettings reglages() {
-        return {QSettings::IniFormat, QSettings::UserScope, "Tavolmex", "fenetres"};
-    }
-    QString cle() const { return fenetre_.objectName(); }
+    QString cle() const { return "places/" + fenetre_.objectName(); }
 
     bool deplacee() const {
         return fenetre_.isVisible() && proposee_ &&
@@ -50,7 +47,7 @@ private:
         const bool comme_propose =
             proposee_ && (fenetre_.pos() - *proposee_).manhattanLength() <= ecart_du_cadre;
         if (choisie_ || !comme_propose || fenetre_.size() != taille_)
-            reglages().setValue(cle(), fenetre_.saveGeometry());
+            QSettings().setValue(cle(), fenetre_.saveGeometry());
     }
 
     QWidget& fenetre_;

@@ -3,6 +3,7 @@
 #include "base/fichiers.h"
 #include "ui/boites.h"
 #include "ui/garde.h"
+#include "ui/place.h"
 #include "ui/sim1.h"
 
 #include <QHBoxLayout>
@@ -21,6 +22,7 @@ Visualiser::Visualiser(Sim1& sim, std::filesystem::path FichierVisu)
     nommer();
     placer();
     connecter();
+    retenir_place(*this);
 }
 
 void Visualiser::nommer() {

@@ -1,7 +1,5 @@
 #include "ui/ligne_texte.h"
 
-#include "outils/dossier_temporaire.h"
-
 #include <QApplication>
 #include <QSettings>
 #include <gtest/gtest.h>
@@ -24,8 +22,6 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(dire);
-    const DossierTemporaire reglages; // not the user's own
-    qputenv("XDG_CONFIG_HOME", reglages.chemin().c_str());
     QApplication::setStyle("Fusion");
     const QApplication application(argc, argv);
     QApplication::setOrganizationName("Tavolmex");
