@@ -79,7 +79,7 @@ ListeDossiers::ListeDossiers() {
 
 void ListeDossiers::ajouter(const fs::path& dossier, int profondeur) {
     const QString nom = dossier.has_filename() ? qt(dossier.filename()) : qt(dossier);
-    auto* element = new QListWidgetItem(QString(2 * profondeur, ' ') + nom, this);
+    auto* element = new QListWidgetItem(QString(qsizetype{2} * profondeur, ' ') + nom, this);
     element->setData(role_chemin, qt(dossier));
     element->setToolTip(qt(dossier));
 }

@@ -31,8 +31,8 @@ public:
         au_changement_();
     }
     /// One more step. @param fusion  steps of the same number (above 0) in a row are one step
-    void changer(const QString& nom, Doc doc, Selection selection, int fusion = -1) {
-        pile.push(new Pas(*this, nom, {std::move(doc), std::move(selection)}, fusion));
+    void changer(const QString& nom, Doc doc, const Selection& selection, int fusion = -1) {
+        pile.push(new Pas(*this, nom, {std::move(doc), selection}, fusion));
     }
     void choisir(Selection selection) {
         etat_.selection = std::move(selection);
