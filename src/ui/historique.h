@@ -34,8 +34,8 @@ public:
     void changer(const QString& nom, Doc doc, const Selection& selection, int fusion = -1) {
         pile.push(new Pas(*this, nom, {std::move(doc), selection}, fusion));
     }
-    void choisir(Selection selection) {
-        etat_.selection = std::move(selection);
+    void choisir(const Selection& selection) {
+        etat_.selection = selection;
         au_changement_();
     }
 
