@@ -135,7 +135,7 @@ ChoixFichier::ChoixFichier(const Controles& c) {
     QObject::connect(&motif, &QComboBox::currentIndexChanged, &motif, [this] { relister(); });
     QObject::connect(&fichiers, &QListWidget::itemSelectionChanged, &fichiers, [this] {
         if (au_changement)
-            au_changement();
+            au_changement(false);
     });
     QObject::connect(&parcourir, &QPushButton::clicked, &parcourir, [this] { parcourir_Click(); });
 }
@@ -175,7 +175,7 @@ void ChoixFichier::relister() {
     lecteurs.suivre(dossiers.chemin());
     fichiers.lister(dossiers.chemin(), motif.currentText());
     if (au_changement)
-        au_changement();
+        au_changement(true);
 }
 
 void ChoixFichier::parcourir_Click() {

@@ -69,8 +69,8 @@ public:
     ListeFichiers fichiers;
     QComboBox motif;
     QPushButton parcourir;
-    /// Called when another directory or file is chosen.
-    std::function<void()> au_changement;
+    /// Called when another directory or file is chosen; true for a directory.
+    std::function<void(bool)> au_changement;
 
 private:
     void nommer(const Controles& c);

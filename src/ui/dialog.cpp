@@ -210,8 +210,9 @@ void Dialog::connecter() {
             [this] { garde(sim_, [this] { rafraichir_apercu(); }); });
     const auto attendre = [this] { repos_.start(); };
     for (ChoixFichier* choix : {&depart_, &entree_}) {
-        choix->au_changement = [this, choix] {
-            CheminCourant_ = choix->dossiers.chemin().string();
+        choix->au_changement = [this, choix](bool dossier) {
+            if (dossier)
+                CheminCourant_ = choix->dossiers.chemin().string();
             repos_.start();
         };
     }

@@ -105,12 +105,15 @@ void VueEchelle::peindre_grille(QPainter& peintre) const {
         const bool forte = std::fmod(std::round(std::fabs(valeur / pas)), 10) == 0;
         peintre.setPen(QPen(QColor(128, 128, 128, forte ? 130 : 60), 0));
     };
-    for (double x = std::ceil(a.x() / pas) * pas; x <= b.x(); x += pas) {
+    const auto premier = [pas](double cm) { return static_cast<int>(std::ceil(cm / pas)); };
+    for (int i = premier(a.x()); i * pas <= b.x(); ++i) {
+        const double x = i * pas;
         crayon(x);
         const double px = en_pixels(QPointF(x, 0)).x();
         peintre.drawLine(QPointF(px, regle), QPointF(px, height()));
     }
-    for (double y = std::ceil(a.y() / pas) * pas; y <= b.y(); y += pas) {
+    for (int i = premier(a.y()); i * pas <= b.y(); ++i) {
+        const double y = i * pas;
         crayon(y);
         const double py = en_pixels(QPointF(0, y)).y();
         peintre.drawLine(QPointF(regle, py), QPointF(width(), py));
