@@ -78,7 +78,7 @@ private:
                 reponses_fichier.empty() ? QMessageBox::Cancel : reponses_fichier.front();
             if (!reponses_fichier.empty())
                 reponses_fichier.pop_front();
-            messages.push_back("enregistrer");
+            messages.emplace_back("enregistrer");
             boite->button(choix)->click();
         } else if (fenetre->objectName() == "nouveauProjet") {
             repondre_nom(*fenetre);
