@@ -23,6 +23,11 @@ double pas_lisible(double pas, double echelle, double pixels) {
     return pas;
 }
 
+// The first multiple of a step at or beyond a place.
+int premier_pas(double cm, double pas) {
+    return static_cast<int>(std::ceil(cm / pas));
+}
+
 } // namespace
 
 VueEchelle::VueEchelle(QWidget* parent) : QWidget(parent) {
@@ -105,14 +110,13 @@ void VueEchelle::peindre_grille(QPainter& peintre) const {
         const bool forte = std::fmod(std::round(std::fabs(valeur / pas)), 10) == 0;
         peintre.setPen(QPen(QColor(128, 128, 128, forte ? 130 : 60), 0));
     };
-    const auto premier = [pas](double cm) { return static_cast<int>(std::ceil(cm / pas)); };
-    for (int i = premier(a.x()); i * pas <= b.x(); ++i) {
+    for (int i = premier_pas(a.x(), pas); i * pas <= b.x(); ++i) {
         const double x = i * pas;
         crayon(x);
         const double px = en_pixels(QPointF(x, 0)).x();
         peintre.drawLine(QPointF(px, regle), QPointF(px, height()));
     }
-    for (int i = premier(a.y()); i * pas <= b.y(); ++i) {
+    for (int i = premier_pas(a.y(), pas); i * pas <= b.y(); ++i) {
         const double y = i * pas;
         crayon(y);
         const double py = en_pixels(QPointF(0, y)).y();
@@ -134,7 +138,8 @@ void VueEchelle::peindre_regles(QPainter& peintre) const {
     const QPointF a = en_cm({regle, double(height())});
     const QPointF b = en_cm({double(width()), regle});
     const auto long_trait = [&](double v) { return std::fabs(std::remainder(v, pas)) < petit / 2; };
-    for (double x = std::ceil(a.x() / petit) * petit; x <= b.x(); x += petit) {
+    for (int i = premier_pas(a.x(), petit); i * petit <= b.x(); ++i) {
+        const double x = i * petit;
         const double px = en_pixels(QPointF(x, 0)).x();
         peintre.drawLine(QPointF(px, long_trait(x) ? regle - 10 : regle - 4),
                          QPointF(px, regle - 1));
@@ -142,7 +147,8 @@ void VueEchelle::peindre_regles(QPainter& peintre) const {
             peintre.drawText(QRectF(px - 30, 1, 60, 12), Qt::AlignCenter,
                              QString::number(std::lround(x)));
     }
-    for (double y = std::ceil(a.y() / petit) * petit; y <= b.y(); y += petit) {
+    for (int i = premier_pas(a.y(), petit); i * petit <= b.y(); ++i) {
+        const double y = i * petit;
         const double py = en_pixels(QPointF(0, y)).y();
         peintre.drawLine(QPointF(long_trait(y) ? regle - 10 : regle - 4, py),
                          QPointF(regle - 1, py));
