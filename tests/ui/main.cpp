@@ -1,3 +1,4 @@
+#include "outils/dossier_temporaire.h"
 #include "ui/ligne_texte.h"
 
 #include <QApplication>
@@ -22,6 +23,8 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(dire);
+    const DossierTemporaire reglages; // not the user's own
+    qputenv("XDG_CONFIG_HOME", reglages.chemin().c_str());
     QApplication::setStyle("Fusion");
     const QApplication application(argc, argv);
     QApplication::setOrganizationName("Tavolmex");
