@@ -8,34 +8,45 @@
 #include <memory>
 
 /// The robot on the table at its initial pose, drawn as the simulator draws it. Dragging it moves
-/// the pose, the wheel of the mouse zooms; it can be seen turning about its reference point at its
-/// own speed.
+/// the pose, dragging the end of its arrow turns it, the wheel of the mouse zooms; it can be seen
+/// turning about its reference point at its own speed.
 class ApercuRobot final : public VueEchelle {
 public:
+    struct Pose {
+        float x, y; ///< cm
+        float cap;  ///< degrees, -179..180
+    };
+
     explicit ApercuRobot(QWidget* parent);
 
-    /// A drag ended: the new position (cm).
-    std::function<void(double x, double y)> a_la_pose;
+    /// A drag ended. @param nom  what it did, for the undo menu
+    std::function<void(const Pose& pose, const QString& nom)> a_la_pose;
 
     void montrer(const DocumentRobot& robot);
-    /// Extent of the table (cm).
-    void regler_table(int XMax, int YMax);
+    /// Puts the robot on the table of that state, upright.
+    void regler_table(const Etat& table);
     void tourner(bool oui);
 
 protected:
     QRectF etendue() const override;
     void peindre(QPainter& peintre) override;
-    void peindre_dessus(QPainter&) override {}
+    void peindre_dessus(QPainter& peintre) override;
     void presser(QPointF pixels, Qt::KeyboardModifiers touches) override;
     void glisser(QPointF pixels, Qt::KeyboardModifiers touches) override;
     void relacher(QPointF pixels, Qt::KeyboardModifiers touches) override;
+    void survoler(QPointF pixels) override;
     void abandonner() override;
 
 private:
+    enum class Geste { aucun, deplacer, orienter };
+
     void avancer();
+    QPointF pointe() const; ///< end of the arrow, pixels
+    bool sur_la_pointe(QPointF pixels) const;
 
     std::unique_ptr<Etat> e_;
     QTimer horloge_;
     QPointF depart_;
-    bool deplace_ = false;
+    Geste geste_ = Geste::aucun;
+    bool change_ = false; ///< the present drag has moved something
 };

@@ -94,10 +94,10 @@ void dessinRobot::connecter() {
         apercu_.montrer(vue_.montre());
         montrer_reglages();
     };
-    apercu_.a_la_pose = [this](double x, double y) {
+    apercu_.a_la_pose = [this](const ApercuRobot::Pose& pose, const QString& nom) {
         DocumentRobot d = historique_.doc();
-        d.regler("I", {static_cast<float>(x), static_cast<float>(y), d.valeurs("I")[2], 0});
-        historique_.changer("Déplacer le départ", std::move(d), {});
+        d.regler("I", {pose.x, pose.y, pose.cap, 0});
+        historique_.changer(nom, std::move(d), historique_.selection());
     };
     segment_.au_nombre = [this](std::size_t i, double valeur) { changer_segment(i, valeur); };
     reglages_.au_nombre = [this](std::size_t i, double valeur) { changer_reglage(i, valeur); };
@@ -111,6 +111,11 @@ void dessinRobot::connecter() {
         std::sort(s.begin(), s.end());
         historique_.choisir(s);
     });
+}
+
+void dessinRobot::regler_table(const Etat& table) {
+    apercu_.regler_table(table);
+    apercu_.montrer(historique_.doc());
 }
 
 std::vector<int> dessinRobot::lire(const std::string& octets) {
@@ -130,10 +135,13 @@ void dessinRobot::rafraichir() {
 
 void dessinRobot::montrer_segment() {
     const Selection s = segments_choisis();
-    if (s.size() != 1)
-        return segment_.montrer(s.empty() ? QString("Rien n'est choisi")
-                                          : QString("%1 segments choisis").arg(s.size()),
-                                {});
+    if (s.empty())
+        return segment_.conseiller("Rien n'est choisi",
+                                   "Cliquer un segment montre ses mesures ; tirer sur le fond en "
+                                   "choisit plusieurs. Une ligne de la palette en ajoute.");
+    if (s.size() > 1)
+        return segment_.conseiller(QString("%1 segments choisis").arg(s.size()),
+                                   "Ils se déplacent et se copient en miroir ensemble.");
     std::vector<PanneauProprietes::Champ> champs;
     constexpr const char* noms[] = {"X1", "Y1", "X2", "Y2"};
     for (std::size_t i = 0; i < 4; ++i)

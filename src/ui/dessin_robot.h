@@ -16,8 +16,8 @@ public:
     dessinRobot(QWidget* parent, Foutil& outils, Programme programme);
 
     const DocumentRobot& document() const { return historique_.doc(); }
-    /// The table on which the preview shows the robot (cm).
-    void regler_table(int XMax, int YMax) { apercu_.regler_table(XMax, YMax); }
+    /// The preview shows the robot on the table of that state.
+    void regler_table(const Etat& table);
 
 protected:
     QUndoStack& pile() override { return historique_.pile; }

@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStatusBar>
@@ -23,7 +24,8 @@ QString description(const Fiche& e) {
 
 QPixmap pastille(const Fiche& e) {
     QPixmap image(12, 12);
-    image.fill(formes::couleur(e.cle));
+    image.fill(Qt::gray); // a frame: the list may be as white as the zone
+    QPainter(&image).fillRect(1, 1, 10, 10, formes::couleur(e.cle));
     return image;
 }
 
@@ -137,13 +139,16 @@ void dessinTable::outil_change() {
 
 void dessinTable::montrer_proprietes() {
     const Selection& s = historique_.selection();
-    if (s.size() != 1)
-        return proprietes_.montrer(s.empty() ? QString("Rien n'est choisi")
-                                             : QString("%1 objets choisis").arg(s.size()),
-                                   {});
+    if (s.empty())
+        return proprietes_.conseiller("Rien n'est choisi",
+                                      "Cliquer un objet montre ses mesures ; tirer sur le fond en "
+                                      "choisit plusieurs. Un outil de la palette en ajoute.");
+    if (s.size() > 1)
+        return proprietes_.conseiller(QString("%1 objets choisis").arg(s.size()),
+                                      "Ils se déplacent et s'alignent ensemble.");
     const Fiche& e = historique_.doc()[s.front()];
     if (e.cle == "M")
-        return proprietes_.montrer("Légende", {});
+        return proprietes_.conseiller("Légende", "Son texte se change ci-dessous.");
     using Champ = PanneauProprietes::Champ;
     std::vector<Champ> champs;
     const bool quatre = nombre_de_champs(e.cle) == 4;

@@ -43,11 +43,8 @@ void Editeurs::montrer() {
 
 void Editeurs::montrer_dessin() {
     const bool robot = outils_.chx_dessinRobot.isChecked();
-    if (robot) {
-        const Etat& e = sim_.etat();
-        const bool tournee = e.TableHorizontale;
-        robot_.regler_table(tournee ? e.YMax : e.XMax, tournee ? e.XMax : e.YMax);
-    }
+    if (robot)
+        robot_.regler_table(sim_.etat());
     QWidget& dessin = robot ? static_cast<QWidget&>(robot_) : table_;
     dessin.show();
     dessin.raise();

@@ -274,6 +274,12 @@ bool FenetreEditeur::peut_partir() {
     return false;
 }
 
+void FenetreEditeur::changeEvent(QEvent* evenement) {
+    QMainWindow::changeEvent(evenement);
+    if (evenement->type() == QEvent::ActivationChange && isActiveWindow())
+        outils_.suivre(genre_ == GenreFichier::robot);
+}
+
 void FenetreEditeur::closeEvent(QCloseEvent* evenement) {
     if (peut_partir())
         evenement->accept();

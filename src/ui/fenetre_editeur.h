@@ -57,6 +57,7 @@ protected:
     QMenu& menu_edition() { return *menu_edition_; }
     void montrer_titre();
     void closeEvent(QCloseEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
 
     Foutil& outils_;
     Boites boites_{*this};

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -116,25 +117,25 @@ const std::vector<Outil>& Foutil::outils() {
     using F = Outil::Forme;
     static const std::vector<Outil> liste{
         {"outil_Selection", "Choisir et déplacer", "", F::selection},
+        {"outil_M", "Légende", "M", F::legende},
         {"outil_L", "Zone L (blanc)", "L", F::boite},
         {"outil_O", "Zone O (rouge)", "O", F::boite},
         {"outil_V", "Zone V (noir)", "V", F::boite},
         {"outil_T", "Zone T (vert)", "T", F::boite},
         {"outil_U", "Zone U (blanc)", "U", F::boite},
         {"outil_W", "Zone W (noir)", "W", F::boite},
-        {"outil_DC", "Bloc rectangulaire", "DC", F::boite},
         {"outil_PB", "Pièce PB (blanc)", "PB", F::cercle},
         {"outil_PN", "Pièce PN (noir)", "PN", F::cercle},
         {"outil_BJ", "Pièce BJ (jaune)", "BJ", F::cercle},
         {"outil_BB", "Pièce BB (bleu)", "BB", F::cercle},
-        {"outil_DR", "Bloc disque", "DR", F::cercle},
-        {"outil_LE", "Ellipse", "LE", F::boite},
+        {"outil_X", "Balise gauche", "X", F::cercle},
+        {"outil_Y", "Balise droite", "Y", F::cercle},
         {"outil_Horizontale", "Ligne horizontale", "LN", F::horizontale},
         {"outil_Verticale", "Ligne verticale", "LN", F::verticale},
         {"outil_Ligne", "Ligne libre, selon l'incidence", "LN", F::libre},
-        {"outil_X", "Balise gauche", "X", F::cercle},
-        {"outil_Y", "Balise droite", "Y", F::cercle},
-        {"outil_M", "Légende", "M", F::legende},
+        {"outil_DC", "Bloc rectangulaire", "DC", F::boite},
+        {"outil_DR", "Bloc disque", "DR", F::cercle},
+        {"outil_LE", "Ellipse", "LE", F::boite},
     };
     return liste;
 }
@@ -187,13 +188,17 @@ QWidget* Foutil::placer_outils() {
     auto* boite = new QGroupBox("Outils");
     auto* grille = new QGridLayout(boite);
     grille->setSpacing(3);
+    // What chooses and writes, then a row of zones, of circles, and of lines and the rest.
+    constexpr int par_rangee = 6;
     int rang = 0;
     for (const Outil& o : outils()) {
         auto* bouton = new BoutonOutil(o, boite);
         groupe_.addButton(bouton);
         if (o.forme != Outil::Forme::selection && o.cle != std::string_view("LN"))
             de_la_table_.push_back(bouton);
-        grille->addWidget(bouton, rang / 5, rang % 5);
+        if (o.forme == Outil::Forme::boite && rang == 2)
+            rang = par_rangee;
+        grille->addWidget(bouton, rang / par_rangee, rang % par_rangee);
         ++rang;
     }
     boite->setToolTip("Cliquer un outil puis la table, ou tirer l'outil sur la table");
@@ -228,6 +233,8 @@ void Foutil::placer() {
 void Foutil::montrer_outils(bool table) {
     for (QWidget* w : de_la_table_)
         w->setVisible(table);
+    const int courante = longueur.value(); // a robot is smaller than a table
+    longueur.setValue(std::exchange(autre_longueur_, courante));
     reposer();
 }
 
@@ -235,11 +242,17 @@ void Foutil::connecter() {
     chx_dessinTable.setChecked(true);
     connect(&chx_dessinTable, &QRadioButton::toggled, this, [this](bool table) {
         montrer_outils(table);
-        if (au_choix_du_dessin)
+        if (!suit_ && au_choix_du_dessin)
             au_choix_du_dessin();
     });
     connect(&groupe_, &QButtonGroup::buttonClicked, this,
             [this](QAbstractButton* bouton) { prendre(*outil(bouton->objectName())); });
+}
+
+void Foutil::suivre(bool robot) {
+    suit_ = true;
+    (robot ? chx_dessinRobot : chx_dessinTable).setChecked(true);
+    suit_ = false;
 }
 
 void Foutil::prendre(const Outil& outil) {

@@ -52,6 +52,8 @@ public:
     const Outil& en_main() const { return *en_main_; }
     void prendre(const Outil& outil);
     void reposer() { prendre(outils().front()); }
+    /// Shows the tools of the drawing that the user has turned to; opens no window.
+    void suivre(bool robot);
 
     /// What a tool makes in one click: of the palette's sizes, about a point (cm).
     Fiche creer(const Outil& outil, QPointF centre) const;
@@ -70,6 +72,8 @@ private:
     void connecter();
 
     const Outil* en_main_ = nullptr;
+    int autre_longueur_ = 10; ///< of the lines of the drawing that is not chosen (cm)
+    bool suit_ = false;       ///< the choice of the drawing comes from its window
     QButtonGroup groupe_;
     std::vector<QWidget*> de_la_table_; ///< what only the table has
 };

@@ -3,6 +3,22 @@
 #include <QPixmap>
 #include <QSignalBlocker>
 
+QString Nombre::textFromValue(double valeur) const {
+    QString texte = QDoubleSpinBox::textFromValue(valeur);
+    if (decimals() == 0)
+        return texte;
+    while (texte.endsWith('0'))
+        texte.chop(1);
+    if (texte.endsWith(locale().decimalPoint()))
+        texte.chop(1);
+    return texte;
+}
+
+QValidator::State Nombre::validate(QString& texte, int& position) const {
+    texte.replace('.', locale().decimalPoint());
+    return QDoubleSpinBox::validate(texte, position);
+}
+
 PanneauProprietes::PanneauProprietes(QWidget* parent)
     : QGroupBox(parent), lignes_(new QFormLayout(this)) {
     setObjectName("proprietes");
@@ -45,6 +61,7 @@ void PanneauProprietes::refaire(const std::vector<Champ>& champs,
     }
     nombres_.clear();
     sortes_ = nullptr;
+    conseil_ = nullptr;
     if (!sortes.empty()) {
         sortes_ = new QComboBox;
         sortes_->setObjectName("sorte");
@@ -61,8 +78,19 @@ void PanneauProprietes::refaire(const std::vector<Champ>& champs,
         ajouter_champ(champs[i], i);
 }
 
+void PanneauProprietes::conseiller(const QString& titre, const QString& conseil) {
+    montrer(titre, {});
+    if (conseil_ == nullptr) {
+        conseil_ = new QLabel;
+        conseil_->setObjectName("conseil");
+        conseil_->setWordWrap(true);
+        lignes_->addRow(conseil_);
+    }
+    conseil_->setText(conseil);
+}
+
 void PanneauProprietes::ajouter_champ(const Champ& champ, std::size_t i) {
-    auto* nombre = new QDoubleSpinBox;
+    auto* nombre = new Nombre;
     nombre->setObjectName(champ.nom);
     nombre->setAccessibleName(champ.texte);
     nombre->setDecimals(champ.decimales);

@@ -5,10 +5,18 @@
 #include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QLabel>
 #include <QString>
 
 #include <functional>
 #include <vector>
+
+/// A number without idle zeros; a point is taken for the decimal comma too.
+class Nombre final : public QDoubleSpinBox {
+protected:
+    QString textFromValue(double valeur) const override;
+    QValidator::State validate(QString& texte, int& position) const override;
+};
 
 /// The exact numbers of what is chosen.
 class PanneauProprietes final : public QGroupBox {
@@ -32,13 +40,16 @@ public:
     /// @param sortes  the kinds it can become, none: the kind is not shown
     void montrer(const QString& titre, const std::vector<Champ>& champs,
                  const std::vector<Sorte>& sortes = {}, const QString& sorte = {});
+    /// A sentence in place of numbers.
+    void conseiller(const QString& titre, const QString& conseil);
 
 private:
     void refaire(const std::vector<Champ>& champs, const std::vector<Sorte>& sortes);
     void ajouter_champ(const Champ& champ, std::size_t i);
 
     QFormLayout* lignes_;
+    QLabel* conseil_ = nullptr;
     QComboBox* sortes_ = nullptr;
-    std::vector<QDoubleSpinBox*> nombres_;
+    std::vector<Nombre*> nombres_;
     QString presents_; ///< names of the boxes that exist
 };

@@ -89,7 +89,11 @@ TEST_F(EditeurRobot, reperes_tires_a_la_souris_ou_donnes_en_nombres) {
     EXPECT_EQ(nombres("E"), "13 28 16");
     tirer(vue(), {17, 16}, {20, 16}); // a wheel
     EXPECT_EQ(nombres("A"), "12 16 16");
-    trouver<QDoubleSpinBox>("A1").setValue(9.5);
+    auto& A1 = trouver<QDoubleSpinBox>("A1");
+    EXPECT_EQ(A1.text(), "12 cm");
+    A1.selectAll();
+    QTest::keyClicks(&A1, "9.5\r"); // whatever the language's own sign
+    EXPECT_EQ(A1.text(), "9" + QString(A1.locale().decimalPoint()) + "5 cm");
     EXPECT_NE(doc().ecrire().find("A , 9.5, 16, 16\r\n"), std::string::npos);
     trouver<QDoubleSpinBox>("V2").setValue(45);
     EXPECT_EQ(nombres("V"), "100 45");
@@ -99,7 +103,13 @@ TEST_F(EditeurRobot, reperes_tires_a_la_souris_ou_donnes_en_nombres) {
     apercu.ajuster();
     tirer(apercu, {100, 60}, {120, 90});
     EXPECT_EQ(nombres("I"), "120 90 0");
-    for (int i = 0; i < 6; ++i)
+    const QPointF robot = apercu.en_pixels(QPointF(120, 90));
+    tirer(apercu, apercu.en_cm(robot + QPointF(56, 0)), {121, 140}); // its arrow
+    EXPECT_EQ(nombres("I"), "120 90 90");
+    tirer(apercu, apercu.en_cm(robot - QPointF(0, 56)), apercu.en_cm(robot + QPointF(-150, -29.16)),
+          Qt::AltModifier);
+    EXPECT_EQ(nombres("I"), "120 90 169");
+    for (int i = 0; i < 8; ++i)
         commande("annuler");
     EXPECT_EQ(doc().ecrire(), fichier);
 }
@@ -112,6 +122,17 @@ TEST_F(EditeurRobot, l_apercu_tourne_autour_du_point_de_reference) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return apercu.grab().toImage() != avant; }, 3000));
     trouver<QCheckBox>("tourner").setChecked(false);
     EXPECT_EQ(apercu.grab().toImage(), avant);
+}
+
+TEST_F(EditeurRobot, la_palette_suit_l_editeur_que_l_on_reprend) {
+    auto& table = trouver<QRadioButton>("chx_dessinTable");
+    table.click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return trouver("dessinTable").isActiveWindow(); }));
+    EXPECT_TRUE(trouver("outil_L").isVisible());
+    editeur().activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !table.isChecked(); }));
+    EXPECT_FALSE(trouver("outil_L").isVisible());
+    EXPECT_TRUE(editeur().isActiveWindow()) << "no window takes the place back";
 }
 
 TEST_F(EditeurRobot, miroir_copies_et_capacite) {
