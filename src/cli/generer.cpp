@@ -54,6 +54,14 @@ void afficher_apercu(const Demande& demande, bool ecraser) {
         std::cerr << "Avertissement : " << avertissement << '\n';
 }
 
+// What was changed besides the target.
+void dire(const ChoixGenerer& choix, const Generation& generation) {
+    for (const fs::path& copie : generation.sauvegardes)
+        std::cout << "Copie de sauvegarde : " << copie.string() << '\n';
+    if (generation.depart_reecrit)
+        std::cout << "Fichier de départ modifié : " << choix.depart << '\n';
+}
+
 int executer(ChoixGenerer& choix) {
     Demande& demande = choix.demande;
     demande.depart = choix.depart;
@@ -71,13 +79,14 @@ int executer(ChoixGenerer& choix) {
     }
     const fs::path sauvegardes =
         dossier_application(choix.dossier) / "Configuration" / "Sauvegardes";
-    const Generation generation =
-        generer(demande, sauvegardes,
-                [&choix](std::string_view question) { return repondre(choix, question); });
-    for (const fs::path& copie : generation.sauvegardes)
-        std::cout << "Copie de sauvegarde : " << copie.string() << '\n';
-    if (generation.depart_reecrit)
-        std::cout << "Fichier de départ modifié : " << choix.depart << '\n';
+    try {
+        dire(choix, generer(demande, sauvegardes, [&choix](std::string_view question) {
+                 return repondre(choix, question);
+             }));
+    } catch (const GenerationInterrompue& arret) {
+        dire(choix, arret.faite);
+        throw;
+    }
     std::cout << "Fichier généré : " << demande.cible << '\n';
     return 0;
 }

@@ -111,7 +111,8 @@ Apercu preparer_apercu(const Demande& demande, const Programme& depart, std::str
     Difference difference;
     comparer(difference, depart, c.modifications());
     difference.changer_toutes(SorteLigne::ajoutee, c.ajout);
-    return {std::move(difference).lignes(), avertissements(demande, depart, c, entree)};
+    return {std::move(difference).lignes(), avertissements(demande, depart, c, entree),
+            !c.retrait.modifications.empty()};
 }
 
 Apercu preparer_apercu(const Demande& demande, bool ecraser) {

@@ -27,6 +27,7 @@ struct LigneApercu {
 struct Apercu {
     std::vector<LigneApercu> lignes;
     std::vector<std::string> avertissements; ///< French sentences; never a reason to refuse
+    bool ecrase = false; ///< an older subroutine goes: what the user is asked about
 };
 
 /// Works a generation out without writing or asking anything.

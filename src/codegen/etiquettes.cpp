@@ -1,5 +1,8 @@
 #include "codegen/etiquettes.h"
 
+#include <algorithm>
+#include <unordered_map>
+
 namespace {
 
 std::string_view nom_nu(std::string_view etiquette) {
@@ -37,6 +40,34 @@ std::string corps_de(const Programme& programme, std::string_view etiquette) {
         }
     }
     return corps;
+}
+
+std::vector<std::size_t> chercher_dans_les_corps(const Programme& programme,
+                                                 const std::vector<Etiquette>& etiquettes,
+                                                 std::string_view texte) {
+    // Once over the program, however many labels it has: for each line the last line up to it that
+    // holds the text, and where the bodies end.
+    const std::string motif = majuscules(texte);
+    std::vector<std::size_t> dernier_trouve{0};
+    std::vector<std::size_t> fins;
+    LignesProgramme lignes = programme.lignes();
+    while (const auto ligne = lignes.suivante()) {
+        const bool trouve = majuscules(ligne->texte).find(motif) != std::string::npos;
+        dernier_trouve.push_back(trouve ? ligne->numero : dernier_trouve.back());
+        if (contient_sans_casse(ligne->texte, "return"))
+            fins.push_back(ligne->numero);
+    }
+    std::unordered_map<std::string_view, std::size_t> derniere; // of equal labels the last counts
+    for (const Etiquette& e : etiquettes)
+        derniere[e.texte] = e.ligne;
+    std::vector<std::size_t> trouvees;
+    for (std::size_t i = 0; i < etiquettes.size(); ++i) {
+        const std::size_t debut = derniere[etiquettes[i].texte];
+        const auto fin = std::lower_bound(fins.begin(), fins.end(), debut);
+        if (dernier_trouve.at(fin != fins.end() ? *fin : dernier_trouve.size() - 1) >= debut)
+            trouvees.push_back(i);
+    }
+    return trouvees;
 }
 
 std::optional<std::size_t> chercher_etiquette(const std::vector<Etiquette>& etiquettes,

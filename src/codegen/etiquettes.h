@@ -22,6 +22,11 @@ std::vector<Etiquette> lister_etiquettes(const Programme& programme);
 /// @param etiquette  a text of lister_etiquettes()
 std::string corps_de(const Programme& programme, std::string_view etiquette);
 
+/// Indices, in ascending order, of the labels whose corps_de() holds the text, in any case.
+std::vector<std::size_t> chercher_dans_les_corps(const Programme& programme,
+                                                 const std::vector<Etiquette>& etiquettes,
+                                                 std::string_view texte);
+
 /// Index in the list of the label that a user or a Gosub names: in any case, with or without ":"
 /// and blanks; the first if there are several.
 std::optional<std::size_t> chercher_etiquette(const std::vector<Etiquette>& etiquettes,

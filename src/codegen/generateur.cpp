@@ -44,6 +44,6 @@ Generation generer(const Demande& demande, const fs::path& sauvegardes, const Re
         remplacer_fichier(demande.depart, c.depart);
     remplacer_fichier(cible, c.cible);
     if (!c.erreur.empty())
-        throw ErreurExecution(c.erreur);
+        throw GenerationInterrompue(c.erreur, std::move(generation));
     return generation;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/erreurs.h"
 #include "codegen/demande.h"
 #include "codegen/retrait.h"
 
@@ -15,11 +16,19 @@ struct Generation {
     std::vector<std::filesystem::path> sauvegardes; ///< dated copies of the files replaced
 };
 
+/// A bad value stopped a generation: the target ends before that value's statements.
+class GenerationInterrompue final : public ErreurExecution {
+public:
+    GenerationInterrompue(const std::string& raison, Generation ce_qui_est_fait)
+        : ErreurExecution(raison), faite(std::move(ce_qui_est_fait)) {}
+    Generation faite; ///< what was written all the same
+};
+
 /// Generates: reads both files, asks, then replaces the starting file (only if it changes) and the
 /// target, each as a whole and after a dated copy of it. They may be the same file. The demand has
 /// passed verifier().
 /// @param sauvegardes  directory of the dated copies
-/// @throws ErreurFichier with nothing written when a file cannot be read or copied; ErreurExecution
-///         for a bad value: the target then ends before that value's statements
+/// @throws ErreurFichier with nothing written when a file cannot be read or copied;
+///         GenerationInterrompue for a bad value
 Generation generer(const Demande& demande, const std::filesystem::path& sauvegardes,
                    const Repondre& repondre);

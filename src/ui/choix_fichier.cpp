@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QSignalBlocker>
 #include <QStorageInfo>
 
 #include <vector>
@@ -44,6 +45,21 @@ fs::path le_plus_proche(fs::path dossier) {
 } // namespace
 
 ListeLecteurs::ListeLecteurs() {
+    lister();
+    connect(this, &QComboBox::activated, this, [this](int i) {
+        if (au_choix)
+            au_choix(chemin_de(itemData(i).toString()));
+    });
+}
+
+void ListeLecteurs::showPopup() {
+    lister();
+    suivre(dossier_);
+    QComboBox::showPopup();
+}
+
+void ListeLecteurs::lister() {
+    clear();
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
         if (!est_un_vrai_volume(volume))
             continue;
@@ -52,13 +68,10 @@ ListeLecteurs::ListeLecteurs() {
     }
     if (count() == 0)
         addItem("/", "/");
-    connect(this, &QComboBox::activated, this, [this](int i) {
-        if (au_choix)
-            au_choix(chemin_de(itemData(i).toString()));
-    });
 }
 
 void ListeLecteurs::suivre(const fs::path& dossier) {
+    dossier_ = dossier;
     int meilleur = 0;
     qsizetype longueur = -1;
     for (int i = 0; i < count(); ++i) {
@@ -109,12 +122,31 @@ void ListeDossiers::aller(const fs::path& chemin) {
 
 void ListeFichiers::lister(const fs::path& dossier, const QString& motif) {
     dossier_ = dossier;
+    motif_ = motif;
     clear();
-    // Name filters ignore case unless told otherwise.
-    const QDir contenu(qt(dossier));
-    addItems(contenu.entryList({motif == "*.*" ? "*" : motif}, QDir::Files,
-                               QDir::Name | QDir::IgnoreCase | QDir::LocaleAware));
+    addItems(presents());
     setCurrentItem(nullptr);
+}
+
+// Name filters ignore case unless told otherwise.
+QStringList ListeFichiers::presents() const {
+    return QDir(qt(dossier_))
+        .entryList({motif_ == "*.*" ? "*" : motif_}, QDir::Files,
+                   QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
+}
+
+void ListeFichiers::actualiser() {
+    const QStringList voulus = presents();
+    QStringList montres;
+    for (int i = 0; i < count(); ++i)
+        montres << item(i)->text();
+    if (montres == voulus)
+        return;
+    const fs::path choix = choisi();
+    const QSignalBlocker muet(this);
+    clear();
+    addItems(voulus);
+    choisir(choix.filename().string());
 }
 
 fs::path ListeFichiers::choisi() const {
@@ -134,6 +166,7 @@ ChoixFichier::ChoixFichier(const Controles& c) {
     dossiers.au_changement = [this] { relister(); };
     QObject::connect(&motif, &QComboBox::currentIndexChanged, &motif, [this] { relister(); });
     QObject::connect(&fichiers, &QListWidget::itemSelectionChanged, &fichiers, [this] {
+        veiller();
         if (au_changement)
             au_changement(false);
     });
@@ -174,8 +207,22 @@ QLayout* ChoixFichier::disposer() {
 void ChoixFichier::relister() {
     lecteurs.suivre(dossiers.chemin());
     fichiers.lister(dossiers.chemin(), motif.currentText());
+    veiller();
     if (au_changement)
         au_changement(true);
+}
+
+void ChoixFichier::veiller() {
+    std::vector<fs::path> chemins{dossiers.chemin()};
+    if (const fs::path choix = fichiers.choisi(); !choix.empty())
+        chemins.push_back(choix);
+    veilleur_.suivre(std::move(chemins));
+}
+
+void ChoixFichier::actualiser() {
+    fichiers.actualiser();
+    if (au_changement)
+        au_changement(false);
 }
 
 void ChoixFichier::parcourir_Click() {

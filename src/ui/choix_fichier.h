@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/veilleur.h"
+
 #include <QComboBox>
 #include <QListWidget>
 #include <QPushButton>
@@ -19,6 +21,12 @@ public:
     std::function<void(const std::filesystem::path&)> au_choix;
     /// Shows the volume that holds `dossier`.
     void suivre(const std::filesystem::path& dossier);
+    /// A stick may have been plugged in since.
+    void showPopup() override;
+
+private:
+    void lister();
+    std::filesystem::path dossier_;
 };
 
 /// A directory with those above it and those in it; hidden ones are left out. A double click or
@@ -41,12 +49,16 @@ private:
 class ListeFichiers final : public QListWidget {
 public:
     void lister(const std::filesystem::path& dossier, const QString& motif);
+    /// Lists the same again, the selection kept, when something came or went.
+    void actualiser();
     /// The selected file, empty when none is.
     std::filesystem::path choisi() const;
     void choisir(const std::string& nom);
 
 private:
+    QStringList presents() const;
     std::filesystem::path dossier_;
+    QString motif_;
 };
 
 /// Drive, directory and file lists that follow each other, with a pattern and the platform's own
@@ -69,11 +81,16 @@ public:
     ListeFichiers fichiers;
     QComboBox motif;
     QPushButton parcourir;
-    /// Called when another directory or file is chosen; true for a directory.
+    /// Called when another directory or file is chosen, true for a directory; with false also when
+    /// the chosen file was written to.
     std::function<void(bool)> au_changement;
 
 private:
     void nommer(const Controles& c);
     void relister();
+    void veiller();
+    void actualiser();
     void parcourir_Click();
+
+    Veilleur veilleur_{[this] { actualiser(); }};
 };

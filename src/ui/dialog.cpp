@@ -8,6 +8,7 @@
 #include "ui/sim1.h"
 #include "ui/visualiser.h"
 
+#include <QCloseEvent>
 #include <QSettings>
 
 namespace {
@@ -114,16 +115,21 @@ void Dialog::generer_et_montrer() {
         return sim_.message(refus.message, refus.conseil);
     retenir_dossiers();
     const auto dossier = sim_.projet().dossier_configuration() / "Sauvegardes";
-    const Generation generation = ::generer(
-        d, dossier, [this](std::string_view question) { return sim_.question(question); });
-    dire_ce_qui_a_change(generation);
+    try {
+        dire_ce_qui_a_change("Fichier généré : ", ::generer(d, dossier, [this](std::string_view q) {
+                                 return sim_.question(q);
+                             }));
+    } catch (const GenerationInterrompue& arret) {
+        dire_ce_qui_a_change("Génération interrompue, fichier incomplet : ", arret.faite);
+        throw;
+    }
     if (sim_.question(question_voir))
         visualiser(true);
 }
 
 // A hand-written program was changed: where its former version is.
-void Dialog::dire_ce_qui_a_change(const Generation& generation) {
-    std::string texte = "Fichier généré : " + fichier_a_generer.text().toStdString();
+void Dialog::dire_ce_qui_a_change(std::string texte, const Generation& generation) {
+    texte += fichier_a_generer.text().toStdString();
     if (generation.depart_reecrit)
         texte += "\nLe fichier de départ a été modifié.";
     for (const auto& copie : generation.sauvegardes)
@@ -133,12 +139,11 @@ void Dialog::dire_ce_qui_a_change(const Generation& generation) {
 }
 
 void Dialog::visualiser(bool modal) {
-    auto* fenetre = new Visualiser(sim_, fichier_a_generer.text().toStdString());
-    fenetre->setAttribute(Qt::WA_DeleteOnClose);
+    visualiseur_ = std::make_unique<Visualiser>(sim_, fichier_a_generer.text().toStdString());
     if (modal)
-        fenetre->setWindowModality(Qt::ApplicationModal);
-    fenetre->Form_Load();
-    fenetre->show();
+        visualiseur_->setWindowModality(Qt::ApplicationModal);
+    visualiseur_->Form_Load();
+    visualiseur_->show();
 }
 
 void Dialog::rep_defaut_Click(bool coche) {
@@ -170,6 +175,11 @@ void Dialog::Fermer_Click() {
     sim_.montrer_options();
 }
 
+void Dialog::closeEvent(QCloseEvent*) {
+    if (!sim_.terminee())
+        Fermer_Click();
+}
+
 void Dialog::rafraichir_apercu() {
     avertissements_.clear();
     const Demande d = demande();
@@ -183,7 +193,9 @@ void Dialog::rafraichir_apercu() {
         apercu_.setPlainText(texte_apercu(apercu));
         for (const std::string& texte : apercu.avertissements)
             avertissements_.addItem(texte_qt(texte));
-        titre_apercu_.setText("Aperçu de ce qui sera retiré (-) et ajouté (+) :");
+        titre_apercu_.setText(
+            QString("Aperçu de ce qui sera retiré (-) et ajouté (+)%1 :")
+                .arg(apercu.ecrase ? ", si vous acceptez d'écraser la fonction" : ""));
     } catch (const ErreurExecution& erreur) {
         apercu_.setPlainText({});
         titre_apercu_.setText("Aperçu impossible :");

@@ -17,6 +17,7 @@
 
 class Sim1;
 class OuvGeneration;
+class Visualiser;
 
 /// The generation window: merges a recorded path into the team's own PICBASIC program, and shows
 /// beforehand what would change.
@@ -33,6 +34,9 @@ public:
     void Fermer_Click();
     void choisir_cible(const std::string& chemin);
 
+protected:
+    void closeEvent(QCloseEvent* evenement) override;
+
 private:
     /// Green for what comes, red for what goes.
     class Coloration final : public QSyntaxHighlighter {
@@ -48,7 +52,7 @@ private:
 
     Demande demande() const;
     void generer_et_montrer();
-    void dire_ce_qui_a_change(const Generation& generation);
+    void dire_ce_qui_a_change(std::string texte, const Generation& generation);
     void visualiser(bool modal);
     void rafraichir_apercu();
     void retenir_dossiers() const;
@@ -73,4 +77,5 @@ private:
     QTimer repos_;
     std::string CheminCourant_; ///< of the directory list that changed last
     std::unique_ptr<OuvGeneration> ouv_generation_;
+    std::unique_ptr<Visualiser> visualiseur_;
 };

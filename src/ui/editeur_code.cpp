@@ -114,6 +114,7 @@ void VueCode::peindre_numeros(QPaintEvent* evenement) {
 
 void VueCode::mouseDoubleClickEvent(QMouseEvent* evenement) {
     QPlainTextEdit::mouseDoubleClickEvent(evenement);
+    const QTextCursor ici = cursorForPosition(evenement->pos());
     if (au_double_clic)
-        au_double_clic(cursorForPosition(evenement->pos()).block().text());
+        au_double_clic(ici.block().text(), ici.positionInBlock());
 }

@@ -27,8 +27,8 @@ public:
     VueCode();
     /// @param premiere  line number of the first block; a block numbered below 1 has none
     void montrer(const QString& texte, int premiere);
-    /// Called with the line under a double click.
-    std::function<void(const QString&)> au_double_clic;
+    /// Called with the line under a double click and the character's place in it.
+    std::function<void(const QString& ligne, int colonne)> au_double_clic;
     void peindre_numeros(QPaintEvent* evenement);
     int largeur_numeros() const;
 

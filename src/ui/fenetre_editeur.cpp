@@ -7,12 +7,14 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTimer>
 #include <QUndoStack>
 
 namespace {
@@ -138,6 +140,7 @@ void FenetreEditeur::nouveau() {
     if (!peut_partir())
         return;
     chemin_.clear();
+    veilleur_.suivre({});
     commencer();
     montrer_titre();
     vue().ajuster();
@@ -162,6 +165,7 @@ bool FenetreEditeur::ouvrir(const std::filesystem::path& chemin) {
         chemin_ = chemin;
         sur_le_disque_ = std::move(lus);
         remplacement_accepte_ = false;
+        veilleur_.suivre({chemin_, chemin_.parent_path()});
         montrer_titre();
         vue().ajuster();
         if (!incomprises.empty())
@@ -173,6 +177,37 @@ bool FenetreEditeur::ouvrir(const std::filesystem::path& chemin) {
     } catch (const ErreurExecution& erreur) {
         boites_.message(erreur.what());
         return false;
+    }
+}
+
+// Another program has saved the file: it is read again, after a question when that would lose
+// changes. What is seen of the drawing stays.
+void FenetreEditeur::verifier_disque() {
+    std::error_code absent;
+    if (chemin_.empty() || !std::filesystem::is_regular_file(chemin_, absent))
+        return;
+    if (QApplication::activeModalWidget() != nullptr) {
+        QTimer::singleShot(500, this, [this] { verifier_disque(); }); // one question at a time
+        return;
+    }
+    try {
+        std::string lus = lire_octets(chemin_);
+        if (lus == sur_le_disque_ || lus == refuses_)
+            return;
+        const std::string nom = chemin_.filename().string();
+        if (!pile().isClean() &&
+            !boites_.question("Le fichier " + nom +
+                              " a été modifié par un autre programme. Doit-on le relire et perdre "
+                              "les changements du dessin ?")) {
+            refuses_ = std::move(lus);
+            return;
+        }
+        lire(lus);
+        sur_le_disque_ = std::move(lus);
+        montrer_titre();
+        statusBar()->showMessage("Relu après un changement : " + texte_qt(nom), 10000);
+    } catch (const ErreurExecution& erreur) {
+        boites_.message(erreur.what());
     }
 }
 
@@ -218,6 +253,7 @@ void FenetreEditeur::ecrire(const std::filesystem::path& chemin, const std::stri
     chemin_ = chemin;
     sur_le_disque_ = octets;
     remplacement_accepte_ = true;
+    veilleur_.suivre({chemin_, chemin_.parent_path()});
     pile().setClean();
     montrer_titre();
     statusBar()->showMessage("Enregistré : " + nom_court(chemin), 5000);

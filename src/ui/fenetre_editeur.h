@@ -3,6 +3,7 @@
 #include "config/document_table.h"
 #include "config/nom_projet.h"
 #include "ui/boites.h"
+#include "ui/veilleur.h"
 
 #include <QMainWindow>
 
@@ -68,6 +69,7 @@ private:
     void preparer_affichage();
     void nouveau();
     void choisir_un_fichier();
+    void verifier_disque();
     bool peut_remplacer(const std::filesystem::path& chemin);
     void ecrire(const std::filesystem::path& chemin, const std::string& octets);
     void proposer_de_charger();
@@ -77,5 +79,7 @@ private:
     QMenu* menu_edition_ = nullptr;
     std::filesystem::path chemin_; ///< empty: never saved
     std::string sur_le_disque_;    ///< the file's bytes as they were read or written last
+    std::string refuses_;          ///< another program's bytes that the user did not want
     bool remplacement_accepte_ = false;
+    Veilleur veilleur_{[this] { verifier_disque(); }};
 };

@@ -14,11 +14,14 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 Visualiser::Visualiser(Sim1& sim, std::filesystem::path FichierVisu)
     : QWidget(&sim, Qt::Window),
       sim_(sim),
       FichierVisu_(std::move(FichierVisu)),
-      coloration_(Visu.document(), palette()) {
+      coloration_(Visu.document(), palette()),
+      veilleur_([this] { garde(sim_, [this] { relire(); }); }) {
     nommer();
     placer();
     connecter();
@@ -105,13 +108,9 @@ void Visualiser::connecter() {
             &QPushButton::click);
     connect(new QShortcut(QKeySequence::Back, this), &QShortcut::activated, &retour_,
             &QPushButton::click);
-    Visu.au_double_clic = [this](const QString& ligne) { garde(sim_, [&] { suivre(ligne); }); };
-    repos_.setSingleShot(true);
-    repos_.setInterval(200);
-    connect(&repos_, &QTimer::timeout, this, [this] { garde(sim_, [this] { relire(); }); });
-    const auto attendre = [this] { repos_.start(); };
-    connect(&veilleur_, &QFileSystemWatcher::fileChanged, this, attendre);
-    connect(&veilleur_, &QFileSystemWatcher::directoryChanged, this, attendre);
+    Visu.au_double_clic = [this](const QString& ligne, int colonne) {
+        garde(sim_, [&] { suivre(ligne, colonne); });
+    };
 }
 
 void Visualiser::lire() {
@@ -136,19 +135,17 @@ void Visualiser::Form_Load() {
     const QString fichier = texte_qt(FichierVisu_.string());
     setWindowFilePath(fichier);
     setWindowTitle("Visualisation du Code PICBASIC...");
-    veilleur_.addPath(fichier);
-    veilleur_.addPath(texte_qt(FichierVisu_.parent_path().string()));
+    veilleur_.suivre({FichierVisu_, FichierVisu_.parent_path()});
     Visu.show();
 }
 
-// Keeps the selected label and the place in its code. A file replaced by renaming is watched anew;
-// one that is gone for the moment leaves what is shown.
+// Keeps the selected label and the place in its code. A file that is gone for the moment leaves
+// what is shown.
 void Visualiser::relire() {
     std::error_code erreur;
     if (!std::filesystem::is_regular_file(FichierVisu_, erreur))
         return;
     const std::string octets = lire_octets(FichierVisu_);
-    veilleur_.addPath(texte_qt(FichierVisu_.string()));
     if (programme_ && octets == programme_->octets())
         return;
     const int rang = LFonc.currentRow();
@@ -183,12 +180,16 @@ void Visualiser::LFonc_Click() {
     Visu.montrer(texte_qt(corps_de(*programme_, etiquette)), int(ligne) - 1);
 }
 
-void Visualiser::suivre(const QString& ligne) {
+// The jump under the pointer, else the line's first one.
+void Visualiser::suivre(const QString& ligne, int colonne) {
     static const QRegularExpression saut(R"(\bgo(?:sub|to)\s+([A-Za-z_][A-Za-z0-9_]*))",
                                          QRegularExpression::CaseInsensitiveOption);
-    const auto trouve = saut.match(ligne);
+    auto trouve = saut.match(ligne);
     if (!trouve.hasMatch())
         return;
+    for (const auto& autre : saut.globalMatch(ligne))
+        if (autre.capturedStart() <= colonne)
+            trouve = autre;
     const auto rang = chercher_etiquette(etiquettes_, trouve.captured(1).toStdString());
     if (!rang)
         return sim_.message("L'étiquette " + trouve.captured(1).toStdString() +
@@ -210,13 +211,12 @@ void Visualiser::chercher() {
     const QString texte = recherche_.text();
     if (texte.isEmpty() || !programme_ || Visu.find(texte))
         return;
-    const int nombre = LFonc.count();
-    for (int pas = 1; pas <= nombre; ++pas) {
-        const int rang = (std::max(LFonc.currentRow(), 0) + pas) % nombre;
-        const auto& etiquette = etiquettes_.at(std::size_t(rang)).texte;
-        if (!texte_qt(corps_de(*programme_, etiquette)).contains(texte, Qt::CaseInsensitive))
-            continue;
-        choisir(rang);
+    // The next one in the list, the first one behind its end.
+    const auto trouvees = chercher_dans_les_corps(*programme_, etiquettes_, texte.toStdString());
+    if (!trouvees.empty()) {
+        const auto ici = std::size_t(std::max(LFonc.currentRow(), 0));
+        const auto suivante = std::upper_bound(trouvees.begin(), trouvees.end(), ici);
+        choisir(int(suivante != trouvees.end() ? *suivante : trouvees.front()));
         Visu.moveCursor(QTextCursor::Start);
         Visu.find(texte);
         return;

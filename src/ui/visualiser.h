@@ -2,13 +2,12 @@
 
 #include "codegen/etiquettes.h"
 #include "ui/editeur_code.h"
+#include "ui/veilleur.h"
 
-#include <QFileSystemWatcher>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTimer>
 #include <QWidget>
 
 #include <filesystem>
@@ -37,7 +36,7 @@ private:
     void lire();
     void relire();
     void choisir(int rang);
-    void suivre(const QString& ligne);
+    void suivre(const QString& ligne, int colonne);
     void revenir();
     void chercher();
 
@@ -52,6 +51,5 @@ private:
     ColorationPicbasic coloration_;
     QLineEdit recherche_;
     QPushButton chercher_, retour_, Fermer;
-    QFileSystemWatcher veilleur_;
-    QTimer repos_;
+    Veilleur veilleur_;
 };

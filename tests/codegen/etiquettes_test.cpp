@@ -40,6 +40,20 @@ TEST(Etiquettes, le_corps_va_jusqu_au_premier_return_ou_a_la_fin) {
         EXPECT_EQ(corps_de(Programme(c.programme), c.etiquette), c.corps) << c.programme;
 }
 
+// The same answer as looking into every body.
+TEST(Etiquettes, un_texte_se_cherche_dans_tous_les_corps) {
+    const Programme programme("avant\nA:\nx = Été\nB:\nReturn\nété\nC:\nreturn\nA:\nfin");
+    const std::vector<Etiquette> liste = lister_etiquettes(programme);
+    for (const std::string_view texte : {"été", "RETURN", "fin", "avant", "x", "b:", "a", "zz"}) {
+        std::vector<std::size_t> attendu;
+        for (std::size_t i = 0; i < liste.size(); ++i)
+            if (majuscules(corps_de(programme, liste[i].texte)).find(majuscules(texte)) !=
+                std::string::npos)
+                attendu.push_back(i);
+        EXPECT_EQ(chercher_dans_les_corps(programme, liste, texte), attendu) << texte;
+    }
+}
+
 TEST(Etiquettes, un_nom_se_cherche_sans_casse_ni_blancs_l_entree_exacte_d_abord) {
     const Programme programme(" Avance :\nAVANCE:\nÉté:\n");
     const std::vector<Etiquette> liste = lister_etiquettes(programme);

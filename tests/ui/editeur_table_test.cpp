@@ -259,6 +259,26 @@ TEST_F(EditeurTable, enregistrer_demande_garde_la_version_d_avant_et_propose_de_
     EXPECT_EQ(sur_le_disque(), "autre");
 }
 
+TEST_F(EditeurTable, un_fichier_change_ailleurs_est_relu_sans_perdre_le_dessin) {
+    ouvrir();
+    commande("zoom_plus");
+    const double echelle = vue().pixels_par_cm();
+    dossier.ecrire("Configuration/neuf", "U,0,0,70,70\r\n");
+    std::filesystem::rename(dossier / "Configuration/neuf",
+                            dossier / "Configuration/Essai Table.ini");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return doc().nombre() == 1; }));
+    EXPECT_EQ(vue().pixels_par_cm(), echelle);
+    EXPECT_FALSE(editeur().isWindowModified());
+    tirer({5, 5}, {15, 5});
+    messages.clear();
+    dossier.ecrire("Configuration/Essai Table.ini", "L,0,0,50,50\r\n"); // in place
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !messages.empty(); }));
+    EXPECT_NE(messages[0].find("perdre les changements"), std::string::npos) << messages[0];
+    EXPECT_EQ(dernier("U"), "U 10 0 80 70");
+    QTest::qWait(400);
+    EXPECT_EQ(messages.size(), 1U) << "asked once";
+}
+
 TEST_F(EditeurTable, nouveau_projet_explique_et_corrige_les_noms) {
     struct Cas {
         const char *nom, *ecrit, *avis;

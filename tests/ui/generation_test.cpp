@@ -105,6 +105,11 @@ TEST_F(FenetreGeneration, du_choix_des_fichiers_au_code_que_l_on_regarde) {
     ASSERT_EQ(LFonc.count(), 3);
     EXPECT_EQ(LFonc.item(2)->text(), "TRAJECTOIRE:");
     auto& Visu = *visualiser.findChild<QPlainTextEdit*>("Visu");
+    // "Suivant" goes on to the next function that holds the text, the first one after the last.
+    visualiser.findChild<QLineEdit*>("recherche")->setText("GOTO");
+    visualiser.findChild<QPushButton*>("chercher")->click();
+    EXPECT_EQ(LFonc.currentRow(), 1);
+    EXPECT_EQ(Visu.textCursor().selectedText(), "Goto");
     LFonc.setCurrentRow(0);
     EXPECT_EQ(Visu.toPlainText(), "\nPRINCIPAL:\n\tGosub TRAJECTOIRE\n\tReturn");
     // A double click on the Gosub follows it, "Retour" comes back.
@@ -120,6 +125,33 @@ TEST_F(FenetreGeneration, du_choix_des_fichiers_au_code_que_l_on_regarde) {
     std::filesystem::rename(dossier / "Configuration/neuf", cible());
     EXPECT_TRUE(QTest::qWaitFor([&] { return LFonc.count() == 1; }));
     visualiser.findChild<QPushButton*>("Fermer")->click();
+}
+
+TEST_F(FenetreGeneration, une_valeur_fausse_dit_ce_qui_est_ecrit_et_ce_qui_est_garde) {
+    if (cible().find('.') != cible().rfind('.'))
+        GTEST_SKIP() << "the temporary directory's own name has a dot";
+    dossier.ecrire("Configuration/GENERE.bas", "ancien");
+    dossier.ecrire("Configuration/Defaut PourGenerer11.ini", "# Fichier\r\nAVANCE:xyz\r\n");
+    // The lists follow what comes and goes.
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        return !dans<QListWidget>("File")
+                    .findItems("Defaut PourGenerer11.ini", Qt::MatchExactly)
+                    .isEmpty();
+    }));
+    selectionner("File", "Defaut PourGenerer11.ini");
+    selectionner("File1", "depart.bas");
+    dans<QLineEdit>("fichier_a_generer").setText(QString::fromStdString(cible()));
+    reponses = {true};
+    generer();
+    EXPECT_NE(messages.back().find("xyz"), std::string::npos) << messages.back();
+    EXPECT_NE(messages.back().find("Defaut PourGenerer11.ini"), std::string::npos);
+    const std::string compte = dans<QLabel>("compte_rendu").text().toStdString();
+    EXPECT_NE(compte.find("incomplet"), std::string::npos);
+    EXPECT_NE(compte.find("Le fichier de départ a été modifié."), std::string::npos);
+    EXPECT_NE(compte.find("Sauvegardes/GENERE.bas"), std::string::npos) << compte;
+    sim->options().hide();
+    dialog->close(); // by its frame: the options come back as with "Fermer"
+    EXPECT_TRUE(sim->options().isVisible());
 }
 
 TEST_F(FenetreGeneration, la_cible_se_choisit_par_repertoire_et_nom) {
