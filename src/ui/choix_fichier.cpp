@@ -46,8 +46,8 @@ fs::path le_plus_proche(fs::path dossier) {
 
 ListeLecteurs::ListeLecteurs() {
     lister();
-    connect(this, &QComboBox::activated, this, [this](int i) {
-        if (au_choix)
+    connect(this, &QComboBox::currentIndexChanged, this, [this](int i) {
+        if (au_choix && i >= 0)
             au_choix(chemin_de(itemData(i).toString()));
     });
 }
@@ -59,6 +59,7 @@ void ListeLecteurs::showPopup() {
 }
 
 void ListeLecteurs::lister() {
+    const QSignalBlocker muet(this);
     clear();
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
         if (!est_un_vrai_volume(volume))
@@ -71,6 +72,7 @@ void ListeLecteurs::lister() {
 }
 
 void ListeLecteurs::suivre(const fs::path& dossier) {
+    const QSignalBlocker muet(this);
     dossier_ = dossier;
     int meilleur = 0;
     qsizetype longueur = -1;

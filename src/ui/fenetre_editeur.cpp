@@ -33,30 +33,37 @@ FenetreEditeur::FenetreEditeur(QWidget* parent, Foutil& outils, Programme progra
       genre_(genre) {}
 
 QAction* FenetreEditeur::action(QMenu& menu, const char* nom, const QString& texte,
-                                const QKeySequence& touche, std::function<void()> faire) {
+                                const QKeySequence& touche, std::function<void()> faire,
+                                Qt::ConnectionType quand) {
     QAction* a = menu.addAction(texte);
     a->setObjectName(nom);
     a->setShortcut(touche);
-    connect(a, &QAction::triggered, this, [this, faire = std::move(faire)] {
+    const auto executer = [this, faire = std::move(faire)] {
         try {
             faire();
         } catch (const std::exception& erreur) {
             boites_.message(erreur.what());
         }
-    });
+    };
+    connect(a, &QAction::triggered, this, executer, quand);
     return a;
 }
 
 void FenetreEditeur::preparer_menus() {
     QMenu& fichier = *menuBar()->addMenu("&Fichier");
-    action(fichier, "nouveau", "&Nouveau", QKeySequence::New, [this] { nouveau(); });
-    action(fichier, "ouvrir", "&Ouvrir...", QKeySequence::Open, [this] { choisir_un_fichier(); });
+    // These may ask: later, so that an assistive tool that triggers one is not kept waiting.
+    const auto ajouter = [&](const char* nom, const QString& texte, const QKeySequence& touche,
+                             std::function<void()> faire) {
+        action(fichier, nom, texte, touche, std::move(faire), Qt::QueuedConnection);
+    };
+    ajouter("nouveau", "&Nouveau", QKeySequence::New, [this] { nouveau(); });
+    ajouter("ouvrir", "&Ouvrir...", QKeySequence::Open, [this] { choisir_un_fichier(); });
     fichier.addSeparator();
-    action(fichier, "enregistrer", "&Enregistrer", QKeySequence::Save, [this] { enregistrer(); });
-    action(fichier, "enregistrer_sous", "Enregistrer &sous...", QKeySequence("Ctrl+Shift+S"),
-           [this] { enregistrer_sous(); });
+    ajouter("enregistrer", "&Enregistrer", QKeySequence::Save, [this] { enregistrer(); });
+    ajouter("enregistrer_sous", "Enregistrer &sous...", QKeySequence("Ctrl+Shift+S"),
+            [this] { enregistrer_sous(); });
     fichier.addSeparator();
-    action(fichier, "fermer", "&Fermer", QKeySequence::Close, [this] { close(); });
+    ajouter("fermer", "&Fermer", QKeySequence::Close, [this] { close(); });
     menu_edition_ = menuBar()->addMenu("É&dition");
     QAction* annuler = pile().createUndoAction(this, "&Annuler");
     QAction* retablir = pile().createRedoAction(this, "&Rétablir");

@@ -54,7 +54,7 @@ protected:
     /// To be called at the end of the derived constructor.
     void preparer_menus();
     QAction* action(QMenu& menu, const char* nom, const QString& texte, const QKeySequence& touche,
-                    std::function<void()> faire);
+                    std::function<void()> faire, Qt::ConnectionType quand = Qt::DirectConnection);
     QMenu& menu_edition() { return *menu_edition_; }
     void montrer_titre();
     void closeEvent(QCloseEvent* evenement) override;

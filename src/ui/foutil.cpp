@@ -245,8 +245,12 @@ void Foutil::connecter() {
         if (!suit_ && au_choix_du_dessin)
             au_choix_du_dessin();
     });
-    connect(&groupe_, &QButtonGroup::buttonClicked, this,
-            [this](QAbstractButton* bouton) { prendre(*outil(bouton->objectName())); });
+    // Also what an assistive tool does, which toggles without a click.
+    connect(&groupe_, &QButtonGroup::buttonToggled, this,
+            [this](QAbstractButton* bouton, bool enfonce) {
+                if (enfonce && bouton->objectName() != en_main_->nom)
+                    prendre(*outil(bouton->objectName()));
+            });
 }
 
 void Foutil::suivre(bool robot) {

@@ -65,12 +65,13 @@ void PanneauProprietes::refaire(const std::vector<Champ>& champs,
     if (!sortes.empty()) {
         sortes_ = new QComboBox;
         sortes_->setObjectName("sorte");
+        sortes_->setAccessibleName("Sorte");
         for (const Sorte& s : sortes) {
             QPixmap pastille(14, 14);
             pastille.fill(s.couleur);
             sortes_->addItem(pastille, s.texte, s.cle);
         }
-        connect(sortes_, &QComboBox::activated, this,
+        connect(sortes_, &QComboBox::currentIndexChanged, this,
                 [this](int i) { a_la_sorte(sortes_->itemData(i).toString()); });
         lignes_->addRow("Sorte", sortes_);
     }

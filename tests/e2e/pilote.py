@@ -63,11 +63,11 @@ class Programme:
             (f for f in self.racine if f.name == titre and visible(f)), None))
 
     def _chercher(self, role, motif):
-        return next((a for a in descendants(self.racine) if a.getRoleName() == role
+        return next((a for a in descendants(self.racine) if re.fullmatch(role, a.getRoleName())
                      and re.search(motif, a.name) and visible(a)), None)
 
     def objet(self, role, motif):
-        """The visible object of that role whose name matches, waited for."""
+        """The visible object whose role and name match, waited for."""
         return attendre(f"{role} « {motif} »", lambda: self._chercher(role, motif))
 
     def texte(self, motif):
@@ -75,14 +75,26 @@ class Programme:
         return self.objet("label", motif).name
 
     def agir(self, role, motif, action):
-        """Does that object's action ("Press", "Toggle")."""
+        """Does that object's first action that matches ("Press", "Toggle")."""
         actions = self.objet(role, motif).queryAction()
         noms = [actions.getName(i) for i in range(actions.nActions)]
-        assert action in noms, f"« {motif} » ne sait faire que {noms}"
-        actions.doAction(noms.index(action))
+        rangs = [i for i, nom in enumerate(noms) if re.fullmatch(action, nom)]
+        assert rangs, f"« {motif} » ne sait faire que {noms}"
+        actions.doAction(rangs[0])
 
     def presser(self, motif):
         self.agir("push button", motif, "Press")
+
+    def derouler(self, menu, choix):
+        """Opens a menu of the menu bar and chooses an entry."""
+        self.agir("menu item", menu, "(ShowMenu|Press)")
+        self.agir("menu item", choix, "Press")
+
+    def cliquer_au_milieu(self, motif):
+        """A click of the mouse in the middle of an object."""
+        place = self.objet(".*", motif).queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        pyatspi.Registry.generateMouseEvent(place.x + place.width // 2,
+                                            place.y + place.height // 2, "b1c")
 
     def basculer(self, motif):
         """Toggles a check box and waits until it shows so."""

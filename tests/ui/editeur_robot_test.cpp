@@ -27,7 +27,10 @@ protected:
     dessinRobot& editeur() { return trouver<dessinRobot>("dessinRobot"); }
     VueRobot& vue() { return trouver<VueRobot>("vueRobot"); }
     const DocumentRobot& doc() { return editeur().document(); }
-    void commande(const char* nom) { editeur().findChild<QAction*>(nom)->trigger(); }
+    void commande(const char* nom) {
+        editeur().findChild<QAction*>(nom)->trigger();
+        QCoreApplication::sendPostedEvents(&editeur(), QEvent::MetaCall);
+    }
     static void tirer(VueEchelle& vue, QPointF a, QPointF b, Qt::KeyboardModifiers touches = {}) {
         const auto en = [&](QPointF cm) { return vue.en_pixels(cm).toPoint(); };
         QTest::mousePress(&vue, Qt::LeftButton, touches, en(a));

@@ -35,7 +35,10 @@ protected:
         return ouvert;
     }
     std::string sur_le_disque() { return dossier.lire("Configuration/Essai Table.ini"); }
-    void commande(const char* nom) { editeur().findChild<QAction*>(nom)->trigger(); }
+    void commande(const char* nom) {
+        editeur().findChild<QAction*>(nom)->trigger();
+        QCoreApplication::sendPostedEvents(&editeur(), QEvent::MetaCall);
+    }
     QPoint en(double x, double y) { return vue().en_pixels(QPointF(x, y)).toPoint(); }
     void clic(double x, double y, Qt::KeyboardModifiers touches = {}) {
         QTest::mouseClick(&vue(), Qt::LeftButton, touches, en(x, y));
@@ -203,7 +206,6 @@ TEST_F(EditeurTable, nombres_exacts_sorte_et_legende) {
     EXPECT_EQ(dernier("PB"), "PB -3 50 9");
     auto& sorte = trouver<QComboBox>("sorte");
     sorte.setCurrentIndex(sorte.findData("BB"));
-    emit sorte.activated(sorte.currentIndex());
     EXPECT_EQ(dernier("BB"), "BB -3 50 9");
     clic(30, 80);
     trouver<QDoubleSpinBox>("Incidence").setValue(-90);
