@@ -61,9 +61,9 @@ struct Banc {
     }
     void souris(QEvent::Type genre, QPointF ou) {
         const bool bouge = genre == QEvent::MouseMove;
-        QMouseEvent e(genre, ou, vue.mapToGlobal(ou), bouge ? Qt::NoButton : Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&vue, &e);
+        QMouseEvent evenement(genre, ou, vue.mapToGlobal(ou), bouge ? Qt::NoButton : Qt::LeftButton,
+                              Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&vue, &evenement);
         QApplication::processEvents();
     }
     void lire() {

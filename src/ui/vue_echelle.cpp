@@ -92,13 +92,36 @@ void VueEchelle::orienter(SurfaceQt& surface) const {
 }
 
 void VueEchelle::paintEvent(QPaintEvent*) {
+    preparer_fonds();
     QPainter peintre(this);
     peintre.fillRect(rect(), palette().color(QPalette::Dark));
     peindre(peintre);
-    peindre_grille(peintre);
+    peintre.drawPixmap(0, 0, fond_grille_);
     peintre.setRenderHint(QPainter::Antialiasing);
     peindre_dessus(peintre);
-    peindre_regles(peintre);
+    const double d = fond_regles_.devicePixelRatio();
+    const QRectF en_haut(0, 0, width(), regle);
+    const QRectF a_gauche(0, 0, regle, height());
+    for (const QRectF& r : {en_haut, a_gauche})
+        peintre.drawPixmap(r, fond_regles_, QRectF(r.topLeft() * d, r.size() * d));
+    peindre_curseur(peintre);
+}
+
+void VueEchelle::preparer_fonds() {
+    const Cadrage voulu{size(),  centre_, echelle_, devicePixelRatioF(),
+                        grille_, palette().cacheKey()};
+    if (voulu == cadrage_)
+        return;
+    cadrage_ = voulu;
+    const auto refaire = [&](QPixmap& fond, void (VueEchelle::*peindre_le)(QPainter&) const) {
+        fond = QPixmap(size() * voulu.densite);
+        fond.setDevicePixelRatio(voulu.densite);
+        fond.fill(Qt::transparent);
+        QPainter peintre(&fond);
+        (this->*peindre_le)(peintre);
+    };
+    refaire(fond_grille_, &VueEchelle::peindre_grille);
+    refaire(fond_regles_, &VueEchelle::peindre_regles);
 }
 
 void VueEchelle::peindre_grille(QPainter& peintre) const {
@@ -162,8 +185,11 @@ void VueEchelle::peindre_regles(QPainter& peintre) const {
     }
     peintre.fillRect(0, 0, regle, regle, p.color(QPalette::Window));
     peintre.drawText(QRect(0, 0, regle, regle), Qt::AlignCenter, "cm");
-    // Where the cursor is.
-    peintre.setPen(QPen(p.color(QPalette::Highlight), 0));
+}
+
+void VueEchelle::peindre_curseur(QPainter& peintre) const {
+    peintre.setRenderHint(QPainter::Antialiasing, false);
+    peintre.setPen(QPen(palette().color(QPalette::Highlight), 0));
     peintre.drawLine(QPointF(dernier_.x(), 0), QPointF(dernier_.x(), regle));
     peintre.drawLine(QPointF(0, dernier_.y()), QPointF(regle, dernier_.y()));
 }

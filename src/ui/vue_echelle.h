@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPixmap>
 #include <QPointF>
 #include <QRectF>
 #include <QWidget>
@@ -55,8 +56,20 @@ protected:
     void keyReleaseEvent(QKeyEvent* evenement) override;
 
 private:
+    /// What the grid and the rulers depend on.
+    struct Cadrage {
+        QSize taille;
+        QPointF centre;
+        double echelle = 0, densite = 0;
+        int grille = 0;
+        qint64 couleurs = 0;
+        bool operator==(const Cadrage&) const = default;
+    };
+
+    void preparer_fonds();
     void peindre_grille(QPainter& peintre) const;
     void peindre_regles(QPainter& peintre) const;
+    void peindre_curseur(QPainter& peintre) const;
     void cadrer();
 
     QPointF centre_{100, 160}; ///< cm, in the middle of the view
@@ -67,4 +80,7 @@ private:
     bool panoramique_ = false;
     bool geste_ = false; ///< the left button is held
     QPointF dernier_;    ///< last position of the cursor (pixels)
+    // Painted once a framing: their many translucent lines cost more than the whole drawing.
+    Cadrage cadrage_;
+    QPixmap fond_grille_, fond_regles_;
 };

@@ -50,19 +50,23 @@ void VueTable::peindre_dessus(QPainter& peintre) {
     const DocumentTable& d = montre();
     peindre_legende(peintre);
     const QColor teinte = palette().color(QPalette::Highlight);
+    peintre.setBrush(Qt::NoBrush);
+    peintre.setPen(QPen(teinte, 2));
     for (const std::size_t i : h_.selection()) {
-        peintre.setBrush(Qt::NoBrush);
-        peintre.setPen(QPen(teinte, 2));
-        if (d[i].cle == "LN")
+        const bool ligne = d[i].cle == "LN";
+        peintre.setRenderHint(QPainter::Antialiasing, ligne); // boxes need none: much faster
+        if (ligne)
             peintre.drawLine(en_pixels(QPointF(d[i].v[0], d[i].v[1])),
                              en_pixels(QPointF(d[i].v[2], d[i].v[3])));
         else if (d[i].cle != "M")
             peintre.drawRect(en_pixels(formes::cadre(d[i])));
+    }
+    peintre.setRenderHint(QPainter::Antialiasing);
+    if (h_.selection().size() == 1) {
         peintre.setPen(QPen(teinte, 1));
         peintre.setBrush(Qt::white);
-        for (const QPointF p : formes::poignees(d[i]))
-            if (h_.selection().size() == 1)
-                peintre.drawRect(QRectF(en_pixels(p) - QPointF(3.5, 3.5), QSizeF(7, 7)));
+        for (const QPointF p : formes::poignees(d[h_.selection().front()]))
+            peintre.drawRect(QRectF(en_pixels(p) - QPointF(3.5, 3.5), QSizeF(7, 7)));
     }
     peintre.setBrush(Qt::NoBrush);
     peintre.setPen(QPen(teinte, 1, Qt::DashLine));
