@@ -22,8 +22,14 @@ public:
     void ecrire_nbre_carreaux(std::string_view) override {}
     void Active_Desactive(bool) override {}
     void apres_actions() override {}
-    void Dessine_Table() override { dessin_.table(e, *this); }
-    void Dessine_Robot() override { dessin_.robots(e, *this); }
+    void Dessine_Table() override {
+        if (!terminee_)
+            dessin_.table(e, *this);
+    }
+    void Dessine_Robot() override {
+        if (!terminee_)
+            dessin_.robots(e, *this);
+    }
     void montrer_course(bool en_cours) override;
     void montrer_logo(bool) override {}
     void fin_du_programme() override { terminee_ = true; }

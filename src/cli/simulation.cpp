@@ -53,8 +53,8 @@ void Simulation::appliquer_options(const ChoixDeLigne& choix) {
     e.PasTemps = e.Options(2) == 1 ? 5 : 1;
     e.NbRobot = std::clamp<int>(e.Options(3), 1, robots_des_fichiers);
     if (e.Options(4) == 1) {
-        e.TableHorizontale = vrai16(true);
         horizontal(e);
+        e.TableHorizontale = vrai16(true);
         disposer();
     }
 }
@@ -73,7 +73,8 @@ void Simulation::disposer() {
 
 void Simulation::jouer(std::int32_t duree) {
     moteur_.Run_Jeu();
-    Progres progres("Simulation", duree);
+    constexpr std::int32_t fin_du_match = 9001;
+    Progres progres("Simulation", std::min(duree, fin_du_match));
     while (f.en_marche() && e.TempsEcoule < duree) {
         if (!moteur_.Timer_Timer())
             break;

@@ -27,7 +27,7 @@ public:
             trace_.ajouter(e);
     }
     void ecrire_Mess(const LigneMess& mess) override {
-        if (garder_etat_)
+        if (garder_etat_ && !terminee())
             etats_.append(mess.texte().vue()) += '\n';
     }
 

@@ -5,7 +5,6 @@
 #include "record/trajet.h"
 #include "sim/orientation.h"
 
-#include <memory>
 #include <utility>
 
 namespace fs = std::filesystem;
@@ -61,11 +60,7 @@ private:
 bool redresser(Etat& e, Ecriture& ecriture, const fs::path& dossier) {
     if (!e.TableHorizontale)
         return false;
-    const auto avant = std::make_unique<Etat>(e);
-    if (ecriture.essayer(dossier, [&] { vertical(e); }))
-        return true;
-    e = *avant;
-    return false;
+    return ecriture.essayer(dossier, [&] { vertical(e); });
 }
 
 bool demander(Etat& e, Fenetres& f, int i, const fs::path& chemin) {

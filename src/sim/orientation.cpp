@@ -1,5 +1,6 @@
 #include "sim/orientation.h"
 
+#include <memory>
 #include <utility>
 
 namespace {
@@ -37,9 +38,7 @@ void tourner_robots(Etat& e, Tourner tourner) {
     }
 }
 
-} // namespace
-
-void horizontal(Etat& e) {
+void vers_horizontale(Etat& e) {
     std::swap(e.XMax, e.YMax);
     ++e.version_table;
     const int H = e.YMax;
@@ -58,12 +57,12 @@ void horizontal(Etat& e) {
     tourner_robots(e, [H](float& x, float& y, float& cap) {
         const float ancien_x = x;
         x = y;
-        y = simple(H - double{static_cast<float>(arrondir16(ancien_x))});
+        y = static_cast<float>(Entier16(H - arrondir16(ancien_x)));
         cap = simple(double{cap} - 90);
     });
 }
 
-void vertical(Etat& e) {
+void vers_verticale(Etat& e) {
     std::swap(e.XMax, e.YMax);
     ++e.version_table;
     const int W = e.XMax;
@@ -85,4 +84,21 @@ void vertical(Etat& e) {
         y = static_cast<float>(arrondir16(ancien_x));
         cap = simple(double{cap} + 90);
     });
+}
+
+// A coordinate that 16 bits cannot hold leaves the state as it was.
+void tourner(Etat& e, void (*comment)(Etat&)) {
+    const auto copie = std::make_unique<Etat>(e);
+    comment(*copie);
+    e = *copie;
+}
+
+} // namespace
+
+void horizontal(Etat& e) {
+    tourner(e, vers_horizontale);
+}
+
+void vertical(Etat& e) {
+    tourner(e, vers_verticale);
 }

@@ -8,6 +8,9 @@
 #include "ui/place.h"
 #include "ui/sim1.h"
 
+#include <QKeyEvent>
+#include <QSignalBlocker>
+
 QSize CaseLibelle::sizeHint() const {
     return fontMetrics().size(Qt::TextShowMnemonic, text()).grownBy({0, 2, 0, 2});
 }
@@ -64,11 +67,14 @@ void FOption::Check2_Click(bool coche) {
 
 void FOption::Check3_Click(bool coche) {
     Etat& e = sim_.etat();
+    try {
+        coche ? horizontal(e) : vertical(e);
+    } catch (const ErreurExecution&) { // nothing is turned: the box says so
+        const QSignalBlocker muet(&Check3);
+        Check3.setChecked(!coche);
+        throw;
+    }
     e.TableHorizontale = vrai16(coche);
-    if (coche)
-        horizontal(e);
-    else
-        vertical(e);
     sim_.Init_Table();
     e.persistant = true;
     sim_.Dessine_Table();
@@ -125,6 +131,11 @@ void FOption::Command4_Click() {
     sim_.SaveGeneral();
     sim_.SauvRobot();
     sim_.terminer(0);
+}
+
+void FOption::keyPressEvent(QKeyEvent* evenement) {
+    if (evenement->key() != Qt::Key_Escape || !sim_.arreter_course())
+        QWidget::keyPressEvent(evenement);
 }
 
 void FOption::connecter() {

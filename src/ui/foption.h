@@ -70,6 +70,9 @@ public:
     QCheckBox utiliDamier;
     QPushButton Command1, Command2, Command5, dessinAire, generer, Aide, Command4;
 
+protected:
+    void keyPressEvent(QKeyEvent* evenement) override;
+
 private:
     void Check1_Click(bool coche);
     void Check2_Click(bool coche);

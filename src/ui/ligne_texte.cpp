@@ -34,14 +34,16 @@ QAccessibleInterface* fabriquer(const QString&, QObject* objet) {
     return ligne != nullptr ? new LigneAccessible(*ligne) : nullptr;
 }
 
-/// Where a status line may go on below.
+/// Where a line may go on below.
 struct Coupes {
-    std::size_t action; ///< its "Action"
-    std::size_t mesure; ///< what follows the action's name
+    std::size_t action; ///< a status line's "Action"
+    std::size_t mesure; ///< what follows the action's name; a sensor line's distances
 };
 
 // Three runs of blanks: at the start, before "Action" and after the action's name.
 Coupes coupes(std::string_view texte) {
+    if (texte.starts_with("Xm="))
+        return {texte.size(), std::min(texte.find("d="), texte.size())};
     std::array<std::size_t, 3> fins{};
     std::size_t fin = 0;
     for (std::size_t& f : fins) {
@@ -53,7 +55,7 @@ Coupes coupes(std::string_view texte) {
 
 } // namespace
 
-LigneTexte::LigneTexte(QWidget* parent) : QWidget(parent) {
+LigneTexte::LigneTexte(Sorte sorte, QWidget* parent) : QWidget(parent), sorte_(sorte) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -73,15 +75,20 @@ QString LigneTexte::texte() const {
 }
 
 int LigneTexte::hauteur(int largeur) const {
-    constexpr std::string_view usuel = "     Durée : 1 mn 30 s     Action 100/100 en cours : "
-                                       "BALISE DRO  -100/100 cm Incidence:359.5 Nbre carreaux:100";
+    constexpr std::string_view etat = "     Durée : 1 mn 30 s     Action 100/100 en cours : "
+                                      "BALISE DRO  -100/100 cm Incidence:359.5 Nbre carreaux:100";
+    constexpr std::string_view capteur = "Xm=100 Ym=300 Xextr=100 Yextr=300d=300 dmin=300 d2=300";
+    const std::string_view usuel = sorte_ == Sorte::etat ? etat : capteur;
     if (largeurs_.entiere == 0) {
         const auto mesurer = [this](std::string_view t) {
             return fontMetrics().horizontalAdvance(texte_qt(t)) + 2 * marge;
         };
         largeurs_ = {mesurer(usuel), mesurer(rogner(usuel.substr(0, coupes(usuel).mesure)))};
     }
-    const int lignes = largeurs_.entiere <= largeur ? 1 : largeurs_.debut <= largeur ? 2 : 3;
+    const int au_plus = sorte_ == Sorte::etat ? rangees_max : 2;
+    const int lignes = std::min(au_plus, largeurs_.entiere <= largeur ? 1
+                                         : largeurs_.debut <= largeur ? 2
+                                                                      : 3);
     const int h = fontMetrics().height() * lignes + 2 * marge_verticale;
     return h + h % 2; // even: the table lies on whole pixels at 150 % as well
 }
@@ -118,7 +125,7 @@ void LigneTexte::ranger() {
     const TexteCourt texte =
         mess != nullptr ? mess->texte() : std::get<LigneInfo>(contenu_).texte();
     const std::string_view t = texte;
-    const int n = mess != nullptr ? rangees_possibles() : 1;
+    const int n = std::min(rangees_possibles(), mess != nullptr ? rangees_max : 2);
     const Coupes c = coupes(t);
     const std::size_t fin_0 = n == 1 ? t.size() : n == 2 ? c.mesure : c.action;
     const std::size_t fin_1 = n == 3 ? c.mesure : t.size();

@@ -11,19 +11,21 @@
 
 /// A line of read-outs that changes with every tick. Unlike a label it keeps the values and makes
 /// the text only when it is painted or when an assistive tool asks for it, and a new text never
-/// re-lays out the window; only the lines
-/// that changed are repainted. Where it is narrow, a status line breaks before "Action" and after
-/// the action's name.
+/// re-lays out the window; only the lines that changed are repainted. Where it is narrow, the
+/// status line breaks before "Action" and after the action's name, the sensor's before the
+/// distances of a beacon search.
 class LigneTexte final : public QWidget {
 public:
-    explicit LigneTexte(QWidget* parent);
+    enum class Sorte { etat, capteur };
+    LigneTexte(Sorte sorte, QWidget* parent);
 
     void ecrire(const LigneMess& valeurs) { changer(valeurs); }
     void ecrire(const LigneInfo& valeurs) { changer(valeurs); }
     void ecrire(std::string_view texte) { changer(std::string(texte)); }
     QString texte() const;
 
-    /// Height (logical pixels) for a width: one to three lines, as the longest usual text asks.
+    /// Height (logical pixels) for a width: one to three lines (the sensor's: two), as the longest
+    /// usual text asks.
     int hauteur(int largeur) const;
 
     /// Tells the assistive tools about this class; once, before the first window.
@@ -51,6 +53,7 @@ private:
         int debut = 0;
     };
 
+    Sorte sorte_;
     Contenu contenu_;
     mutable Largeurs largeurs_;                   ///< measured once for a font
     std::array<TexteCourt, rangees_max> rangees_; ///< what is on the screen, line by line

@@ -13,6 +13,7 @@
 #include "ui/telecommande.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMenu>
 
 Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(int)> terminer)
@@ -20,8 +21,8 @@ Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(
       terminer_(std::move(terminer)),
       projet_(*e, *this, dossier_application),
       moteur_(*e, *this),
-      Mess(this),
-      Info(this),
+      Mess(LigneTexte::Sorte::etat, this),
+      Info(LigneTexte::Sorte::capteur, this),
       Table(*e, *this, this),
       LNom(&Table),
       logo(&Table),
@@ -313,6 +314,24 @@ void Sim1::montrer_logo(bool visible) {
     LNom.setVisible(visible);
 }
 
+bool Sim1::arreter_course() {
+    if (!en_course())
+        return false;
+    garde(*this, [this] {
+        if (!console_ || !console_->arreter_action())
+            moteur_.Fin_Jeu();
+    });
+    return true;
+}
+
+void Sim1::keyPressEvent(QKeyEvent* evenement) {
+    if (evenement->key() != Qt::Key_Escape || !arreter_course())
+        QWidget::keyPressEvent(evenement);
+}
+
+// What the write after the last action could not keep may find room now.
 void Sim1::fin_du_programme() {
+    if (!terminee_)
+        reprise_.ecrire_ou_prevenir(*this);
     terminer(3);
 }

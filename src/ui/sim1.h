@@ -70,6 +70,8 @@ public:
     /// Ends the program; nothing of it runs any more afterwards.
     void terminer(int code_de_sortie);
     bool terminee() const { return terminee_; }
+    /// Escape: ends the console's action, else the run. @returns false when nothing runs
+    bool arreter_course();
     bool en_course() const { return Timer.isActive(); }
 
     Etat& etat() { return *e; }
@@ -95,6 +97,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
     void resizeEvent(QResizeEvent*) override { placer(); }
 
 private:
@@ -103,7 +106,7 @@ private:
     void placer();
     void placer_logo();
     void placer_options();
-    struct MesuresEcran mesures(int largeur_Mess) const;
+    struct MesuresEcran mesures(int largeur_lignes) const;
     void charger_projet();
     void proposer_reprise();
     void Timer_Timer();

@@ -38,7 +38,7 @@ double cote_logo(const Etat& e) {
 
 // The options window's place is no room for the table, whose width is rounded up by XMax / 2 twips
 // at most.
-MesuresEcran Sim1::mesures(int largeur_Mess) const {
+MesuresEcran Sim1::mesures(int largeur_lignes) const {
     const QSize ecran = screen()->availableGeometry().size();
     const QSize bords = cadre(*this);
     const int pour_options = options_.sizeHint().width() + bords.width();
@@ -47,14 +47,14 @@ MesuresEcran Sim1::mesures(int largeur_Mess) const {
             .hauteur_ecran = twips(std::min(ecran.height(), ecran_maximal)),
             .cadre_horizontal = twips(bords.width()),
             .cadre_vertical = twips(bords.height()),
-            .hauteur_Mess = twips(Mess.hauteur(largeur_Mess)),
-            .hauteur_Info = twips(Info.hauteur(ecran_maximal)),
+            .hauteur_Mess = twips(Mess.hauteur(largeur_lignes)),
+            .hauteur_Info = twips(Info.hauteur(largeur_lignes)),
             .largeur_logo = cote_logo(*e),
             .hauteur_logo = cote_logo(*e)};
 }
 
 void Sim1::Init_Table() {
-    // The status line takes two lines where the table is narrow.
+    // The read-outs take more lines where the table is narrow.
     MesuresEcran m = mesures(ecran_maximal);
     m = mesures(pixels(::Init_Table(*e, m).largeur_Table));
     const Disposition d = ::Init_Table(*e, m);
@@ -69,7 +69,7 @@ void Sim1::Init_Table() {
 // The table keeps its proportions whatever size the user gives to the window.
 void Sim1::placer() {
     const int h_Mess = Mess.hauteur(width());
-    const int h_Info = Info.hauteur(ecran_maximal);
+    const int h_Info = Info.hauteur(width());
     Mess.setGeometry(0, 0, width(), h_Mess);
     Info.setGeometry(0, h_Mess, width(), h_Info);
     const int haut = h_Mess + h_Info;

@@ -128,13 +128,16 @@ void Télécommande::annuler() {
 void Télécommande::keyPressEvent(QKeyEvent* evenement) {
     if (evenement->key() != Qt::Key_Escape)
         return QWidget::keyPressEvent(evenement);
-    // First the robot, then the window.
-    garde(sim_, [this] {
-        if (console_.phase() == Console::Phase::action)
-            console_.arreter_action();
-        else
-            Command2_Click();
-    });
+    // First what runs, then the window.
+    if (!sim_.arreter_course())
+        garde(sim_, [this] { Command2_Click(); });
+}
+
+bool Télécommande::arreter_action() {
+    if (console_.phase() != Console::Phase::action)
+        return false;
+    console_.arreter_action();
+    return true;
 }
 
 void Télécommande::showEvent(QShowEvent* evenement) {

@@ -31,6 +31,8 @@ public:
     void Command4_Click(std::size_t k);
     void Command9_Click();
     void Command2_Click();
+    /// Ends the action that the robot is driven through. @returns false when there is none
+    bool arreter_action();
 
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;

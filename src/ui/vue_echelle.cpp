@@ -108,8 +108,8 @@ void VueEchelle::paintEvent(QPaintEvent*) {
 }
 
 void VueEchelle::preparer_fonds() {
-    const Cadrage voulu{size(),  centre_, echelle_, devicePixelRatioF(),
-                        grille_, palette().cacheKey()};
+    const Cadrage voulu{
+        size(), centre_, echelle_, devicePixelRatioF(), grille_, palette().cacheKey()};
     if (voulu == cadrage_)
         return;
     cadrage_ = voulu;

@@ -85,8 +85,12 @@ TEST(Orientation, une_coordonnee_hors_de_16_bits_est_une_erreur) {
     b.e.NbPions = 1;
     b.e.Pions(1).X = -30000;
     EXPECT_THROW(horizontal(b.e), Debordement);
+    EXPECT_EQ(b.e.XMax, 30000) << "nothing is turned";
+    EXPECT_EQ(b.e.Pions(1).X, -30000);
     Banc c;
     c.e.XRobot(3) = 40000;
+    EXPECT_THROW(horizontal(c.e), Debordement);
+    c.e.XRobot(3) = -32700; // H - x
     EXPECT_THROW(horizontal(c.e), Debordement);
 }
 

@@ -92,6 +92,30 @@ TEST_F(Options, vers_le_haut_c_est_plus) {
     }
 }
 
+TEST_F(Options, echap_arrete_la_course_dans_les_deux_fenetres) {
+    demarrer();
+    for (const char* controle : {"Check1", "Command1", "Table"}) {
+        cliquer("Command1");
+        ASSERT_TRUE(sim->en_course());
+        QTest::keyClick(&trouver(controle), Qt::Key_Escape);
+        EXPECT_FALSE(sim->en_course()) << controle;
+        EXPECT_EQ(trouver<QPushButton>("Command1").text(), "Démarrer");
+    }
+    EXPECT_TRUE(sim->options().isVisible());
+}
+
+TEST_F(Options, une_table_qui_ne_tourne_pas_reste_comme_elle_est) {
+    dossier.ecrire("Configuration/Defaut Table.ini", "L,0,0,200,320\r\nPB,-32700,10,5\r\n");
+    demarrer();
+    cocher("Check3", true);
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_EQ(messages[0].find("message: Erreur d'exécution : "), 0U);
+    EXPECT_FALSE(trouver<QCheckBox>("Check3").isChecked());
+    EXPECT_EQ(e().TableHorizontale, 0);
+    EXPECT_EQ(e().XMax, 200);
+    EXPECT_EQ(e().Zones(1).X2, 200);
+}
+
 TEST_F(Options, le_damier_montre_le_compte_des_carreaux) {
     demarrer();
     const auto visibles = [this] {

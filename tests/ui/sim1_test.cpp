@@ -143,7 +143,6 @@ using Fenetre = Banc;
 
 TEST_F(Fenetre, une_erreur_de_procedure_est_montree_et_le_programme_continue) {
     demarrer();
-    e().XMax = 32767;
     e().Zones(1).X1 = -32768;
     e().NbZones = 1;
     cocher("Check3", true); // the turn overflows

@@ -142,7 +142,10 @@ TEST_F(ConsoleFenetre, une_recherche_sans_fin_s_arrete_par_echap_ou_par_arreter)
     bouton("Balise Gauche").click();
     EXPECT_EQ(trouver<QPushButton>("Command1").text(), "Arrêter");
     EXPECT_TRUE(console->isVisible());
-    QTest::keyClick(&trouver("FOption"), Qt::Key_Escape);
+    QTest::keyClick(&trouver("FOption"), Qt::Key_Escape); // the same from every window
+    finir_l_action();
+    EXPECT_TRUE(bouton("Avance").isEnabled());
+    bouton("Balise Droite").click();
     sim->options().Command1.click();
     EXPECT_TRUE(bouton("Avance").isEnabled());
     QTest::keyClick(console, Qt::Key_Escape);
