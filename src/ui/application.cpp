@@ -30,8 +30,10 @@ int executer(const std::filesystem::path& dossier, const std::function<void(Sim1
         QCoreApplication::exit(sortie);
     });
     sim.Form_Load();
-    // After the windows: the icon is a picture to be read.
-    QTimer::singleShot(0, &sim, [] { QApplication::setWindowIcon(QIcon(":/tavolmex.svg")); });
+    // After the windows are painted: the icon is a picture to be read.
+    constexpr int apres_les_fenetres_ms = 20;
+    QTimer::singleShot(apres_les_fenetres_ms, &sim,
+                       [] { QApplication::setWindowIcon(QIcon(":/tavolmex.svg")); });
     if (prete)
         prete(sim);
     return code ? *code : QApplication::exec();

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr int marge = 8; ///< logical pixels around the banner's text
+constexpr int apres_les_fenetres_ms = 20;
 constexpr int drapeaux = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
 
 // Through Qt's SVG plugin, which is loaded only then.
@@ -27,7 +28,7 @@ void Logo::paintEvent(QPaintEvent*) {
     } else if (!attendue_) {
         // The windows first: reading the picture takes longer than painting them.
         attendue_ = true;
-        QTimer::singleShot(0, this, [this] {
+        QTimer::singleShot(apres_les_fenetres_ms, this, [this] {
             attendue_ = false;
             image_ = dessiner(size(), devicePixelRatioF());
             update();
