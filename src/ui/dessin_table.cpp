@@ -67,7 +67,8 @@ void dessinTable::placer() {
     partage->addWidget(&vue_);
     partage->addWidget(colonne);
     partage->setStretchFactor(0, 1);
-    partage->setSizes({640, 250});
+    const int liste = fontMetrics().horizontalAdvance("Zone L (blanc) : 000, 000, 000, 000") + 70;
+    partage->setSizes({900 - liste, liste});
     setCentralWidget(partage);
     position_.setObjectName("position");
     comptes_.setObjectName("comptes");

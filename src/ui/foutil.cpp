@@ -92,6 +92,17 @@ BoutonOutil::BoutonOutil(const Outil& outil, QWidget* parent) : QToolButton(pare
     setCheckable(true);
 }
 
+// The tool in hand is seen at a glance, on a dark screen too.
+void BoutonOutil::paintEvent(QPaintEvent* evenement) {
+    QToolButton::paintEvent(evenement);
+    if (!isChecked())
+        return;
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    p.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 3, 3);
+}
+
 void BoutonOutil::mousePressEvent(QMouseEvent* evenement) {
     prise_ = evenement->pos();
     QToolButton::mousePressEvent(evenement);

@@ -32,6 +32,7 @@ public:
 protected:
     void mousePressEvent(QMouseEvent* evenement) override;
     void mouseMoveEvent(QMouseEvent* evenement) override;
+    void paintEvent(QPaintEvent* evenement) override;
 
 private:
     const Outil& outil_;
