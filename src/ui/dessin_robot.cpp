@@ -67,6 +67,7 @@ void dessinRobot::placer() {
     vues->addWidget(&tourner_);
     auto* onglets = new QTabWidget;
     onglets->setObjectName("onglets");
+    onglets->setAccessibleName("Parties du robot");
     onglets->addTab(contour, "&Contour");
     onglets->addTab(&reglages_, "&Mesures");
     onglets->addTab(depart, "&Départ");
@@ -77,6 +78,7 @@ void dessinRobot::placer() {
     partage->setSizes({600, 280});
     setCentralWidget(partage);
     position_.setObjectName("position");
+    position_.setText("x, y");
     comptes_.setObjectName("comptes");
     statusBar()->addPermanentWidget(&comptes_);
     statusBar()->addPermanentWidget(&position_);

@@ -71,6 +71,7 @@ void dessinTable::placer() {
     partage->setSizes({900 - liste, liste});
     setCentralWidget(partage);
     position_.setObjectName("position");
+    position_.setText("x, y");
     comptes_.setObjectName("comptes");
     comptes_.setTextFormat(Qt::RichText);
     statusBar()->addPermanentWidget(&comptes_);

@@ -67,6 +67,7 @@ void Dialog::nommer() {
     avertissements_.setObjectName("avertissements");
     avertissements_.setAccessibleName("Avertissements");
     titre_apercu_.setObjectName("titre_apercu");
+    titre_apercu_.setText("Aperçu :");
     titre_apercu_.setBuddy(&apercu_);
 }
 

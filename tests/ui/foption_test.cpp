@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QMenu>
+#include <QRadioButton>
 
 namespace {
 
@@ -144,6 +145,12 @@ TEST_F(Options, un_clic_sur_le_libelle_ne_le_coche_pas) {
 TEST_F(Options, chaque_controle_a_un_nom_pour_les_outils_d_assistance) {
     demarrer();
     cocher("utiliDamier", true);
+    for (const char* bouton : {"Command5", "dessinAire", "generer", "Aide"})
+        cliquer(bouton);
+    trouver<QRadioButton>("chx_dessinRobot").setChecked(true);
+    trouver<QPushButton>("Choisir").click();
+    trouver<QPushButton>("visu_gene").click();
+    sim->montrer_options(); // the console hides it
     for (const QWidget* controle : sim->findChildren<QWidget*>()) {
         if (controle->objectName().isEmpty() || controle->objectName().startsWith("qt_") ||
             !controle->isVisible())
