@@ -111,30 +111,28 @@ TEST_F(EditeurTable, chaque_outil_place_son_objet_d_un_clic_et_d_un_trace) {
     trouver<QSpinBox>("longueur").setValue(30);
     trouver<QSpinBox>("incidence").setValue(90);
     struct Cas {
-        const char *outil, *cle, *clic, *trace;
+        std::string outil, cle, clic, trace;
     };
-    for (const Cas& c : {Cas{"outil_L", "L", "L 30 35 50 45", "L 20 20 60 40"},
-                         Cas{"outil_W", "W", "W 30 35 50 45", "W 20 20 60 40"},
-                         Cas{"outil_DC", "DC", "DC 30 35 50 45", "DC 20 20 60 40"},
-                         Cas{"outil_LE", "LE", "LE 30 35 50 45", "LE 20 20 60 40"},
-                         Cas{"outil_BJ", "BJ", "BJ 40 40 7", "BJ 20 40 45"},
-                         Cas{"outil_DR", "DR", "DR 40 40 7", "DR 20 40 45"},
-                         Cas{"outil_X", "X", "X 40 40 7", "X 20 40 45"},
-                         Cas{"outil_Horizontale", "LN", "LN 25 40 55 40", "LN 20 40 60 40"},
-                         Cas{"outil_Verticale", "LN", "LN 40 25 40 55", "LN 20 40 20 20"},
-                         Cas{"outil_Ligne", "LN", "LN 40 25 40 55", "LN 20 40 60 20"}}) {
-        cliquer(c.outil);
+    std::vector<Cas> cas{{"outil_Horizontale", "LN", "LN 25 40 55 40", "LN 20 40 60 40"},
+                         {"outil_Verticale", "LN", "LN 40 25 40 55", "LN 20 40 20 20"},
+                         {"outil_Ligne", "LN", "LN 40 25 40 55", "LN 20 40 60 20"}};
+    for (const std::string cle : {"L", "O", "V", "T", "U", "W", "DC", "LE"})
+        cas.push_back({"outil_" + cle, cle, cle + " 30 35 50 45", cle + " 20 20 60 40"});
+    for (const std::string cle : {"PB", "PN", "BJ", "BB", "DR", "X", "Y"})
+        cas.push_back({"outil_" + cle, cle, cle + " 40 40 7", cle + " 20 40 45"});
+    for (const Cas& c : cas) {
+        cliquer(c.outil.c_str());
         clic(40, 40);
         EXPECT_EQ(dernier(c.cle), c.clic) << c.outil;
         EXPECT_TRUE(trouver<QToolButton>("outil_Selection").isChecked()) << c.outil;
-        cliquer(c.outil);
+        cliquer(c.outil.c_str());
         tirer({20, 40}, {60, 20});
         EXPECT_EQ(dernier(c.cle), c.trace) << c.outil;
     }
     cliquer("outil_M");
     clic(40, 40);
     EXPECT_TRUE(messages.empty());
-    for (int i = 0; i < 20; ++i)
+    for (std::size_t i = 0; i < 2 * cas.size(); ++i)
         commande("annuler");
     EXPECT_EQ(doc().ecrire(), fichier); // the very bytes
 }
