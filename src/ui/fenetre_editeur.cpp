@@ -14,7 +14,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QTimer>
 #include <QUndoStack>
 
 namespace {
@@ -193,10 +192,8 @@ void FenetreEditeur::verifier_disque() {
     std::error_code absent;
     if (chemin_.empty() || !std::filesystem::is_regular_file(chemin_, absent))
         return;
-    if (QApplication::activeModalWidget() != nullptr) {
-        QTimer::singleShot(500, this, [this] { verifier_disque(); }); // one question at a time
-        return;
-    }
+    if (QApplication::activeModalWidget() != nullptr)
+        return veilleur_.remettre(); // one question at a time
     try {
         std::string lus = lire_octets(chemin_);
         if (lus == sur_le_disque_ || lus == refuses_)

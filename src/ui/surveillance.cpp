@@ -24,14 +24,8 @@ bool trajet_non_sauve(const Etat& e) {
 
 } // namespace
 
-Surveillance::Surveillance(Sim1& sim) : sim_(sim) {
-    attente_.setSingleShot(true);
-    attente_.setInterval(attente_ms);
-    const auto attendre = [this] { attente_.start(); };
-    QObject::connect(&veilleur_, &QFileSystemWatcher::fileChanged, &attente_, attendre);
-    QObject::connect(&veilleur_, &QFileSystemWatcher::directoryChanged, &attente_, attendre);
-    QObject::connect(&attente_, &QTimer::timeout, [this] { garde(sim_, [this] { verifier(); }); });
-}
+Surveillance::Surveillance(Sim1& sim)
+    : sim_(sim), veilleur_([this] { garde(sim_, [this] { verifier(); }); }) {}
 
 std::filesystem::path Surveillance::fichier(std::size_t k) const {
     const Projet& projet = sim_.projet();
@@ -75,24 +69,12 @@ void Surveillance::prendre_note_des_trajets() {
     suivre();
 }
 
-// The directory tells of files that come and go, a file of what is written into it; one that was
-// replaced by renaming must be named anew.
+// The directory tells of files that come and go, a file of what is written into it.
 void Surveillance::suivre() {
-    QStringList voulus{texte_qt(sim_.projet().dossier_configuration().string())};
+    std::vector<std::filesystem::path> chemins{sim_.projet().dossier_configuration()};
     for (std::size_t k = 0; k < nombre; ++k)
-        voulus << texte_qt(fichier(k).string());
-    QStringList perdus;
-    for (const QString& chemin : veilleur_.files() + veilleur_.directories())
-        if (!voulus.removeOne(chemin))
-            perdus << chemin;
-    if (!perdus.isEmpty())
-        veilleur_.removePaths(perdus);
-    voulus.removeIf([](const QString& chemin) {
-        struct stat s {};
-        return ::stat(chemin.toUtf8().constData(), &s) != 0;
-    });
-    if (!voulus.isEmpty())
-        veilleur_.addPaths(voulus);
+        chemins.push_back(fichier(k));
+    veilleur_.suivre(std::move(chemins));
 }
 
 std::vector<std::size_t> Surveillance::chercher_changements() {
@@ -103,7 +85,6 @@ std::vector<std::size_t> Surveillance::chercher_changements() {
             changes.push_back(k);
         empreintes_.at(k) = nouvelle;
     }
-    suivre();
     return changes;
 }
 
@@ -111,7 +92,7 @@ void Surveillance::verifier() {
     if (sim_.terminee())
         return;
     if (QApplication::activeModalWidget() != nullptr)
-        return attente_.start(); // one question at a time
+        return veilleur_.remettre(); // one question at a time
     if (projet_ != sim_.etat().NomProjet)
         return prendre_note();
     const std::vector<std::size_t> changes = chercher_changements();

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QFileSystemWatcher>
-#include <QTimer>
+#include "ui/veilleur.h"
 
 #include <array>
 #include <cstddef>
@@ -17,9 +16,6 @@ class Sim1;
 /// question otherwise. A table read again alone leaves robots and trajectories as they are.
 class Surveillance final {
 public:
-    /// From the last sign of a change to the reading: an editor may write a file in several goes.
-    static constexpr int attente_ms = 300;
-
     explicit Surveillance(Sim1& sim);
 
     /// The files as they are now are those that are loaded.
@@ -49,8 +45,7 @@ private:
     std::string noms(const std::vector<std::size_t>& changes) const;
 
     Sim1& sim_;
-    QFileSystemWatcher veilleur_;
-    QTimer attente_;
+    Veilleur veilleur_;
     std::string projet_; ///< whose files the prints are
     std::array<Empreinte, nombre> empreintes_;
 };

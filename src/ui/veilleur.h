@@ -15,10 +15,13 @@ public:
 
     /// Watches these in place of what was watched; those that do not exist are left out.
     void suivre(std::vector<std::filesystem::path> chemins);
+    /// Tells it again a moment later, for whoever cannot attend to it now.
+    void remettre() { attente_.start(); }
+
+    /// From the last sign of a change to the telling: an editor may write a file in several goes.
+    static constexpr int attente_ms = 300;
 
 private:
-    static constexpr int attente_ms = 250;
-
     void abonner();
 
     std::function<void()> au_changement_;

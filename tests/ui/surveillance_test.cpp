@@ -18,7 +18,7 @@ protected:
         std::ofstream(chemin(nom), std::ios::binary) << octets;
     }
     void attendre() {
-        QTest::qWait(2 * Surveillance::attente_ms);
+        QTest::qWait(2 * Veilleur::attente_ms);
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     }
     std::string etat() { return trouver<LigneTexte>("Mess").texte().toStdString(); }
@@ -32,7 +32,7 @@ TEST_F(FichiersChanges, ecrit_remplace_ou_recree_le_fichier_est_relu) {
         [this] { ecrire("Table.ini", "L,0,0,92,50\r\n"); }, // the replaced file is still watched
         [this] {
             std::filesystem::remove(chemin("Table.ini"));
-            QTest::qWait(2 * Surveillance::attente_ms);
+            QTest::qWait(2 * Veilleur::attente_ms);
             EXPECT_EQ(e().XMax, 92);
             ecrire("Table.ini", "L,0,0,93,50\r\n");
         }};
