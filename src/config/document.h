@@ -30,6 +30,8 @@ public:
     const Fiche& operator[](std::size_t i) const { return *entrees_[rangs_[i]].objet; }
     /// Records whose key is one of `cles`.
     int compter(const std::vector<std::string_view>& cles) const;
+    /// The line of a record, from 1.
+    int ligne(std::size_t i) const { return static_cast<int>(rangs_[i]) + 1; }
     /// Lines that count but hold no record, by their number from 1.
     std::vector<int> incomprises() const;
 

@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr std::string_view interdits = "/\\:*?\"<>|";
-constexpr std::size_t octets_max = 250; ///< with ".ini", what file systems accept
+constexpr std::string_view interdits = "/\\:*?\"<>|#"; // "#" begins a comment in the settings
+constexpr std::size_t octets_max = 200; ///< leaves room for the date in a backup's name
 
 bool est_interdit(char c) {
     return interdits.find(c) != std::string_view::npos || static_cast<unsigned char>(c) < 32;
@@ -34,7 +34,7 @@ std::string raison_nom_impossible(std::string_view nom) {
     if (rogner(nom).empty())
         return "Un nom de fichier ne peut pas être vide";
     if (std::any_of(nom.begin(), nom.end(), est_interdit))
-        return "Un nom de fichier ne peut pas contenir / \\ : * ? \" < > |";
+        return "Un nom de fichier ne peut pas contenir / \\ : * ? \" < > | #";
     if (nom.size() > octets_max)
         return "Ce nom de fichier est trop long";
     return "";

@@ -13,6 +13,8 @@ std::vector<std::string> lister_projets(const fs::path& dossier_configuration) {
     for (fs::directory_iterator i(dossier_configuration, erreur), dernier; !erreur && i != dernier;
          i.increment(erreur)) {
         const std::string fichier = i->path().filename().string();
+        if (!est_utf8(fichier)) // such a name would make the settings file unreadable
+            continue;
         const std::string petit = minuscules(fichier); // of the same length
         if (petit.ends_with(fin))
             noms.emplace_back(rogner(std::string_view(fichier).substr(0, petit.find(fin))));

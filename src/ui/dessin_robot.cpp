@@ -253,7 +253,7 @@ void dessinRobot::deplacer(double dx, double dy) {
     for (const std::size_t i : s)
         d.remplacer(i, deplace(d[i], dx, dy));
     if (!s.empty())
-        historique_.changer("Déplacer", std::move(d), s);
+        historique_.changer("Déplacer", std::move(d), s, fusion_des_pas);
 }
 
 void dessinRobot::changer_segment(std::size_t champ, double valeur) {

@@ -116,6 +116,18 @@ void dessinTable::preparer_alignement() {
         action(m, c.nom, c.texte, {}, [this, bord = c.bord] { aligner(bord); });
 }
 
+// Some of what the reader accepts stops the drawing: an ellipse without width, a border beyond 16
+// bits.
+std::optional<RefusLecture> dessinTable::relire(const std::string& octets) const {
+    if (const auto refus = DocumentTable::relire(octets))
+        return refus;
+    const DocumentTable d = DocumentTable::depuis(octets);
+    for (std::size_t i = 0; i < d.nombre(); ++i)
+        if (d[i].cle != "M" && DocumentTable::normaliser(d[i]) != d[i])
+            return RefusLecture{d.ligne(i), "une mesure qu'il ne peut pas dessiner"};
+    return std::nullopt;
+}
+
 std::vector<int> dessinTable::lire(const std::string& octets) {
     historique_.repartir(DocumentTable::depuis(octets));
     return historique_.doc().incomprises();
@@ -279,7 +291,7 @@ void dessinTable::deplacer(double dx, double dy) {
         return;
     for (const std::size_t i : historique_.selection())
         d.remplacer(i, formes::deplacee(d[i], ecart.x(), ecart.y()));
-    historique_.changer("Déplacer", std::move(d), historique_.selection());
+    historique_.changer("Déplacer", std::move(d), historique_.selection(), fusion_des_pas);
 }
 
 void dessinTable::changer_plan(bool vers_l_avant) {
@@ -373,8 +385,7 @@ void dessinTable::changer_legende() {
         for (std::size_t& j : s)
             j += j >= place ? 1 : 0;
     }
-    constexpr int frappe = 1; // what is typed in a row is one step
-    historique_.changer("Changer la légende", std::move(d), s, frappe);
+    historique_.changer("Changer la légende", std::move(d), s, fusion_des_frappes);
 }
 
 void dessinTable::choisir_dans_la_liste() {

@@ -24,9 +24,7 @@ protected:
     void commencer() override { historique_.repartir(DocumentTable::nouveau()); }
     std::vector<int> lire(const std::string& octets) override;
     std::string octets() const override { return historique_.doc().ecrire(); }
-    std::optional<RefusLecture> relire(const std::string& octets) const override {
-        return DocumentTable::relire(octets);
-    }
+    std::optional<RefusLecture> relire(const std::string& octets) const override;
     void retirer() override;
     void dupliquer() override;
     void tout_choisir() override;

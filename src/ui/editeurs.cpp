@@ -1,5 +1,6 @@
 #include "ui/editeurs.h"
 
+#include "ui/garde.h"
 #include "ui/place.h"
 #include "ui/sim1.h"
 
@@ -19,7 +20,7 @@ void charger_projet(Sim1& sim, const std::string& projet) {
 
 FenetreEditeur::Programme programme(Sim1& sim) {
     return {sim.projet().dossier_configuration(),
-            [&sim](const std::string& projet) { charger_projet(sim, projet); },
+            [&sim](const std::string& projet) { garde(sim, [&] { charger_projet(sim, projet); }); },
             [&sim] { sim.fichiers_ecrits(); }};
 }
 

@@ -240,7 +240,7 @@ bool FenetreEditeur::genererFic(const std::filesystem::path& chemin) {
         if (!peut_remplacer(chemin))
             return false;
         ecrire(chemin, texte);
-    } catch (const ErreurExecution& erreur) {
+    } catch (const std::exception& erreur) { // the drawing stays, whatever the disk says
         boites_.message(erreur.what());
         return false;
     }
@@ -249,7 +249,10 @@ bool FenetreEditeur::genererFic(const std::filesystem::path& chemin) {
 }
 
 void FenetreEditeur::ecrire(const std::filesystem::path& chemin, const std::string& octets) {
-    std::filesystem::create_directories(programme_.configuration);
+    std::error_code erreur;
+    std::filesystem::create_directories(programme_.configuration, erreur);
+    if (erreur)
+        throw ErreurFichier(programme_.configuration, erreur.value());
     sauvegarder_version(chemin, programme_.configuration / "Sauvegardes");
     remplacer_fichier(chemin, octets);
     if (programme_.ecrit)
@@ -279,7 +282,7 @@ bool FenetreEditeur::enregistrer() {
 
 bool FenetreEditeur::enregistrer_sous() {
     const bool table = genre_ == GenreFichier::table;
-    (table ? outils_.chx_dessinTable : outils_.chx_dessinRobot).setChecked(true);
+    outils_.suivre(!table); // the dialog writes what the palette says
     nouveauProjet dialogue(this, outils_, programme_.configuration);
     (table ? dialogue.table : dialogue.robot) = [this](const std::filesystem::path& chemin) {
         return genererFic(chemin);

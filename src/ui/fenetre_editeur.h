@@ -60,6 +60,9 @@ protected:
     void closeEvent(QCloseEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
 
+    // What is typed in a row, and the arrow keys' movements in a row, are one step.
+    static constexpr int fusion_des_frappes = 1, fusion_des_pas = 2;
+
     Foutil& outils_;
     Boites boites_{*this};
 

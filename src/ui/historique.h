@@ -4,35 +4,36 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <utility>
 #include <vector>
 
 /// Records chosen in an editor, by their index in the document, in increasing order.
 using Selection = std::vector<std::size_t>;
 
-/// A document under edit with its named steps. A step keeps the whole document before and after it:
-/// undoing gives back the very bytes.
+/// A document under edit with its named steps, as many as there are. A step keeps the whole
+/// document before and after it: undoing gives back the very bytes.
 template <typename Doc>
 class Historique {
 public:
     /// @param au_changement  called after every change of the document or the selection
     explicit Historique(std::function<void()> au_changement)
-        : au_changement_(std::move(au_changement)) {
-        pile.setUndoLimit(500);
-    }
+        : au_changement_(std::move(au_changement)) {}
 
-    const Doc& doc() const { return etat_.doc; }
+    const Doc& doc() const { return *etat_.doc; }
     const Selection& selection() const { return etat_.selection; }
 
     /// Another document: its steps start anew.
     void repartir(Doc doc) {
-        etat_ = {std::move(doc), {}};
+        etat_ = {std::make_shared<const Doc>(std::move(doc)), {}};
         pile.clear();
         au_changement_();
     }
-    /// One more step. @param fusion  steps of the same number (above 0) in a row are one step
+    /// One more step. @param fusion  steps of the same number (above 0) in a row, with the same
+    ///                                selection, are one step
     void changer(const QString& nom, Doc doc, const Selection& selection, int fusion = -1) {
-        pile.push(new Pas(*this, nom, {std::move(doc), selection}, fusion));
+        pile.push(
+            new Pas(*this, nom, {std::make_shared<const Doc>(std::move(doc)), selection}, fusion));
     }
     void choisir(const Selection& selection) {
         etat_.selection = selection;
@@ -43,7 +44,7 @@ public:
 
 private:
     struct Etat {
-        Doc doc;
+        std::shared_ptr<const Doc> doc = std::make_shared<const Doc>(); ///< shared by its steps
         Selection selection;
     };
 
@@ -59,7 +60,10 @@ private:
         void redo() override { h_.montrer(apres_); }
         int id() const override { return fusion_; }
         bool mergeWith(const QUndoCommand* autre) override {
-            apres_ = static_cast<const Pas*>(autre)->apres_; // same id: a step of ours
+            const auto& suite = static_cast<const Pas&>(*autre); // same id: a step of ours
+            if (suite.avant_.selection != apres_.selection)
+                return false;
+            apres_ = suite.apres_;
             return true;
         }
 

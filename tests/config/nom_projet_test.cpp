@@ -22,6 +22,7 @@ TEST(NomProjet, ce_qui_serait_liste_et_ce_qui_est_propose) {
         {"", table, "", "Projet Table", false},
         {"  ", robot, "", "Projet Robot1", false},
         {"a/b\\c Table", table, "", "abc Table", false},
+        {"n#2 Table", table, "", "n2 Table", false},
         {std::string("a\0b", 3), table, "", "ab Table", false},
         {"Essai Robot9", robot, "Essai", "Essai Robot9"},
         {"Essai Robot0", robot, "", "Essai Robot0 Robot1"},

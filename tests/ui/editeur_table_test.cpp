@@ -279,6 +279,51 @@ TEST_F(EditeurTable, un_fichier_change_ailleurs_est_relu_sans_perdre_le_dessin) 
     EXPECT_EQ(messages.size(), 1U) << "asked once";
 }
 
+TEST_F(EditeurTable, un_disque_qui_refuse_ne_coute_pas_le_dessin) {
+    commande("nouveau");
+    cliquer("outil_L");
+    clic(50, 50);
+    std::filesystem::remove_all(dossier / "Configuration");
+    dossier.ecrire("Configuration", "a file in the directory's place");
+    messages.clear();
+    noms = {"Un Table"};
+    QTimer::singleShot(200, [] { // it stays open: the name may be changed
+        if (auto* dialogue = dynamic_cast<QDialog*>(QApplication::activeModalWidget()))
+            dialogue->reject();
+    });
+    commande("enregistrer");
+    ASSERT_FALSE(messages.empty());
+    EXPECT_NE(messages[0].find("Configuration"), std::string::npos) << messages[0];
+    EXPECT_TRUE(editeur().isWindowModified());
+    reponses_fichier = {QMessageBox::Save};
+    editeur().close();
+    EXPECT_TRUE(editeur().isVisible());
+    EXPECT_EQ(doc().compter({"L"}), 1);
+}
+
+TEST_F(EditeurTable, ce_que_le_simulateur_ne_dessinerait_pas_est_dit_avant_d_ecrire) {
+    ouvrir("L,0,0,90,90\nLE,50,20,50,60\n"); // the reader takes it, the drawing stops
+    tirer({20, 20}, {30, 20});
+    messages.clear();
+    commande("enregistrer");
+    ASSERT_EQ(messages.size(), 1U); // "Non"
+    EXPECT_NE(messages[0].find("refusera ce fichier à la ligne 2"), std::string::npos);
+}
+
+TEST_F(EditeurTable, des_pas_a_la_suite_s_annulent_ensemble) {
+    ouvrir();
+    clic(50, 50);
+    for (int i = 0; i < 600; ++i)
+        commande(i % 2 == 0 ? "pas_haut_10" : "pas_bas_1");
+    EXPECT_EQ(dernier("PB"), "PB 50 2750 5");
+    clic(30, 80);
+    commande("pas_haut_1");
+    commande("annuler");
+    EXPECT_EQ(dernier("PB"), "PB 50 2750 5") << "another object, another step";
+    commande("annuler");
+    EXPECT_EQ(doc().ecrire(), fichier);
+}
+
 TEST_F(EditeurTable, nouveau_projet_explique_et_corrige_les_noms) {
     struct Cas {
         const char *nom, *ecrit, *avis;
