@@ -119,7 +119,7 @@ void dessinTable::preparer_alignement() {
 // Some of what the reader accepts stops the drawing: an ellipse without width, a border beyond 16
 // bits.
 std::optional<RefusLecture> dessinTable::relire(const std::string& octets) const {
-    if (const auto refus = DocumentTable::relire(octets))
+    if (auto refus = DocumentTable::relire(octets))
         return refus;
     const DocumentTable d = DocumentTable::depuis(octets);
     for (std::size_t i = 0; i < d.nombre(); ++i)
