@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <cstdlib>
 #include <filesystem>
 #include <memory>
 
@@ -110,7 +111,7 @@ Lignes valeurs(const Etat& e, int n) {
 /// Moves every robot by a step and a degree. @returns what the lines show of it
 Lignes bouger(Etat& e, int n) {
     for (int i = 1; i <= e.NbRobot; ++i) {
-        e.XRobot(i) = static_cast<float>(100 + (n + 20 * i) % 60);
+        e.XRobot(i) = static_cast<float>(100 + std::abs((n + 20 * i) % 120 - 60)); // to and fro
         e.CapRobot(i) = static_cast<float>(n % 360);
     }
     return valeurs(e, n);

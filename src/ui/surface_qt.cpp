@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <utility>
 
 namespace {
 
@@ -34,6 +35,13 @@ SurfaceQt::SurfaceQt(QPainter& peintre, QSizeF taille)
     peintre_.setRenderHint(QPainter::Antialiasing);
 }
 
+// Boxes lie on whole pixels. Smoothed all the same they would be filled row by row, in a pool of
+// threads.
+void SurfaceQt::lisser(bool oui) {
+    if (std::exchange(lisse_, oui) != oui)
+        peintre_.setRenderHint(QPainter::Antialiasing, oui);
+}
+
 void SurfaceQt::coordonnees(double gauche, double haut, double droite, double bas) {
     repere_.regler(taille_, gauche, haut, droite, bas);
 }
@@ -49,6 +57,7 @@ void SurfaceQt::epaisseur(Entier16 pixels) {
 }
 
 void SurfaceQt::boite_pleine(double x1, double y1, double x2, double y2) {
+    lisser(false);
     peintre_.fillRect(sur_les_pixels(repere_.boite(x1, y1, x2, y2)), couleur_qt(trait_));
 }
 
@@ -117,6 +126,7 @@ double SurfaceQt::au_milieu_du_pixel(double valeur) const {
 }
 
 void SurfaceQt::choisir_trait(Couleur couleur) {
+    lisser(true);
     if (trait_a_jour_ && couleur == trait_du_peintre_)
         return;
     peintre_.setPen(QPen(couleur_qt(couleur), epaisseur_, pointille_ ? Qt::DotLine : Qt::SolidLine,

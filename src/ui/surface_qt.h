@@ -53,6 +53,7 @@ private:
     double au_milieu_du_pixel(double valeur) const;
     void choisir_trait(Couleur couleur);
     void choisir_fond();
+    void lisser(bool oui);
 
     QPainter& peintre_;
     QSizeF taille_;
@@ -61,6 +62,7 @@ private:
     Couleur trait_, fond_;
     Couleur trait_du_peintre_;
     bool trait_a_jour_ = false;
+    bool lisse_ = true;
     bool plein_ = true;
     bool pointille_ = false;
     int epaisseur_ = 1;
