@@ -40,9 +40,10 @@ Generation generer(const Demande& demande, const fs::path& sauvegardes, const Re
     if (generation.depart_reecrit)
         sauvegarder(demande.depart, sauvegardes, generation);
     sauvegarder(cible, sauvegardes, generation);
+    // The hand-written program last: a target that cannot be written leaves it untouched.
+    remplacer_fichier(cible, c.cible);
     if (generation.depart_reecrit)
         remplacer_fichier(demande.depart, c.depart);
-    remplacer_fichier(cible, c.cible);
     if (!c.erreur.empty())
         throw GenerationInterrompue(c.erreur, std::move(generation));
     return generation;

@@ -66,6 +66,7 @@ void Console::tele_action(Entier16 I, const std::string& action, Entier16 p1, En
     e.Param2EnCours(I) = p2;
     e.Progression(I) = 0;
     e.RobotTele = I;
+    Set_Sauv_Robot(e, I); // again: it may have been saved since the recording began
     // What is recorded goes into the recovery file even if the rest of it is refused.
     try {
         ajouter_au_trajet(I, p1, p2);
@@ -117,8 +118,9 @@ void Console::remplir_TableauAGenerer(const std::string& action) {
         (connue->utilise_Text1() ? p2 : p1) = Text4();
     ajouter_ligne(connue->code, p1, p2);
     if (connue->compte_carreaux && e.utiliDamier) {
-        const TexteCourt nbre_carreaux = texte_entier(e.NbreCarreaux);
-        ajouter_ligne(Code::carreaux, lire_champ_octet({"Nbre Carreaux", nbre_carreaux}), 0);
+        const std::string nombre =
+            nbre_carreaux ? nbre_carreaux() : std::string(texte_entier(e.NbreCarreaux).vue());
+        ajouter_ligne(Code::carreaux, lire_champ_octet({"Nbre Carreaux", nombre}), 0);
     }
 }
 
@@ -158,6 +160,7 @@ void Console::annuler() {
     etapes_.pop_back();
     f.regler_Timer(0);
     derniere.avant.retablir(e, moteur_, f);
+    Set_Sauv_Robot(e, robot_);
     if (reprise_ != nullptr)
         reprise_->ecrire_ou_prevenir(f);
 }

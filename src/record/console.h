@@ -5,6 +5,7 @@
 #include "record/pose.h"
 #include "record/reprise.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,9 @@ public:
     /// @param reprise  receives what was recorded after each action; may be null
     Console(Etat& etat, Fenetres& fenetres, Moteur& moteur, Reprise* reprise = nullptr)
         : e(etat), f(fenetres), moteur_(moteur), reprise_(reprise) {}
+
+    /// The text of the tile count's box, which a code-12 row keeps; without it the count itself.
+    std::function<std::string()> nbre_carreaux;
 
     Phase phase() const { return phase_; }
     Entier16 robot() const { return robot_; }

@@ -171,6 +171,7 @@ void Dialog::visu_gene_Click() {
 }
 
 void Dialog::Fermer_Click() {
+    retenir_dossiers();
     hide();
     sim_.montrer_options();
 }

@@ -92,6 +92,7 @@ void FOption::VScroll1_Change(int valeur) {
 
 void FOption::NbRO_Change() {
     sim_.etat().NbRobot = lire_entier16(NbRO.text().toStdString());
+    sim_.robots_changes();
     sim_.Dessine_Table();
     sim_.Dessine_Robot();
     modifie = true;

@@ -137,6 +137,11 @@ void Sim1::recommencer_console() {
         console_->recommencer();
 }
 
+void Sim1::robots_changes() {
+    if (console_)
+        console_->suivre_nombre_de_robots();
+}
+
 void Sim1::fichiers_ecrits() {
     surveillance_->prendre_note();
 }

@@ -57,6 +57,8 @@ public:
     void redessiner();
     /// The console, if there is one, ends its recording and reads the robot's pose again.
     void recommencer_console();
+    /// The number of robots has changed: the console offers as many.
+    void robots_changes();
     /// The program itself has just written files of the project: they are no news.
     void fichiers_ecrits();
     /// Opens the manual at the page of a window.

@@ -36,6 +36,7 @@ Télécommande::Télécommande(Sim1& sim, Reprise& reprise)
     placer();
     connecter();
     connecter_touches();
+    console_.nbre_carreaux = [this] { return sim_.options().nbre_carreaux.text().toStdString(); };
     VScroll1_Change();
     actualiser();
     retenir_place(*this);
@@ -61,14 +62,20 @@ void Télécommande::Debut_Fin_Enr(bool Status) {
 }
 
 void Télécommande::actualiser() {
-    const QWidget* avant = focusWidget();
+    QWidget* const clavier = focusWidget();
     Debut_Fin_Enr(console_.phase() == Console::Phase::arret);
     annuler_.setEnabled(console_.annulation_possible());
     actualiser_liste();
-    // The button just pressed is disabled while its action plays; the keyboard comes back to it.
-    if (avant != nullptr && console_.phase() == Console::Phase::repos && avant == bouton_presse_ &&
-        isActiveWindow())
-        bouton_presse_->setFocus();
+    // What has the keyboard is disabled while an action plays, and Qt passes the keyboard on. It
+    // comes back unless the user has taken it elsewhere meanwhile.
+    if (console_.phase() == Console::Phase::action && clavier != nullptr && !clavier->isEnabled()) {
+        clavier_avant_ = clavier;
+        clavier_passe_ = focusWidget();
+    } else if (console_.phase() == Console::Phase::repos && clavier_avant_ != nullptr) {
+        if (focusWidget() == clavier_passe_)
+            clavier_avant_->setFocus();
+        clavier_avant_ = clavier_passe_ = nullptr;
+    }
 }
 
 void Télécommande::actualiser_liste() {
@@ -95,8 +102,8 @@ void Télécommande::recommencer() {
 }
 
 void Télécommande::VScroll1_Change() {
-    NbRO.setText(QString::number(VScroll1.value()));
     const ChampsPose pose = console_.VScroll1_Change(VScroll1.value());
+    NbRO.setText(QString::number(console_.robot()));
     TextA.setText(texte_qt(pose.TextA));
     TextX.setText(texte_qt(pose.TextX));
     TextY.setText(texte_qt(pose.TextY));
@@ -104,7 +111,6 @@ void Télécommande::VScroll1_Change() {
 
 void Télécommande::Command4_Click(std::size_t k) {
     const ALaFin fin([this] { actualiser(); });
-    bouton_presse_ = &Command4.at(k);
     console_.Command4_Click(actions_console.at(k).legende, Text1.text().toStdString(),
                             Text4.text().toStdString());
 }
@@ -113,6 +119,7 @@ void Télécommande::Command9_Click() {
     const ALaFin fin([this] { actualiser(); });
     console_.Command9_Click(
         {TextX.text().toStdString(), TextY.text().toStdString(), TextA.text().toStdString()});
+    suivre_nombre_de_robots();
 }
 
 void Télécommande::Command2_Click() {
@@ -141,10 +148,14 @@ bool Télécommande::arreter_action() {
 }
 
 void Télécommande::showEvent(QShowEvent* evenement) {
-    VScroll1.setMaximum(sim_.etat().NbRobot);
-    if (console_.phase() == Console::Phase::arret)
-        garde(sim_, [this] { VScroll1_Change(); });
+    suivre_nombre_de_robots();
     QWidget::showEvent(evenement);
+}
+
+// Not while recording: the robot that is driven stays the one that is shown.
+void Télécommande::suivre_nombre_de_robots() {
+    if (console_.phase() == Console::Phase::arret)
+        VScroll1.setMaximum(sim_.etat().NbRobot);
 }
 
 bool Télécommande::eventFilter(QObject* objet, QEvent* evenement) {

@@ -31,6 +31,8 @@ public:
     void Command4_Click(std::size_t k);
     void Command9_Click();
     void Command2_Click();
+    /// There are more or fewer robots to choose from.
+    void suivre_nombre_de_robots();
     /// Ends the action that the robot is driven through. @returns false when there is none
     bool arreter_action();
 
@@ -87,5 +89,6 @@ private:
     QPushButton annuler_;
     QListWidget liste_;
     QLabel total_;
-    QPushButton* bouton_presse_ = nullptr; ///< whose action plays or played last
+    QWidget* clavier_avant_ = nullptr; ///< what had the keyboard before the present action
+    QWidget* clavier_passe_ = nullptr; ///< what Qt gave it to then
 };

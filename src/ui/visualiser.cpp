@@ -151,6 +151,8 @@ void Visualiser::relire() {
     const int rang = LFonc.currentRow();
     const QString choisie = rang < 0 ? QString() : LFonc.item(rang)->text();
     const int defilement = Visu.verticalScrollBar()->value();
+    chemin_suivi_.clear(); // rows of the former list
+    retour_.setEnabled(false);
     LFonc.blockSignals(true);
     LFonc.clear();
     lire();

@@ -169,4 +169,46 @@ TEST_F(ConsoleFenetre, ce_qui_n_est_pas_sauve_est_propose_au_prochain_depart) {
     EXPECT_EQ(dans_console<QLineEdit>("TextX").text(), "70");
 }
 
+// Saved in the middle of a recording: what comes after it is offered again.
+TEST_F(ConsoleFenetre, ce_qui_suit_une_sauvegarde_n_est_pas_perdu) {
+    ouvrir();
+    commencer();
+    jouer("Avance");
+    reponses = {true};
+    sim->SauvRobot();
+    EXPECT_FALSE(e().TrajetModifie(1));
+    const auto reprise = dossier / "Configuration/Defaut Reprise.ini";
+    EXPECT_FALSE(std::filesystem::exists(reprise));
+    for (const char* geste : {"Recule", "annuler"}) {
+        if (std::string_view(geste) == "annuler")
+            dans_console<QPushButton>(geste).click();
+        else
+            jouer(geste);
+        EXPECT_TRUE(e().TrajetModifie(1)) << geste;
+        EXPECT_TRUE(std::filesystem::exists(reprise)) << geste;
+        e().TrajetModifie(1) = false;
+    }
+}
+
+TEST_F(ConsoleFenetre, le_clavier_revient_apres_l_action_et_la_pose_tapee_reste) {
+    ouvrir();
+    saisir("TextX", "77");
+    console->hide();
+    ouvrir();
+    EXPECT_EQ(dans_console<QLineEdit>("TextX").text(), "77");
+    commencer();
+    for (QWidget* controle : {static_cast<QWidget*>(&bouton("Avance")), &dans_console("Text1")}) {
+        controle->setFocus();
+        jouer("Avance");
+        EXPECT_EQ(console->focusWidget(), controle);
+    }
+    // A tile count that the user has corrected is what is recorded.
+    cocher("utiliDamier", true);
+    trouver<QLineEdit>("nbre_carreaux").setText("7");
+    jouer("Balise Droite");
+    const int n = e().nb_a_generer;
+    EXPECT_EQ(e().TableauAGenerer(n - 1, 0), 12);
+    EXPECT_EQ(e().TableauAGenerer(n - 1, 1), 7);
+}
+
 } // namespace
