@@ -11,7 +11,7 @@ void FenetresTerminal::message(std::string_view texte, std::string_view) {
     ++nb_messages_;
 }
 
-bool FenetresTerminal::question(std::string_view texte) {
+bool FenetresTerminal::question(std::string_view texte, std::string_view) {
     message(texte);
     return false;
 }

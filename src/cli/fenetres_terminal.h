@@ -13,7 +13,7 @@ public:
     virtual ~FenetresTerminal() = default;
 
     void message(std::string_view texte, std::string_view explication = {}) override;
-    bool question(std::string_view texte) override;
+    bool question(std::string_view texte, std::string_view explication = {}) override;
     void regler_Timer(Entier16 ms) override { intervalle_ = ms; }
     void ecrire_Mess(const LigneMess&) override {}
     void ecrire_texte_Mess(std::string_view) override {}

@@ -29,11 +29,13 @@ public:
     void suivre(Console& console) { console_ = &console; }
     bool interactif() const { return ::isatty(STDIN_FILENO) != 0; }
 
-    bool question(std::string_view texte) override {
+    bool question(std::string_view texte, std::string_view explication = {}) override {
         FenetresTerminal::message(texte);
         if (!reponse_.empty() || !interactif())
             return reponse_ == "oui";
         std::string reponse;
+        if (!explication.empty())
+            std::cerr << explication << '\n';
         std::cerr << "(oui/non) ? " << std::flush;
         std::cin.clear(); // after the commands' end-of-file key, a terminal still answers
         std::clearerr(stdin);

@@ -12,8 +12,9 @@ public:
     /// Message box with an OK button; returns once it is closed. `explication` says more where
     /// there is more to say; a window shows it beneath the text, the command line leaves it out.
     virtual void message(std::string_view texte, std::string_view explication = {}) = 0;
-    /// Message box with Yes and No buttons; true = Yes.
-    virtual bool question(std::string_view texte) = 0;
+    /// Message box with Yes and No buttons; true = Yes. `explication` says what the answers lead
+    /// to; a window shows it beneath the question, the command line behind it.
+    virtual bool question(std::string_view texte, std::string_view explication = {}) = 0;
     /// The simulation clock, in milliseconds; 0 = stopped.
     virtual void regler_Timer(Entier16 ms) = 0;
     /// The status line and the sensor read-out. The values come, not the text: it is made only when

@@ -1,5 +1,7 @@
 #include "ui/boites.h"
 
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -24,6 +26,22 @@ void preparer(QMessageBox& boite, const char* nom, std::string_view texte) {
     boite.setText(texte_qt(texte));
 }
 
+// Only its buttons answer: what closes the box otherwise decides nothing.
+class BoiteOuiNon final : public QMessageBox {
+public:
+    explicit BoiteOuiNon(QWidget* fenetre) : QMessageBox(fenetre) {
+        setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    }
+    void reject() override {}
+
+protected:
+    void closeEvent(QCloseEvent* evenement) override { evenement->ignore(); }
+    void keyPressEvent(QKeyEvent* evenement) override {
+        if (!evenement->matches(QKeySequence::Cancel))
+            QMessageBox::keyPressEvent(evenement);
+    }
+};
+
 } // namespace
 
 void Boites::message(std::string_view texte, std::string_view explication) {
@@ -36,14 +54,14 @@ void Boites::message(std::string_view texte, std::string_view explication) {
     boite.exec();
 }
 
-bool Boites::question(std::string_view texte) {
+bool Boites::question(std::string_view texte, std::string_view explication) {
     const Ouverture ouverture(ouvertes_);
-    QMessageBox boite(&fenetre_);
+    BoiteOuiNon boite(&fenetre_);
     preparer(boite, "question", texte);
+    boite.setInformativeText(texte_qt(explication));
     boite.setIcon(QMessageBox::Question);
     boite.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     boite.setDefaultButton(QMessageBox::Yes);
-    boite.setEscapeButton(QMessageBox::No);
     boite.button(QMessageBox::Yes)->setText("Oui");
     boite.button(QMessageBox::No)->setText("Non");
     return boite.exec() == QMessageBox::Yes;

@@ -14,8 +14,10 @@ public:
 
     /// A box with an OK button; returns once it is closed.
     void message(std::string_view texte, std::string_view explication = {});
-    /// A box with "Oui" and "Non"; closing it otherwise means "Non". @returns true for "Oui"
-    bool question(std::string_view texte);
+    /// A box with "Oui" and "Non", which alone answer: Escape and the frame do nothing.
+    /// @param explication  what the answers lead to, beneath the question
+    /// @returns true for "Oui"
+    bool question(std::string_view texte, std::string_view explication = {});
     bool ouverte() const { return ouvertes_ > 0; }
 
 private:

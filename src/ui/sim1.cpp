@@ -283,9 +283,9 @@ void Sim1::message(std::string_view texte, std::string_view explication) {
     boites_.message(texte, explication);
 }
 
-bool Sim1::question(std::string_view texte) {
+bool Sim1::question(std::string_view texte, std::string_view explication) {
     show();
-    return boites_.question(texte);
+    return boites_.question(texte, explication);
 }
 
 void Sim1::regler_Timer(Entier16 ms) {

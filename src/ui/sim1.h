@@ -82,7 +82,7 @@ public:
     FOption& options() { return options_; }
 
     void message(std::string_view texte, std::string_view explication = {}) override;
-    bool question(std::string_view texte) override;
+    bool question(std::string_view texte, std::string_view explication = {}) override;
     void regler_Timer(Entier16 ms) override;
     void ecrire_Mess(const LigneMess& mess) override { Mess.ecrire(mess); }
     void ecrire_texte_Mess(std::string_view texte) override { Mess.ecrire(texte); }

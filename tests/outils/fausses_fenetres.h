@@ -24,7 +24,7 @@ public:
         messages.emplace_back(texte);
         noter("message", texte);
     }
-    bool question(std::string_view texte) override {
+    bool question(std::string_view texte, std::string_view = {}) override {
         noter("question", texte);
         if (reponses.empty())
             return false;

@@ -32,7 +32,7 @@ using Appels = std::vector<std::string>;
 class FenetresMuettes final : public Fenetres {
 public:
     void message(std::string_view, std::string_view) override {}
-    bool question(std::string_view) override { return false; }
+    bool question(std::string_view, std::string_view) override { return false; }
     void regler_Timer(Entier16) override {}
     void ecrire_Mess(const LigneMess&) override {}
     void ecrire_texte_Mess(std::string_view) override {}

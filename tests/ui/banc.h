@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -47,7 +48,8 @@ protected:
     DossierTemporaire dossier;
     std::vector<std::string> messages; ///< "message: text" or "question: text"
     std::deque<bool> reponses;
-    std::vector<int> fins; ///< exit codes asked for
+    std::function<void(QMessageBox&)> avant_de_repondre; ///< sees each box before its answer
+    std::vector<int> fins;                               ///< exit codes asked for
     std::unique_ptr<Sim1> sim;
 
 private:
@@ -55,6 +57,8 @@ private:
         auto* boite = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (boite == nullptr || boite->objectName() == "enregistrer") // its tests answer it
             return;
+        if (avant_de_repondre)
+            avant_de_repondre(*boite);
         messages.push_back((boite->objectName() + ": " + boite->text()).toStdString());
         bool oui = false;
         if (!reponses.empty()) {

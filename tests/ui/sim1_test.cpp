@@ -160,6 +160,19 @@ TEST_F(Fenetre, les_questions_se_repondent_par_oui_ou_non) {
                                                   "question: Et là ?"}));
 }
 
+TEST_F(Fenetre, echap_et_le_cadre_ne_repondent_a_aucune_question) {
+    demarrer();
+    bool restee = false;
+    reponses = {true};
+    avant_de_repondre = [&](QMessageBox& boite) {
+        QTest::keyClick(&boite, Qt::Key_Escape);
+        boite.close();
+        restee = boite.isVisible();
+    };
+    EXPECT_TRUE(sim->question("Doit-on ?", "Non : tout est perdu"));
+    EXPECT_TRUE(restee);
+}
+
 TEST_F(Fenetre, la_fermer_quitte_et_n_ecrit_les_reglages_que_s_ils_ont_change) {
     for (const bool change : {false, true}) {
         demarrer();
