@@ -33,6 +33,19 @@ constexpr Touche touches[] = {
     {"Balise Gauche", Qt::Key_G, "Alt+G", "Cherche la balise gauche"},
 };
 
+// What becomes of the action in the generated code, where that is not what the screen shows.
+QString dans_le_code(const QString& legende) {
+    if (legende.startsWith("Vir"))
+        return "\nDans le code généré : une ligne droite, un quart de tour et une ligne droite, "
+               "dont "
+               "les longueurs ne suivent pas l'arc dessiné à l'écran.";
+    if (legende == "Droite" || legende == "Gauche")
+        return QString("\nDans le code généré : Action_%1. C'est voulu : les tours sur place sont "
+                       "croisés à cause du nom des sous-programmes du robot.")
+            .arg(legende == "Droite" ? QString("Gauche") : QString("Droite"));
+    return {};
+}
+
 QFrame* separateur() {
     auto* trait = new QFrame;
     trait->setFrameStyle(int(QFrame::HLine) | int(QFrame::Sunken));
@@ -235,7 +248,8 @@ void Télécommande::connecter_touches() {
             if (bouton.text() != QLatin1String(t.legende))
                 continue;
             relier(bouton, QKeySequence(int(Qt::ALT) | t.touche));
-            bouton.setToolTip(QString("%1 (%2)").arg(QString(t.bulle), QString(t.nom)));
+            bouton.setToolTip(QString("%1 (%2)").arg(QString(t.bulle), QString(t.nom)) +
+                              dans_le_code(bouton.text()));
         }
     }
     relier(Command9, QKeySequence(int(Qt::ALT) | int(Qt::Key_E)));
