@@ -105,41 +105,23 @@ std::string date_et_heure() {
     return {tampon.data(), n};
 }
 
-// Eight hexadecimal digits that stand for a file's folder (FNV-1a of its path).
-std::string cle_du_dossier(const fs::path& chemin) {
-    std::error_code erreur;
-    const fs::path absolu = fs::weakly_canonical(fs::absolute(chemin, erreur), erreur);
-    std::uint32_t cle = 2166136261U;
-    for (const char c : absolu.parent_path().string())
-        cle = (cle ^ static_cast<unsigned char>(c)) * 16777619U;
-    std::array<char, 9> tampon{};
-    std::snprintf(tampon.data(), tampon.size(), "%08x", static_cast<unsigned>(cle));
-    return tampon.data();
+bool tout_en(std::string_view texte, std::string_view permis) {
+    return !texte.empty() && texte.find_first_not_of(permis) == std::string_view::npos;
 }
 
-// The number n of "<nom>.<date>_<time>.<cle>.<n>", -1 for any other name.
-long numero_de_version(const std::string& candidat, const std::string& nom,
-                       const std::string& cle) {
-    constexpr std::size_t longueur_date = 19;
-    const std::string milieu = "." + cle + ".";
-    const std::size_t place = nom.size() + 1 + longueur_date;
-    if (!candidat.starts_with(nom + ".") || candidat.size() <= place ||
-        candidat.compare(place, milieu.size(), milieu) != 0)
-        return -1;
-    const std::string suffixe = candidat.substr(place + milieu.size());
-    if (suffixe.empty() || suffixe.size() > 9 ||
-        suffixe.find_first_not_of("0123456789") != std::string::npos)
-        return -1;
-    return std::strtol(suffixe.c_str(), nullptr, 10);
+// The part behind the last ".", taken off `reste`; empty when there is none.
+std::string prendre_dernier(std::string& reste) {
+    const std::size_t point = reste.rfind('.');
+    if (point == std::string::npos)
+        return {};
+    std::string partie = reste.substr(point + 1);
+    reste.resize(point);
+    return partie;
 }
 
-} // namespace
+enum class TropGrand { refuse, coupe };
 
-std::string lire_octets(const fs::path& chemin, std::size_t maximum) {
-    return lire_octets_natif(chemin.c_str(), maximum);
-}
-
-std::string lire_octets_natif(const char* chemin, std::size_t maximum) {
+std::string lire(const char* chemin, std::size_t maximum, TropGrand trop_grand) {
     // Non-blocking, so that a FIFO in place of the file cannot hold the program up.
     const Descripteur d(::open(chemin, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat etat {};
@@ -149,9 +131,10 @@ std::string lire_octets_natif(const char* chemin, std::size_t maximum) {
         throw ErreurFichier(chemin, EISDIR);
     if (!S_ISREG(etat.st_mode))
         throw ErreurFichier(chemin, pas_ordinaire);
-    const auto taille = static_cast<std::size_t>(etat.st_size);
-    if (taille > maximum)
+    auto taille = static_cast<std::size_t>(etat.st_size);
+    if (taille > maximum && trop_grand == TropGrand::refuse)
         throw ErreurFichier(chemin, "le fichier est trop grand");
+    taille = std::min(taille, maximum);
     std::string octets(taille, '\0');
     std::size_t lus = 0;
     while (lus < taille) {
@@ -166,6 +149,20 @@ std::string lire_octets_natif(const char* chemin, std::size_t maximum) {
     }
     octets.resize(lus);
     return octets;
+}
+
+} // namespace
+
+std::string lire_octets(const fs::path& chemin, std::size_t maximum) {
+    return lire_octets_natif(chemin.c_str(), maximum);
+}
+
+std::string lire_octets_natif(const char* chemin, std::size_t maximum) {
+    return lire(chemin, maximum, TropGrand::refuse);
+}
+
+std::string lire_debut(const fs::path& chemin, std::size_t maximum) {
+    return lire(chemin.c_str(), maximum, TropGrand::coupe);
 }
 
 void remplacer_fichier(const fs::path& chemin, std::string_view octets) {
@@ -202,6 +199,33 @@ fs::path trouver_fichier(const fs::path& dossier, std::string_view nom) {
     return trouve.empty() ? exact : trouve;
 }
 
+std::optional<NomDeVersion> lire_nom_de_version(std::string_view nom) {
+    constexpr std::size_t longueur_date = 19;
+    NomDeVersion version;
+    version.fichier = nom;
+    const std::string numero = prendre_dernier(version.fichier);
+    version.dossier = prendre_dernier(version.fichier);
+    version.date = prendre_dernier(version.fichier);
+    if (numero.size() > 9 || !tout_en(numero, "0123456789") || version.dossier.size() != 8 ||
+        !tout_en(version.dossier, "0123456789abcdef") || version.date.size() != longueur_date ||
+        version.fichier.empty())
+        return std::nullopt;
+    version.numero = std::strtol(numero.c_str(), nullptr, 10);
+    return version;
+}
+
+// Eight hexadecimal digits: FNV-1a of the folder's path.
+std::string cle_du_dossier(const fs::path& chemin) {
+    std::error_code erreur;
+    const fs::path absolu = fs::weakly_canonical(fs::absolute(chemin, erreur), erreur);
+    std::uint32_t cle = 2166136261U;
+    for (const char c : absolu.parent_path().string())
+        cle = (cle ^ static_cast<unsigned char>(c)) * 16777619U;
+    std::array<char, 9> tampon{};
+    std::snprintf(tampon.data(), tampon.size(), "%08x", static_cast<unsigned>(cle));
+    return tampon.data();
+}
+
 fs::path sauvegarder_version(const fs::path& chemin, const fs::path& dossier) {
     constexpr std::size_t gardees = 10;
     std::error_code erreur;
@@ -215,9 +239,9 @@ fs::path sauvegarder_version(const fs::path& chemin, const fs::path& dossier) {
     const std::string cle = cle_du_dossier(chemin);
     std::vector<std::pair<long, fs::path>> versions;
     for (fs::directory_iterator i(dossier, erreur), fin; !erreur && i != fin; i.increment(erreur)) {
-        const long numero = numero_de_version(i->path().filename().string(), nom, cle);
-        if (numero >= 0)
-            versions.emplace_back(numero, i->path());
+        const auto version = lire_nom_de_version(i->path().filename().string());
+        if (version && version->fichier == nom && version->dossier == cle)
+            versions.emplace_back(version->numero, i->path());
     }
     std::sort(versions.begin(), versions.end());
     const long suivant = versions.empty() ? 1 : versions.back().first + 1;
@@ -227,5 +251,14 @@ fs::path sauvegarder_version(const fs::path& chemin, const fs::path& dossier) {
     versions.emplace_back(suivant, copie);
     for (std::size_t i = 0; i + gardees < versions.size(); ++i)
         fs::remove(versions[i].second, erreur);
+    return copie;
+}
+
+fs::path restaurer_version(const fs::path& version, const fs::path& chemin,
+                           const fs::path& dossier) {
+    // Read before the copy is made: that one may be the eleventh, which ends the oldest.
+    const std::string octets = lire_octets(version);
+    fs::path copie = sauvegarder_version(chemin, dossier);
+    remplacer_fichier(chemin, octets);
     return copie;
 }

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,8 @@ inline constexpr std::size_t taille_maximale = std::size_t{32} << 20;
 std::string lire_octets(const std::filesystem::path& chemin, std::size_t maximum = taille_maximale);
 /// The same for a path as the system writes it: taking it apart costs a third of the reading.
 std::string lire_octets_natif(const char* chemin, std::size_t maximum = taille_maximale);
+/// The first `maximum` bytes, or all that there are. @throws ErreurFichier likewise
+std::string lire_debut(const std::filesystem::path& chemin, std::size_t maximum);
 
 /// Replaces (or creates) a file as a whole: written beside, flushed to the disk, renamed. Whatever
 /// happens, the file is either the old or the new one, and nothing is left beside it; a symbolic
@@ -34,3 +37,24 @@ std::filesystem::path trouver_fichier(const std::filesystem::path& dossier, std:
 /// @throws ErreurFichier
 std::filesystem::path sauvegarder_version(const std::filesystem::path& chemin,
                                           const std::filesystem::path& dossier);
+
+/// What the name of such a copy says: "<name>.<date>_<time>.<folder>.<n>".
+struct NomDeVersion {
+    std::string fichier; ///< name of the file that was copied
+    std::string date;    ///< "2026-03-01_14h05m09"
+    std::string dossier; ///< stands for the file's folder
+    long numero = 0;
+};
+
+/// Nothing for a name of another form.
+std::optional<NomDeVersion> lire_nom_de_version(std::string_view nom);
+
+/// What stands for the folder of a file in the names of its copies.
+std::string cle_du_dossier(const std::filesystem::path& chemin);
+
+/// Puts an older version of a file back: the present one is kept first, as sauvegarder_version()
+/// does, then replaced as a whole. @returns the copy's path (empty if there was no file)
+/// @throws ErreurFichier, the file as it was
+std::filesystem::path restaurer_version(const std::filesystem::path& version,
+                                        const std::filesystem::path& chemin,
+                                        const std::filesystem::path& dossier);

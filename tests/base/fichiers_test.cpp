@@ -158,3 +158,42 @@ TEST(SauvegarderVersion, date_numerote_et_garde_les_dix_dernieres_de_chaque_fich
     EXPECT_FALSE(fs::exists(copies[1]));
     EXPECT_TRUE(fs::exists(copies[2]));
 }
+
+TEST(RestaurerVersion, remet_la_plus_ancienne_et_garde_d_abord_la_presente) {
+    const DossierTemporaire d;
+    const fs::path versions = d / "versions";
+    fs::path premiere;
+    for (int i = 1; i <= 10; ++i) {
+        const fs::path copie = sauvegarder_version(d.ecrire("f", std::to_string(i)), versions);
+        premiere = i == 1 ? copie : premiere;
+    }
+    d.ecrire("f", "present");
+    const fs::path gardee = restaurer_version(premiere, d / "f", versions);
+    EXPECT_EQ(d.lire("f"), "1");
+    EXPECT_EQ(lire_octets(gardee), "present");
+    EXPECT_FALSE(fs::exists(premiere)) << "ten are kept";
+
+    EXPECT_THROW(restaurer_version(premiere, d / "f", versions), ErreurFichier);
+    EXPECT_EQ(d.lire("f"), "1") << "a version that is gone costs nothing";
+    EXPECT_EQ(entrees(versions), 10);
+    fs::remove(d / "f");
+    EXPECT_EQ(restaurer_version(gardee, d / "f", versions), fs::path());
+    EXPECT_EQ(d.lire("f"), "present") << "a deleted file comes back";
+}
+
+TEST(NomDeVersion, seule_une_copie_du_programme_en_est_une) {
+    const DossierTemporaire d;
+    const fs::path copie = sauvegarder_version(d.ecrire("a.b c.ini", "x"), d / "v");
+    const auto nom = lire_nom_de_version(copie.filename().string());
+    ASSERT_TRUE(nom);
+    EXPECT_EQ(nom->fichier, "a.b c.ini");
+    EXPECT_EQ(nom->dossier, cle_du_dossier(d / "a.b c.ini"));
+    EXPECT_NE(nom->dossier, cle_du_dossier(d / "v/a.b c.ini"));
+    EXPECT_EQ(nom->numero, 1);
+    for (const char* autre :
+         {"f", "f.x", "", "...", ".2026-03-01_14h05m09.0123abcd.1",
+          "f.2026-03-01_14h05m09.0123abcd.", "f.2026-03-01_14h05m09.0123abcd.x",
+          "f.2026-03-01_14h05m09.0123abcg.1", "f.2026-03-01_14h05m09.0123abc.1",
+          "f.2026-03-01.0123abcd.1", "f.2026-03-01_14h05m09.0123abcd.1234567890"})
+        EXPECT_FALSE(lire_nom_de_version(autre)) << autre;
+}
