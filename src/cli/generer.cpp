@@ -3,6 +3,7 @@
 #include "codegen/apercu.h"
 #include "codegen/generateur.h"
 #include "config/dossier.h"
+#include "record/origine.h"
 
 #include <unistd.h>
 
@@ -46,12 +47,23 @@ char signe(SorteLigne sorte) {
     return sorte == SorteLigne::inseree || sorte == SorteLigne::ajoutee ? '+' : ' ';
 }
 
-void afficher_apercu(const Demande& demande, bool ecraser) {
-    const Apercu apercu = preparer_apercu(demande, ecraser);
+void afficher_apercu(const Apercu& apercu) {
     for (const LigneApercu& ligne : apercu.lignes)
         std::cout << signe(ligne.sorte) << ligne.texte << '\n';
-    for (const std::string& avertissement : apercu.avertissements)
-        std::cerr << "Avertissement : " << avertissement << '\n';
+}
+
+// Before anything is asked or written; they neither refuse nor change the exit code.
+void avertir(const Demande& demande, const Apercu& apercu) {
+    for (const auto& liste : {avertissements_d_origine(demande.entree), apercu.avertissements})
+        for (const std::string& avertissement : liste)
+            std::cerr << "Avertissement : " << avertissement << '\n';
+}
+
+// What the generation will be answered, as far as it is known.
+bool ecrasera(const ChoixGenerer& choix) {
+    if (choix.ecraser.empty() && !choix.apercu)
+        return ::isatty(STDIN_FILENO) != 0;
+    return choix.ecraser == "oui";
 }
 
 // What was changed besides the target.
@@ -73,10 +85,12 @@ int executer(ChoixGenerer& choix) {
             std::cerr << refus.conseil << '\n';
         return 1;
     }
-    if (choix.apercu) {
-        afficher_apercu(demande, choix.ecraser == "oui");
+    const Apercu apercu = preparer_apercu(demande, ecrasera(choix));
+    if (choix.apercu)
+        afficher_apercu(apercu);
+    avertir(demande, apercu);
+    if (choix.apercu)
         return 0;
-    }
     const fs::path sauvegardes =
         dossier_application(choix.dossier) / "Configuration" / "Sauvegardes";
     try {

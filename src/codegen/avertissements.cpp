@@ -1,36 +1,12 @@
 #include "codegen/avertissements.h"
 
-#include "base/erreurs.h"
+#include "codegen/examen_entree.h"
 #include "codegen/lexique.h"
-#include "codegen/traduction.h"
 
-#include <set>
 #include <unordered_map>
 #include <unordered_set>
 
 namespace {
-
-// At most so many sentences of one kind, then how many more there are.
-constexpr std::size_t maximum_par_sorte = 20;
-
-class Sorte {
-public:
-    explicit Sorte(std::vector<std::string>& liste) : liste_(liste) {}
-
-    void ajouter(std::string phrase) {
-        if (++nombre_ <= maximum_par_sorte)
-            liste_.push_back(std::move(phrase));
-    }
-    void clore() {
-        if (nombre_ > maximum_par_sorte)
-            liste_.push_back("… et " + std::to_string(nombre_ - maximum_par_sorte) +
-                             " autres avertissements de cette sorte");
-    }
-
-private:
-    std::vector<std::string>& liste_;
-    std::size_t nombre_ = 0;
-};
 
 std::string ligne_n(std::size_t numero) {
     return "ligne " + std::to_string(numero);
@@ -65,47 +41,10 @@ struct Inventaire {
     bool inclut = false;
 };
 
-// What the generated code calls and uses.
-struct Besoins {
-    std::set<std::string> sous_programmes;
-    std::set<std::string> noms;
-};
-
-void ajouter_besoins(const RegleTraduction& regle, Besoins& besoins) {
-    if (!regle.sous_programme.empty())
-        besoins.sous_programmes.emplace(regle.sous_programme);
-    const std::size_t egal = regle.affectation.find('=');
-    if (egal != std::string_view::npos)
-        besoins.noms.emplace(rogner(regle.affectation.substr(0, egal)));
-}
-
 void ajouter_besoins_du_menu(Besoins& besoins) {
     besoins.sous_programmes.insert("Afficher_LCD");
     besoins.noms.insert(
         {"NUM_MENU_MAX", "i_menu", "Demande_Affichage", "AFFICHER_RESULTAT", "AFF_CHAR"});
-}
-
-// Reads the moves: what they need, and the values that a byte of the robot does not hold.
-Besoins examiner_mouvements(const Demande& demande, std::string_view entree,
-                            std::vector<std::string>& liste) {
-    Besoins besoins;
-    Sorte valeurs(liste);
-    try {
-        LecteurMouvements lecteur(entree, demande.entree);
-        while (const auto m = lecteur.suivant()) {
-            if (m->regle == nullptr)
-                continue;
-            ajouter_besoins(*m->regle, besoins);
-            if (m->valeur < 0 || m->valeur > 255)
-                valeurs.ajouter(demande.entree.filename().string() + ", " + ligne_n(m->numero) +
-                                " : la valeur " + std::to_string(m->valeur) +
-                                " est hors de 0 à 255");
-        }
-    } catch (const ErreurExecution&) {
-        // The composition has met the same line: it is reported there.
-    }
-    valeurs.clore();
-    return besoins;
 }
 
 void signaler_manques(const Besoins& besoins, const Inventaire& inventaire,
@@ -151,13 +90,34 @@ void signaler_retrait(const Demande& demande, const Programme& depart, const Com
     emportees.clore();
 }
 
-void signaler_menu(const PassageMenu& menu, std::vector<std::string>& liste) {
-    if (!menu.ancre_manquante.empty())
-        liste.push_back("Menu : « " + menu.ancre_manquante +
-                        " » est introuvable, l'entrée de menu sera absente ou incomplète");
+void signaler_menu(const Demande& demande, const PassageMenu& menu,
+                   std::vector<std::string>& liste) {
+    if (menu.deja > 0)
+        liste.push_back("Menu : « " + demande.fonction + " » y est déjà (" + ligne_n(menu.deja) +
+                        " du fichier de départ) ; l'intégrer encore ajoute une seconde entrée et "
+                        "augmente NUM_MENU_MAX");
+    if (!menu.ancre_manquante.empty()) {
+        std::string phrase = "Menu : « " + menu.ancre_manquante + " » est introuvable, ";
+        if (menu.constantes == 0)
+            phrase += "l'entrée de menu sera absente";
+        else if (menu.entrees == 0)
+            phrase += "NUM_MENU_MAX augmente sans qu'aucune entrée soit ajoutée";
+        else
+            phrase += "NUM_MENU_MAX augmente, mais l'entrée de menu sera sans affichage";
+        liste.push_back(std::move(phrase));
+    }
     if (menu.constantes > 1)
         liste.push_back("Menu : NUM_MENU_MAX est défini " + std::to_string(menu.constantes) +
                         " fois (lignes en commentaire comprises) et changé à chaque fois");
+}
+
+void signaler_nom(const std::string& fonction, std::vector<std::string>& liste) {
+    if (est_nom(fonction))
+        return;
+    liste.push_back(
+        (fonction.empty() ? "Le nom de la fonction est vide"
+                          : "« " + fonction + " » n'est pas un nom de fonction PICBASIC") +
+        " : il faut une lettre, puis des lettres sans accent, des chiffres ou des « _ »");
 }
 
 } // namespace
@@ -167,8 +127,7 @@ std::vector<std::string> avertissements(const Demande& demande, const Programme&
     std::vector<std::string> liste;
     if (!composition.erreur.empty())
         liste.push_back("La génération s'arrêtera avant la fin : " + composition.erreur);
-    if (!est_nom(demande.fonction))
-        liste.push_back("« " + demande.fonction + " » n'est pas un nom de fonction PICBASIC");
+    signaler_nom(demande.fonction, liste);
     if (depart.octets().find('\0') != std::string_view::npos)
         liste.emplace_back("Le fichier de départ contient des octets nuls : est-ce un programme ?");
     signaler_retrait(demande, depart, composition, liste);
@@ -179,9 +138,9 @@ std::vector<std::string> avertissements(const Demande& demande, const Programme&
     for (const std::string& doublon : inventaire.doublons)
         doublons.ajouter(doublon);
     doublons.clore();
-    Besoins besoins = examiner_mouvements(demande, entree, liste);
+    Besoins besoins = examiner_entree(demande, entree, liste);
     if (composition.menu) {
-        signaler_menu(*composition.menu, liste);
+        signaler_menu(demande, *composition.menu, liste);
         ajouter_besoins_du_menu(besoins);
     }
     signaler_manques(besoins, inventaire, liste);

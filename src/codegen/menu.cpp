@@ -1,5 +1,7 @@
 #include "codegen/menu.h"
 
+#include "codegen/lexique.h"
+
 #include <utility>
 
 namespace {
@@ -23,6 +25,8 @@ public:
         : fichier_(std::move(fichier)), fonction_(fonction), fin_(fin) {}
 
     void lire(const LigneProgramme& ligne) {
+        if (resultat_.deja == 0 && montre_deja(ligne.texte))
+            resultat_.deja = ligne.numero;
         if (recherche_libre() && contient_sans_casse(ligne.texte, constante)) {
             relever_constante(ligne);
             return;
@@ -52,6 +56,13 @@ private:
     };
 
     bool recherche_libre() const { return etape_ == Etape::action || etape_ == Etape::affichage; }
+
+    // An entry of the display: AFF_CHAR = "TRAJECTOIRE"
+    bool montre_deja(std::string_view ligne) const {
+        return contient_sans_casse(ligne, "aff_char") &&
+               minuscules(ligne.substr(0, debut_de_commentaire(ligne)))
+                       .find("\"" + minuscules(fonction_) + "\"") != std::string::npos;
+    }
 
     void suivre(const LigneProgramme& ligne) {
         switch (etape_) {
@@ -95,6 +106,7 @@ private:
         if (ligne.suite == ligne.fin)
             texte.insert(0, fin_);
         resultat_.modifications.push_back({ligne.suite, ligne.suite, std::move(texte)});
+        ++resultat_.entrees;
         etape_ = suite;
     }
 

@@ -11,6 +11,8 @@ struct PassageMenu {
     std::vector<Modification> modifications;
     std::string ancre_manquante; ///< the line that was looked for in vain; empty: all were found
     std::size_t constantes = 0;  ///< how many lines with the menu's constant were raised by one
+    std::size_t entrees = 0;     ///< how many of the two entries were inserted
+    std::size_t deja = 0;        ///< first line that shows the subroutine already; 0: none
 };
 
 /// Raises the constant NUM_MENU_MAX by one to N and inserts an entry of number N after that of

@@ -68,3 +68,21 @@ void traduire(const Mouvement& mouvement, std::string_view fin, std::string& sor
     if (!r.sous_programme.empty())
         (sortie += "\tGosub ").append(r.sous_programme).append(fin);
 }
+
+LignesMuettes compter_les_muettes(std::string_view octets) {
+    const std::string texte = en_utf8(std::string(octets));
+    Lignes lignes(texte);
+    lignes.suivante();
+    LignesMuettes muettes;
+    for (std::size_t numero = 2; const auto ligne = lignes.suivante(); ++numero) {
+        if (regle_de(*ligne) != nullptr)
+            continue;
+        ++muettes.toutes;
+        const std::string_view contenu = rogner(*ligne);
+        if (contenu.empty() || contenu.front() == '#')
+            continue;
+        if (++muettes.inattendues == 1)
+            muettes.premiere = numero;
+    }
+    return muettes;
+}

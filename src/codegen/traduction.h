@@ -45,3 +45,12 @@ private:
 
 /// Appends the move's one or two statements, each behind a TAB.
 void traduire(const Mouvement& mouvement, std::string_view fin, std::string& sortie);
+
+/// The lines of an input file, its first left out, that no rule translates.
+struct LignesMuettes {
+    std::size_t toutes = 0;      ///< each becomes a comment
+    std::size_t inattendues = 0; ///< of these, neither empty nor "#..." as in a header
+    std::size_t premiere = 0;    ///< line number of the first unexpected one
+};
+
+LignesMuettes compter_les_muettes(std::string_view octets);

@@ -2,7 +2,9 @@
 
 #include "config/ecriture.h"
 #include "record/actions_console.h"
+#include "sim/actions.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -58,6 +60,14 @@ void ajouter_entree(Ecrivain& fichier, Code code, int p1, int p2) {
     fichier.ligne("'*** PB remplissage fichier");
 }
 
+// The button that records an action of a trajectory; null for what none records ("INIT").
+const ActionConsole* bouton_de(const Nom10& action) {
+    const auto* const trouve =
+        std::find_if(actions_console.begin(), actions_console.end(),
+                     [&](const ActionConsole& bouton) { return Nom10(bouton.nom) == action; });
+    return trouve == actions_console.end() ? nullptr : trouve;
+}
+
 } // namespace
 
 std::string texte_generation(const Etat& e, const std::string& nom_de_fichier) {
@@ -71,4 +81,23 @@ std::string texte_generation(const Etat& e, const std::string& nom_de_fichier) {
         ajouter_entree(fichier, Code{e.TableauAGenerer(j, 0)}, e.TableauAGenerer(j, 1),
                        e.TableauAGenerer(j, 2));
     return fichier.texte();
+}
+
+std::vector<std::string> mouvements_du_trajet(const Etat& e, Entier16 i) {
+    Ecrivain fichier;
+    for (int k = 1; k <= e.TrajNbActions(i) && !(e.TrajAction(i, k) == actions::FIN); ++k) {
+        const ActionConsole* const bouton = bouton_de(e.TrajAction(i, k));
+        if (bouton == nullptr)
+            continue;
+        // A trajectory has the angle of a curve first, the generation table its radius.
+        const bool virage = bouton->parametres == Parametres::rayon_et_angle;
+        const int p1 = e.TrajParam1(i, k);
+        const int p2 = e.TrajParam2(i, k);
+        ajouter_entree(fichier, bouton->code, virage ? p2 : p1, virage ? p1 : p2);
+    }
+    std::vector<std::string> mouvements;
+    Lignes lignes(fichier.texte());
+    while (const auto ligne = lignes.suivante())
+        mouvements.emplace_back(*ligne);
+    return mouvements;
 }

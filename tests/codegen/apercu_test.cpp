@@ -46,6 +46,8 @@ TEST(Apercu, montre_les_insertions_du_menu_a_leur_place) {
 }
 
 TEST(Apercu, avertit_de_ce_qui_ne_compilera_pas) {
+    const char* const menu_fait = "Const NUM_MENU_MAX = 1\n'AFF_CHAR = \"TRAJECTOIRE\"\n"
+                                  "AFF_CHAR = \"AUTRE\"\n\tAff_Char=\"Trajectoire\" ' ici\n";
     struct {
         const char* faute;
         const char* depart;
@@ -67,12 +69,69 @@ TEST(Apercu, avertit_de_ce_qui_ne_compilera_pas) {
         {"no return", "TRAJECTOIRE:\n", "#", false, "L'ancienne fonction n'a pas de « return »"},
         {"eats a label", "TRAJECTOIRE:\nB: x\n", "#", false,
          "Le retrait emporte aussi l'étiquette B: (ligne 2)"},
+        {"entry there already", menu_fait, "#", true,
+         "Menu : « TRAJECTOIRE » y est déjà (ligne 4 du"},
+        {"counter without entries", "Const NUM_MENU_MAX = 1\n", "#", true,
+         "Menu : « action_selectionnee: » est introuvable, NUM_MENU_MAX augmente sans qu'aucune"},
+        {"half an entry", "Const NUM_MENU_MAX = 1\naction_selectionnee: i_menu = 1\nCHGT_AFFICHAGE",
+         "#", true,
+         "Menu : « affichage_menu » est introuvable, NUM_MENU_MAX augmente, mais l'entrée de menu "
+         "sera sans affichage"},
+        {"nothing at all", "", "#", true,
+         "Menu : « Const NUM_MENU_MAX » est introuvable, l'entrée de menu sera absente"},
+        {"turn", "", "#\ndroite:90", false, "Les tours sur place sont croisés"},
+        {"trajectory", "", "# Trajet\n#\n\nInit,1,2,3\nAvance,80\nVirAvDr,90,40\nFIN\n", false,
+         "entree.ini : lignes qui deviennent des commentaires ('***) : 5, dont hors de l'en-tête : "
+         "3 ; ce ne sont pas des mouvements (la première est la ligne 4)"},
     };
     for (const auto& c : cas) {
         Atelier atelier(c.depart, c.entree);
         atelier.demande.menu = c.menu;
         const Apercu apercu = preparer_apercu(atelier.demande, true);
         EXPECT_TRUE(contient(apercu.avertissements, c.avertissement)) << c.faute;
+    }
+}
+
+// The lengths are those of R = 40, A = 1 and of A = 0.
+TEST(Apercu, un_avertissement_par_virage_et_aucun_pour_ce_qui_est_tape) {
+    const std::vector<std::string> virages = {
+        "AVANCE:33.6588393923159\nGAUCHE:90\nAVANCE:18.3879077652744\n",
+        "RECULE:33.6588393923159\nDROITE:90\nRECULE:18.3879077652744\n",
+        "AVANCE:0\nDROITE:90\nAVANCE:0\n",
+    };
+    for (const std::string& virage : virages) {
+        Atelier deux("", "#\nAVANCE:5\n" + virage + virage);
+        const Apercu apercu = preparer_apercu(deux.demande, true);
+        EXPECT_TRUE(contient(apercu.avertissements, "entree.ini, lignes 3 à 5 : le virage"))
+            << virage;
+        EXPECT_TRUE(contient(apercu.avertissements, "entree.ini, lignes 6 à 8 : le virage"))
+            << virage;
+        EXPECT_FALSE(contient(apercu.avertissements, "entree.ini, lignes 5 à")) << virage;
+        EXPECT_FALSE(contient(apercu.avertissements, "Les tours sur place")) << "a quarter turn";
+    }
+    for (const std::string tape :
+         {"AVANCE:30\nGAUCHE:90\nAVANCE:30\n", "AVANCE:0\nGAUCHE:89\nAVANCE:0\n",
+          "AVANCE:1.5\nGAUCHE:90\nRECULE:1.5\n", "AVANCE:1.5\nGAUCHE:90\nDELAY :1\nAVANCE:1.5\n"}) {
+        Atelier atelier("", "#\n" + tape);
+        const Apercu apercu = preparer_apercu(atelier.demande, true);
+        EXPECT_FALSE(contient(apercu.avertissements, "entree.ini, lignes")) << tape;
+        EXPECT_TRUE(contient(apercu.avertissements, "Les tours sur place")) << tape;
+    }
+}
+
+TEST(Apercu, l_etiquette_qui_suit_la_fonction_retiree_reste) {
+    Atelier atelier("TRAJECTOIRE:\nReturn\nSUIVANTE: x\n", "#\n");
+    EXPECT_FALSE(
+        contient(preparer_apercu(atelier.demande, true).avertissements, "Le retrait emporte"));
+}
+
+TEST(Apercu, un_nom_qui_n_en_est_pas_un_est_signale) {
+    for (const char* nom : {"", "A:", "DEUX MOTS", " A", "été", "1A"}) {
+        Atelier atelier("", "#\n");
+        atelier.demande.fonction = nom;
+        const auto phrases = preparer_apercu(atelier.demande, true).avertissements;
+        ASSERT_EQ(phrases.size(), 1U) << nom;
+        EXPECT_NE(phrases.front().find("il faut une lettre"), std::string::npos) << phrases.front();
     }
 }
 

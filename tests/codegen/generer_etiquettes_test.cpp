@@ -20,7 +20,6 @@ TEST(VerbeGenerer, ecrit_la_cible_sous_le_nom_demande_et_annonce_les_copies) {
     const Atelier atelier("Tour:\nReturn\nfin\n", "#\nBALGAUCHE\n");
     const Resultat s = lancer(generer(atelier, {"--fonction", "TOUR", "--ecraser", "oui"}));
     EXPECT_EQ(s.code, 0) << s.erreurs;
-    EXPECT_EQ(s.erreurs, "");
     EXPECT_EQ(atelier.dossier.lire("depart.bas"), "fin\n");
     EXPECT_TRUE(atelier.dossier.lire("cible.bas")
                     .ends_with("TOUR:\n\tGosub position_balise_g\n\tReturn\n"));
@@ -39,6 +38,21 @@ TEST(VerbeGenerer, refuse_avec_le_message_et_le_code_1) {
                                       atelier.dossier.chemin().string() + "\n"))
         << s.erreurs;
     EXPECT_EQ(lancer(generer(atelier, {"--ecraser", "bof"})).code, 2);
+}
+
+TEST(VerbeGenerer, les_avertissements_sont_dits_sans_rien_empecher) {
+    Atelier atelier("A:\n", "# Fichier Finale Trajet1.ini\nInit,1,2,3\nDroite, 90\nFIN\n");
+    const Resultat s = lancer(generer(atelier, {"--fonction", "DEUX MOTS", "--menu"}));
+    EXPECT_EQ(s.code, 0) << s.erreurs;
+    for (const char* phrase :
+         {"entree.ini n'est pas un fichier de génération", "('***) : 2, dont hors de l'en-tête : 2",
+          "« DEUX MOTS » n'est pas un nom", "Menu : « Const NUM_MENU_MAX » est introuvable",
+          "Les tours sur place sont croisés", "Le sous-programme Action_Droite n'existe pas"}) {
+        const std::size_t place = s.erreurs.find(phrase);
+        ASSERT_NE(place, std::string::npos) << phrase << "\n" << s.erreurs;
+        EXPECT_NE(s.erreurs.rfind("Avertissement : ", place), std::string::npos);
+    }
+    EXPECT_TRUE(atelier.dossier.lire("cible.bas").ends_with("\t'*** FIN\n\tReturn\n"));
 }
 
 TEST(VerbeGenerer, l_apercu_n_ecrit_rien) {
