@@ -87,7 +87,9 @@ TEST(Origine, seul_l_entete_fait_un_fichier_de_generation) {
     } const cas[] = {
         {"# Fichier Essai PourGenerer10.iniréalisé par x\r\n", "Essai"},
         {"\xEF\xBB\xBF# Fichier Mon essai PourGenerer7.ini\n", "Mon essai"},
-        {"# Fichier \xC9t\xE9 PourGenerer10.inir\xE9alis\xE9 par x\r", "Été"},
+        {"# Fichier \xC9t\xE9 PourGenerer10.inir\xE9"
+         "alis\xE9 par x\r",
+         "Été"},
         {"# Fichier  PourGenerer10.ini", ""},
         {"# Fichier Essai Trajet1.ini\n# Fichier Essai PourGenerer10.ini\n", nullptr},
         {"# Fichier Essai PourGenerer.ini\n", nullptr},
