@@ -27,8 +27,8 @@ bool est_tour(const Mouvement& m) {
     return est(m, "GAUCHE") || est(m, "DROITE");
 }
 
-// A recorded curve comes as a straight run, a quarter turn and a straight run of the same way; only
-// such a run has decimals, or no length at all.
+// A recorded curve comes as a straight run, a quarter turn and a straight run of the same way; both
+// runs have decimals, or no length at all.
 class Virages {
 public:
     /// @returns true when the move ends a curve
@@ -57,9 +57,10 @@ public:
 
 private:
     static bool n_est_pas_tape(const Mouvement& a, const Mouvement& b) {
-        const bool decimales = a.ligne.find('.') != std::string_view::npos ||
-                               b.ligne.find('.') != std::string_view::npos;
-        return decimales || (a.valeur == 0 && b.valeur == 0);
+        const auto decimales = [](const Mouvement& m) {
+            return m.ligne.find('.') != std::string_view::npos;
+        };
+        return (decimales(a) && decimales(b)) || (a.valeur == 0 && b.valeur == 0);
     }
 
     std::array<Mouvement, 3> derniers_;

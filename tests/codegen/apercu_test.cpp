@@ -109,6 +109,11 @@ TEST(Apercu, un_avertissement_par_virage_et_aucun_pour_ce_qui_est_tape) {
         EXPECT_FALSE(contient(apercu.avertissements, "entree.ini, lignes 5 à")) << virage;
         EXPECT_FALSE(contient(apercu.avertissements, "Les tours sur place")) << "a quarter turn";
     }
+    Atelier melange("", "#\nAVANCE:120\nGAUCHE:90\n" + virages.front());
+    const auto phrases = preparer_apercu(melange.demande, true).avertissements;
+    EXPECT_TRUE(contient(phrases, "entree.ini, lignes 4 à 6 : le virage")) << "not 120, 90, 34";
+    EXPECT_FALSE(contient(phrases, "entree.ini, lignes 2 à 4"));
+    EXPECT_TRUE(contient(phrases, "Les tours sur place"));
     for (const std::string tape :
          {"AVANCE:30\nGAUCHE:90\nAVANCE:30\n", "AVANCE:0\nGAUCHE:89\nAVANCE:0\n",
           "AVANCE:1.5\nGAUCHE:90\nRECULE:1.5\n", "AVANCE:1.5\nGAUCHE:90\nDELAY :1\nAVANCE:1.5\n"}) {
