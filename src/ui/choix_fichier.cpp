@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QLabel>
 #include <QSignalBlocker>
 #include <QStorageInfo>
 
@@ -127,7 +128,30 @@ void ListeFichiers::lister(const fs::path& dossier, const QString& motif) {
     motif_ = motif;
     clear();
     addItems(presents());
+    marquer();
     setCurrentItem(nullptr);
+}
+
+void ListeFichiers::marquer() {
+    if (!marque)
+        return;
+    QFont gras = font();
+    gras.setBold(true);
+    for (int i = 0; i < count(); ++i) {
+        QListWidgetItem& ligne = *item(i);
+        const QString texte = marque(dossier_ / ligne.text().toStdString());
+        ligne.setFont(texte.isEmpty() ? font() : gras);
+        ligne.setToolTip(texte);
+        ligne.setData(Qt::AccessibleTextRole,
+                      texte.isEmpty() ? QVariant() : QVariant(ligne.text() + " – " + texte));
+    }
+}
+
+std::vector<fs::path> ListeFichiers::tous() const {
+    std::vector<fs::path> fichiers;
+    for (int i = 0; i < count(); ++i)
+        fichiers.push_back(dossier_ / item(i)->text().toStdString());
+    return fichiers;
 }
 
 // Name filters ignore case unless told otherwise.
@@ -143,11 +167,12 @@ void ListeFichiers::actualiser() {
     for (int i = 0; i < count(); ++i)
         montres << item(i)->text();
     if (montres == voulus)
-        return;
+        return marquer(); // what they hold may have changed
     const fs::path choix = choisi();
     const QSignalBlocker muet(this);
     clear();
     addItems(voulus);
+    marquer();
     choisir(choix.filename().string());
 }
 
@@ -192,7 +217,7 @@ void ChoixFichier::nommer(const Controles& c) {
     parcourir.setToolTip("Choisit le fichier dans la fenêtre du système");
 }
 
-QLayout* ChoixFichier::disposer() {
+QLayout* ChoixFichier::disposer(const QString& legende) {
     auto* grille = new QGridLayout;
     grille->setSpacing(6);
     grille->addWidget(&lecteurs, 0, 0);
@@ -200,6 +225,8 @@ QLayout* ChoixFichier::disposer() {
     grille->addWidget(&motif, 0, 1);
     grille->addWidget(&fichiers, 1, 1);
     grille->addWidget(&parcourir, 2, 1);
+    if (!legende.isEmpty())
+        grille->addWidget(new QLabel(legende), 2, 0);
     grille->setRowStretch(1, 1);
     for (QWidget* liste : std::initializer_list<QWidget*>{&dossiers, &fichiers})
         liste->setMinimumSize(170, 96);

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
 
 class QLayout;
 
@@ -51,12 +52,17 @@ public:
     void lister(const std::filesystem::path& dossier, const QString& motif);
     /// Lists the same again, the selection kept, when something came or went.
     void actualiser();
+    /// Says what is special about a file, empty when nothing is: such files stand out in bold, with
+    /// these words as tool tip and for assistive tools.
+    std::function<QString(const std::filesystem::path&)> marque;
+    std::vector<std::filesystem::path> tous() const;
     /// The selected file, empty when none is.
     std::filesystem::path choisi() const;
     void choisir(const std::string& nom);
 
 private:
     QStringList presents() const;
+    void marquer();
     std::filesystem::path dossier_;
     QString motif_;
 };
@@ -73,7 +79,8 @@ public:
     };
     explicit ChoixFichier(const Controles& c);
 
-    QLayout* disposer();
+    /// @param legende  said beneath the directories
+    QLayout* disposer(const QString& legende = {});
     std::filesystem::path fichier() const { return fichiers.choisi(); }
 
     ListeLecteurs lecteurs;

@@ -1,20 +1,28 @@
 #include "ui/dialog.h"
 
 #include "codegen/apercu.h"
+#include "record/origine.h"
 #include "ui/boites.h"
 #include "ui/garde.h"
 #include "ui/ouv_generation.h"
 #include "ui/place.h"
+#include "ui/restauration.h"
 #include "ui/sim1.h"
 #include "ui/visualiser.h"
 
 #include <QCloseEvent>
 #include <QSettings>
+#include <QStyle>
 
 namespace {
 
 constexpr auto cle_depart = "generation/depart";
 constexpr auto cle_entree = "generation/entree";
+constexpr auto cle_cible = "generation/cible";
+
+constexpr std::string_view rappel_options =
+    "La fenêtre des options est masquée : « Fermer », dans la fenêtre de génération, la fait "
+    "revenir ; un clic sur l'aire de jeu aussi.";
 
 char signe(SorteLigne sorte) {
     switch (sorte) {
@@ -39,6 +47,16 @@ QString texte_apercu(const Apercu& apercu) {
 }
 
 } // namespace
+
+std::vector<std::filesystem::path> dossiers_de_generation() {
+    const QSettings reglages;
+    std::vector<std::filesystem::path> dossiers;
+    for (const char* cle : {cle_depart, cle_cible, cle_entree}) {
+        if (const QString dossier = reglages.value(cle).toString(); !dossier.isEmpty())
+            dossiers.emplace_back(dossier.toStdString());
+    }
+    return dossiers;
+}
 
 Dialog::Dialog(Sim1& sim)
     : QWidget(&sim, Qt::Window),
@@ -91,6 +109,9 @@ void Dialog::retenir_dossiers() const {
     QSettings reglages;
     reglages.setValue(cle_depart, texte_qt(depart_.dossiers.chemin().string()));
     reglages.setValue(cle_entree, texte_qt(entree_.dossiers.chemin().string()));
+    const std::filesystem::path cible = fichier_a_generer.text().toStdString();
+    if (cible.has_parent_path())
+        reglages.setValue(cle_cible, texte_qt(cible.parent_path().string()));
 }
 
 Demande Dialog::demande() const {
@@ -103,7 +124,11 @@ Demande Dialog::demande() const {
 }
 
 void Dialog::generer_Click() {
+    compte_rendu_.clear(); // what it says is of the former attempt
     garde(sim_, [this] { generer_et_montrer(); });
+    if (compte_rendu_.text().isEmpty())
+        compte_rendu_.setText("Rien n'a été généré. " + texte_qt(rappel_options));
+    compte_rendu_.show();
     // Whatever happened: only the result and this window matter now.
     sim_.cacher_options_et_console();
     repos_.start();
@@ -112,7 +137,8 @@ void Dialog::generer_Click() {
 void Dialog::generer_et_montrer() {
     const Demande d = demande();
     if (const Refus refus = verifier(d))
-        return sim_.message(refus.message, refus.conseil);
+        return sim_.message(refus.message, refus.conseil + (refus.conseil.empty() ? "" : "\n\n") +
+                                               std::string(rappel_options));
     retenir_dossiers();
     const auto dossier = sim_.projet().dossier_configuration() / "Sauvegardes";
     try {
@@ -135,7 +161,6 @@ void Dialog::dire_ce_qui_a_change(std::string texte, const Generation& generatio
     for (const auto& copie : generation.sauvegardes)
         texte += "\nCopie de la version précédente : " + copie.string();
     compte_rendu_.setText(texte_qt(texte));
-    compte_rendu_.show();
 }
 
 void Dialog::visualiser(bool modal) {
@@ -181,26 +206,61 @@ void Dialog::closeEvent(QCloseEvent*) {
         Fermer_Click();
 }
 
+// Inputs of the present project come first to mind; the newest holds the latest recording.
+void Dialog::preselectionner() {
+    namespace fs = std::filesystem;
+    projet_preselectionne_ = sim_.etat().NomProjet;
+    std::error_code erreur;
+    fs::file_time_type date = fs::file_time_type::min();
+    std::string choix;
+    for (const fs::path& fichier : entree_.fichiers.tous()) {
+        const fs::file_time_type sienne = fs::last_write_time(fichier, erreur);
+        if (!erreur && sienne >= date && projet_du_fichier(fichier) == projet_preselectionne_) {
+            date = sienne;
+            choix = fichier.filename().string();
+        }
+    }
+    if (!choix.empty())
+        entree_.fichiers.choisir(choix);
+}
+
+void Dialog::showEvent(QShowEvent* evenement) {
+    QWidget::showEvent(evenement);
+    garde(sim_, [this] {
+        if (entree_.fichier().empty() || projet_preselectionne_ != sim_.etat().NomProjet)
+            preselectionner();
+    });
+}
+
+void Dialog::avertir(const std::vector<std::string>& phrases) {
+    for (const std::string& phrase : phrases)
+        new QListWidgetItem(style()->standardIcon(QStyle::SP_MessageBoxWarning), texte_qt(phrase),
+                            &avertissements_);
+}
+
+void Dialog::montrer_apercu(const Demande& d) {
+    const Apercu apercu = preparer_apercu(d, true);
+    apercu_.setPlainText(texte_apercu(apercu));
+    avertir(apercu.avertissements);
+    titre_apercu_.setText(
+        QString("Aperçu de ce qui sera retiré (-) et ajouté (+)%1 :")
+            .arg(apercu.ecrase ? ", si vous acceptez d'écraser la fonction" : ""));
+}
+
 void Dialog::rafraichir_apercu() {
     avertissements_.clear();
+    apercu_.setPlainText({});
     const Demande d = demande();
-    if (d.depart.empty() || d.entree.empty()) {
-        apercu_.setPlainText({});
-        titre_apercu_.setText("Aperçu : choisissez un programme de départ et une trajectoire.");
-        return;
-    }
     try {
-        const Apercu apercu = preparer_apercu(d, true);
-        apercu_.setPlainText(texte_apercu(apercu));
-        for (const std::string& texte : apercu.avertissements)
-            avertissements_.addItem(texte_qt(texte));
-        titre_apercu_.setText(
-            QString("Aperçu de ce qui sera retiré (-) et ajouté (+)%1 :")
-                .arg(apercu.ecrase ? ", si vous acceptez d'écraser la fonction" : ""));
+        if (!d.entree.empty())
+            avertir(avertissements_d_origine(d.entree));
+        if (d.depart.empty() || d.entree.empty())
+            titre_apercu_.setText("Aperçu : choisissez un programme de départ et une trajectoire.");
+        else
+            montrer_apercu(d);
     } catch (const ErreurExecution& erreur) {
-        apercu_.setPlainText({});
         titre_apercu_.setText("Aperçu impossible :");
-        avertissements_.addItem(texte_qt(erreur.what()));
+        avertir({erreur.what()});
     }
     avertissements_.setVisible(avertissements_.count() > 0);
 }
@@ -214,9 +274,15 @@ void Dialog::connecter() {
     relier(Choisir, &Dialog::Choisir_Click);
     relier(visu_gene, &Dialog::visu_gene_Click);
     relier(Fermer, &Dialog::Fermer_Click);
+    connect(&restaurer_, &QPushButton::clicked, this,
+            [this] { garde(sim_, [this] { montrer_restauration(sim_); }); });
     connect(&rep_defaut, &QCheckBox::toggled, this,
             [this](bool coche) { garde(sim_, [&] { rep_defaut_Click(coche); }); });
 
+    entree_.fichiers.marque = [](const std::filesystem::path& fichier) {
+        const auto projet = projet_du_fichier(fichier);
+        return projet ? "Fichier de génération du projet " + texte_qt(*projet) : QString();
+    };
     repos_.setSingleShot(true);
     repos_.setInterval(250);
     connect(&repos_, &QTimer::timeout, this,
@@ -226,6 +292,8 @@ void Dialog::connecter() {
         choix->au_changement = [this, choix](bool dossier) {
             if (dossier)
                 CheminCourant_ = choix->dossiers.chemin().string();
+            if (dossier && choix == &entree_)
+                preselectionner();
             repos_.start();
         };
     }

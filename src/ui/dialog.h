@@ -2,6 +2,7 @@
 
 #include "codegen/generateur.h"
 #include "ui/choix_fichier.h"
+#include "ui/editeur_code.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -9,15 +10,20 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSyntaxHighlighter>
 #include <QTimer>
 #include <QWidget>
 
+#include <filesystem>
 #include <memory>
+#include <string>
+#include <vector>
 
 class Sim1;
 class OuvGeneration;
 class Visualiser;
+
+/// The folders where programs were last taken from, generated to, and inputs taken from.
+std::vector<std::filesystem::path> dossiers_de_generation();
 
 /// The generation window: merges a recorded path into the team's own PICBASIC program, and shows
 /// beforehand what would change.
@@ -36,25 +42,17 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* evenement) override;
+    void showEvent(QShowEvent* evenement) override;
 
 private:
-    /// Green for what comes, red for what goes.
-    class Coloration final : public QSyntaxHighlighter {
-    public:
-        Coloration(QTextDocument* document, const QPalette& palette);
-
-    protected:
-        void highlightBlock(const QString& texte) override;
-
-    private:
-        QTextCharFormat ajoute_, retire_, coupe_;
-    };
-
     Demande demande() const;
     void generer_et_montrer();
     void dire_ce_qui_a_change(std::string texte, const Generation& generation);
     void visualiser(bool modal);
     void rafraichir_apercu();
+    void montrer_apercu(const Demande& d);
+    void avertir(const std::vector<std::string>& phrases);
+    void preselectionner();
     void retenir_dossiers() const;
 
     void nommer();
@@ -69,13 +67,15 @@ private:
     QLineEdit fichier_a_generer, Txt_NomFctGen;
     QCheckBox rep_defaut, menu;
     QPushButton generer, Choisir, visu_gene, Fermer;
+    QPushButton restaurer_;
     QLabel compte_rendu_; ///< what the last generation wrote
     QLabel titre_apercu_;
     QPlainTextEdit apercu_;
-    Coloration coloration_;
+    ColorationDifference coloration_;
     QListWidget avertissements_;
     QTimer repos_;
     std::string CheminCourant_; ///< of the directory list that changed last
+    std::string projet_preselectionne_;
     std::unique_ptr<OuvGeneration> ouv_generation_;
     std::unique_ptr<Visualiser> visualiseur_;
 };

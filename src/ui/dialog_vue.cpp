@@ -5,27 +5,8 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QStyle>
 #include <QVBoxLayout>
-
-Dialog::Coloration::Coloration(QTextDocument* document, const QPalette& palette)
-    : QSyntaxHighlighter(document) {
-    const bool sombre = palette.color(QPalette::Base).lightness() < 128;
-    ajoute_.setForeground(QColor(sombre ? "#a5e6a5" : "#0b5d1e"));
-    ajoute_.setBackground(QColor(sombre ? "#16361b" : "#e3f6e5"));
-    retire_.setForeground(QColor(sombre ? "#f2b0b0" : "#8f1d1d"));
-    retire_.setBackground(QColor(sombre ? "#43191b" : "#fbe5e5"));
-    coupe_.setForeground(palette.color(QPalette::PlaceholderText));
-}
-
-void Dialog::Coloration::highlightBlock(const QString& texte) {
-    const int longueur = int(texte.size());
-    if (texte.startsWith('+'))
-        setFormat(0, longueur, ajoute_);
-    else if (texte.startsWith('-'))
-        setFormat(0, longueur, retire_);
-    else if (texte.startsWith('@'))
-        setFormat(0, longueur, coupe_);
-}
 
 void Dialog::nommer() {
     struct Nom {
@@ -51,6 +32,8 @@ void Dialog::nommer() {
               "Sélectionne un fichier de génération"},
              {visu_gene, "visu_gene", "Visu. Fichier génération",
               "Visualise un fichier de génération"},
+             {restaurer_, "restaurer_version", "Restaurer une version…",
+              "Montre les versions précédentes des programmes et des fichiers du projet"},
              {Fermer, "Fermer", "Fermer", "Ferme la fenêtre"}}) {
         n.controle.setObjectName(n.nom);
         n.controle.setToolTip(n.bulle);
@@ -81,7 +64,7 @@ void Dialog::placer() {
     haut->addWidget(&Label1, 0, 0);
     haut->addWidget(&Label2, 0, 1);
     haut->addLayout(depart_.disposer(), 1, 0);
-    haut->addLayout(entree_.disposer(), 1, 1);
+    haut->addLayout(entree_.disposer("En gras : fichiers de génération"), 1, 1);
 
     apercu_.setReadOnly(true);
     apercu_.setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -92,7 +75,9 @@ void Dialog::placer() {
     compte_rendu_.setWordWrap(true);
     compte_rendu_.setTextInteractionFlags(Qt::TextSelectableByMouse);
     compte_rendu_.hide();
-    avertissements_.setMaximumHeight(76);
+    avertissements_.setMaximumHeight(112);
+    const int icone = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    avertissements_.setIconSize({icone, icone});
     avertissements_.setWordWrap(true);
     avertissements_.hide();
 
@@ -124,6 +109,7 @@ QLayout* Dialog::placer_boutons() {
     auto* rangee = new QHBoxLayout;
     rangee->addWidget(&generer);
     rangee->addWidget(&visu_gene);
+    rangee->addWidget(&restaurer_);
     rangee->addStretch();
     rangee->addWidget(&Fermer);
     return rangee;

@@ -65,6 +65,26 @@ void ColorationPicbasic::highlightBlock(const QString& texte) {
     setFormat(int(avant), int(texte.size() - avant), commentaire_);
 }
 
+ColorationDifference::ColorationDifference(QTextDocument* document, const QPalette& palette)
+    : QSyntaxHighlighter(document) {
+    const bool sombre = palette.color(QPalette::Base).lightness() < 128;
+    ajoute_.setForeground(QColor(sombre ? "#a5e6a5" : "#0b5d1e"));
+    ajoute_.setBackground(QColor(sombre ? "#16361b" : "#e3f6e5"));
+    retire_.setForeground(QColor(sombre ? "#f2b0b0" : "#8f1d1d"));
+    retire_.setBackground(QColor(sombre ? "#43191b" : "#fbe5e5"));
+    coupe_.setForeground(palette.color(QPalette::PlaceholderText));
+}
+
+void ColorationDifference::highlightBlock(const QString& texte) {
+    const int longueur = int(texte.size());
+    if (texte.startsWith('+'))
+        setFormat(0, longueur, ajoute_);
+    else if (texte.startsWith('-'))
+        setFormat(0, longueur, retire_);
+    else if (texte.startsWith('@'))
+        setFormat(0, longueur, coupe_);
+}
+
 VueCode::VueCode() : marge_(new Marge(*this)) {
     setReadOnly(true);
     setLineWrapMode(QPlainTextEdit::NoWrap);

@@ -21,6 +21,18 @@ private:
     QTextCharFormat commentaire_, etiquette_, mot_, nombre_;
 };
 
+/// Colours a difference by the first character of its lines: green for "+", red for "-".
+class ColorationDifference final : public QSyntaxHighlighter {
+public:
+    ColorationDifference(QTextDocument* document, const QPalette& palette);
+
+protected:
+    void highlightBlock(const QString& texte) override;
+
+private:
+    QTextCharFormat ajoute_, retire_, coupe_;
+};
+
 /// A read-only text with the file's line numbers beside it.
 class VueCode final : public QPlainTextEdit {
 public:

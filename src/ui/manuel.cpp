@@ -17,7 +17,7 @@ constexpr PageManuel pages[] = {
     {"telecommande", "La télécommande", " Télécommande "},
     {"editeurs", "Les éditeurs", " Foutil dessinTable dessinRobot nouveauProjet "},
     {"generation", "La génération PICBASIC", " Dialog OuvGeneration Visualiser "},
-    {"fichiers", "Les fichiers de configuration", ""},
+    {"fichiers", "Les fichiers de configuration", " Restauration "},
     {"messages", "Messages et dépannage", " message question "},
     {"ligne-de-commande", "La ligne de commande", ""},
 };

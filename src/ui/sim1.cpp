@@ -9,6 +9,7 @@
 #include "ui/editeurs.h"
 #include "ui/garde.h"
 #include "ui/place.h"
+#include "ui/restauration.h"
 #include "ui/surveillance.h"
 #include "ui/telecommande.h"
 
@@ -234,18 +235,26 @@ void Sim1::Timer_Timer() {
 }
 
 void Sim1::menu_robots(const QPoint& ou) {
-    if (!options_.robots_modifiables())
-        return;
-    QMenu menu("Nombre de robots", &Table);
-    menu.setObjectName("menu_robots");
-    menu.addSection("Nombre de robots");
+    QMenu menu(&Table);
+    menu.setObjectName("menu_table");
+    QMenu& robots = *menu.addMenu("Nombre de robots");
+    robots.setObjectName("menu_robots");
+    robots.setEnabled(options_.robots_modifiables());
+    robots.addSection("Nombre de robots");
     for (int n = 1; n <= robots_des_fichiers; ++n) {
-        QAction* choix = menu.addAction(QString::number(n));
+        QAction* choix = robots.addAction(QString::number(n));
         choix->setCheckable(true);
         choix->setChecked(n == e->NbRobot);
         choix->setData(n);
     }
-    if (const QAction* choix = menu.exec(Table.mapToGlobal(ou)))
+    menu.addSeparator();
+    const QAction* restaurer = menu.addAction("Restaurer une version…");
+    const QAction* choix = menu.exec(Table.mapToGlobal(ou));
+    if (choix == nullptr)
+        return;
+    if (choix == restaurer)
+        montrer_restauration(*this);
+    else
         options_.choisir_robots(choix->data().toInt());
 }
 

@@ -59,7 +59,8 @@ TEST_F(Options, le_nombre_de_robots_ne_fait_que_descendre_sauf_par_le_menu) {
 
     QTimer::singleShot(0, [this] {
         auto& menu = trouver<QMenu>("menu_robots");
-        ASSERT_EQ(menu.actions().size(), 10); // a heading, then 1 to 9
+        trouver<QMenu>("menu_table").setActiveAction(menu.menuAction()); // opens it
+        ASSERT_EQ(menu.actions().size(), 10);                            // a heading, then 1 to 9
         EXPECT_TRUE(menu.actions()[2]->isChecked());
         menu.setActiveAction(menu.actions()[6]);
         QTest::keyClick(&menu, Qt::Key_Return);

@@ -5,6 +5,8 @@
 #include <QPlainTextEdit>
 #include <QSettings>
 
+#include <chrono>
+
 namespace {
 
 const std::string programme = "'a la main\r\n"
@@ -170,6 +172,115 @@ TEST_F(FenetreGeneration, la_cible_se_choisit_par_repertoire_et_nom) {
     EXPECT_TRUE(dialog->isVisible());
     dans<QPushButton>("Fermer").click();
     EXPECT_FALSE(dialog->isVisible());
+}
+
+// A window opened on files that the program saved itself.
+class FenetreGenerationRemplie : public FenetreGeneration {
+protected:
+    void ecrire_entree(const char* nom, const std::string& titre, int age) {
+        const auto fichier =
+            dossier.ecrire(std::string("Configuration/") + nom,
+                           "# Fichier " + titre + "réalisé par x\r\nAVANCE:12\r\n");
+        std::filesystem::last_write_time(fichier, std::filesystem::file_time_type::clock::now() -
+                                                      std::chrono::hours(age));
+    }
+    QListWidgetItem& ligne(const char* fichier) {
+        const auto trouves = dans<QListWidget>("File").findItems(fichier, Qt::MatchExactly);
+        if (trouves.isEmpty())
+            throw std::runtime_error(fichier);
+        return *trouves.front();
+    }
+    QStringList avertissements() {
+        QStringList textes;
+        auto& liste = dans<QListWidget>("avertissements");
+        for (int i = 0; i < liste.count(); ++i)
+            textes << liste.item(i)->text();
+        return textes;
+    }
+    bool averti(const char* phrase) {
+        return QTest::qWaitFor([&] { return !avertissements().filter(phrase).isEmpty(); });
+    }
+};
+
+TEST_F(FenetreGenerationRemplie,
+       les_vraies_entrees_ressortent_et_la_derniere_du_projet_est_choisie) {
+    ecrire_entree("Defaut PourGenerer10.ini", "Defaut PourGenerer10.ini", 2);
+    ecrire_entree("copie.ini", "Defaut PourGenerer10.ini", 1);
+    ecrire_entree("Finale PourGenerer10.ini", "Finale PourGenerer10.ini", 0);
+    dans<QPushButton>("Fermer").click();
+    cliquer("generer");
+    // The list has not heard of them yet when the window comes back; its directory is read again.
+    auto& Combo = dans<QComboBox>("Combo");
+    Combo.setCurrentIndex(1);
+    Combo.setCurrentIndex(0);
+    auto& File = dans<QListWidget>("File");
+    ASSERT_NE(File.currentItem(), nullptr);
+    EXPECT_EQ(File.currentItem()->text(), "copie.ini");
+    EXPECT_TRUE(ligne("Finale PourGenerer10.ini").font().bold());
+    EXPECT_TRUE(ligne("Finale PourGenerer10.ini")
+                    .data(Qt::AccessibleTextRole)
+                    .toString()
+                    .contains("Fichier de génération du projet Finale"));
+    EXPECT_FALSE(ligne("Defaut Trajet1.ini").font().bold());
+    EXPECT_FALSE(ligne("Defaut Trajet1.ini").data(Qt::AccessibleTextRole).isValid());
+    // The choice is the user's until another project is loaded.
+    selectionner("File", "Defaut Trajet1.ini");
+    dialog->hide();
+    dialog->show();
+    EXPECT_EQ(File.currentItem()->text(), "Defaut Trajet1.ini");
+    e().NomProjet = "Finale";
+    dialog->hide();
+    dialog->show();
+    EXPECT_EQ(File.currentItem()->text(), "Finale PourGenerer10.ini");
+}
+
+TEST_F(FenetreGenerationRemplie, un_autre_fichier_ou_un_trajet_change_sont_signales_sans_bloquer) {
+    selectionner("File", "Defaut Trajet1.ini");
+    EXPECT_TRUE(averti("n'est pas un fichier de génération")) << "even before a program is chosen";
+    ecrire_entree("Defaut PourGenerer11.ini", "Defaut PourGenerer11.ini", 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        return !dans<QListWidget>("File")
+                    .findItems("Defaut PourGenerer11.ini", Qt::MatchExactly)
+                    .isEmpty();
+    }));
+    EXPECT_TRUE(ligne("Defaut PourGenerer11.ini").font().bold()) << "one that came meanwhile, too";
+    selectionner("File", "Defaut PourGenerer11.ini");
+    selectionner("File1", "depart.bas");
+    EXPECT_TRUE(averti("ne correspond plus à aucun trajet du projet Defaut"));
+    EXPECT_TRUE(dans<QListWidget>("avertissements").isVisible());
+    if (cible().find('.') != cible().rfind('.'))
+        GTEST_SKIP() << "the temporary directory's own name has a dot";
+    dans<QLineEdit>("fichier_a_generer").setText(QString::fromStdString(cible()));
+    reponses = {true, false};
+    generer();
+    EXPECT_TRUE(dossier.lire("Configuration/GENERE.bas")
+                    .ends_with("\tVal_Action=12\r\n\tGosub "
+                               "Action_Avance\r\n\tReturn\r\n"));
+}
+
+TEST_F(FenetreGenerationRemplie, un_essai_refuse_ne_laisse_pas_l_ancien_succes_et_dit_la_suite) {
+    if (cible().find('.') != cible().rfind('.'))
+        GTEST_SKIP() << "the temporary directory's own name has a dot";
+    selectionner("File", "Defaut PourGenerer10.ini");
+    selectionner("File1", "depart.bas");
+    dans<QLineEdit>("fichier_a_generer").setText(QString::fromStdString(cible()));
+    reponses = {true, false};
+    generer();
+    auto& compte = dans<QLabel>("compte_rendu");
+    EXPECT_TRUE(compte.text().startsWith("Fichier généré : "));
+    QString explication;
+    avant_de_repondre = [&](QMessageBox& boite) { explication = boite.informativeText(); };
+    for (const char* refuse : {"prog.txt", "sans_point"}) {
+        dans<QLineEdit>("fichier_a_generer").setText(refuse);
+        generer();
+        EXPECT_TRUE(compte.text().startsWith("Rien n'a été généré. ")) << refuse;
+        EXPECT_TRUE(compte.text().contains("« Fermer »")) << refuse;
+        EXPECT_FALSE(sim->options().isVisible());
+    }
+    dans<QLineEdit>("fichier_a_generer").setText("prog.txt");
+    generer();
+    EXPECT_TRUE(explication.contains("se terminer par « .bas »")) << "the advice stays";
+    EXPECT_TRUE(explication.contains("« Fermer », dans la fenêtre de génération, la fait revenir"));
 }
 
 TEST_F(FenetreGeneration, la_liste_des_fichiers_suit_l_extension_sans_tenir_compte_de_la_casse) {
