@@ -94,8 +94,10 @@ void signaler_menu(const Demande& demande, const PassageMenu& menu,
                    std::vector<std::string>& liste) {
     if (menu.deja > 0)
         liste.push_back("Menu : « " + demande.fonction + " » y est déjà (" + ligne_n(menu.deja) +
-                        " du fichier de départ) ; l'intégrer encore ajoute une seconde entrée et "
-                        "augmente NUM_MENU_MAX");
+                        " du fichier de départ)" +
+                        (menu.entrees == 2 ? " ; l'intégrer encore ajoute une seconde entrée et "
+                                             "augmente NUM_MENU_MAX"
+                                           : ""));
     if (!menu.ancre_manquante.empty()) {
         std::string phrase = "Menu : « " + menu.ancre_manquante + " » est introuvable, ";
         if (menu.constantes == 0)

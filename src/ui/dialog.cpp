@@ -238,6 +238,14 @@ void Dialog::avertir(const std::vector<std::string>& phrases) {
                             &avertissements_);
 }
 
+void Dialog::avertir_de_l_entree(const std::filesystem::path& entree) {
+    const std::string& charge = sim_.etat().NomProjet;
+    if (const auto projet = projet_du_fichier(entree); projet && *projet != charge)
+        avertir({entree.filename().string() + " est du projet " + *projet +
+                 " ; le projet chargé est " + charge});
+    avertir(avertissements_d_origine(entree));
+}
+
 void Dialog::montrer_apercu(const Demande& d) {
     const Apercu apercu = preparer_apercu(d, true);
     apercu_.setPlainText(texte_apercu(apercu));
@@ -253,7 +261,7 @@ void Dialog::rafraichir_apercu() {
     const Demande d = demande();
     try {
         if (!d.entree.empty())
-            avertir(avertissements_d_origine(d.entree));
+            avertir_de_l_entree(d.entree);
         if (d.depart.empty() || d.entree.empty())
             titre_apercu_.setText("Aperçu : choisissez un programme de départ et une trajectoire.");
         else

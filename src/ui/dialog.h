@@ -52,6 +52,7 @@ private:
     void rafraichir_apercu();
     void montrer_apercu(const Demande& d);
     void avertir(const std::vector<std::string>& phrases);
+    void avertir_de_l_entree(const std::filesystem::path& entree);
     void preselectionner();
     void retenir_dossiers() const;
 

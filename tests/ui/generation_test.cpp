@@ -228,6 +228,9 @@ TEST_F(FenetreGenerationRemplie,
     dialog->hide();
     dialog->show();
     EXPECT_EQ(File.currentItem()->text(), "Defaut Trajet1.ini");
+    selectionner("File", "Finale PourGenerer10.ini");
+    EXPECT_TRUE(averti("est du projet Finale ; le projet chargé est Defaut"));
+    selectionner("File", "Defaut Trajet1.ini");
     e().NomProjet = "Finale";
     dialog->hide();
     dialog->show();
