@@ -1,15 +1,15 @@
 #include "base/erreurs.h"
 
+#include "base/raisons.h"
+#include "base/visible.h"
+
 #include <array>
 #include <cerrno>
-#include <system_error>
 #include <utility>
 
-namespace {
-
-// The system's own texts follow the locale; these are the ones a student meets before a contest.
+// The system's own texts are English or follow the locale.
 std::string raison_systeme(int numero) {
-    constexpr std::array<std::pair<int, const char*>, 13> connues{{
+    constexpr std::array<std::pair<int, const char*>, 26> connues{{
         {ENOENT, "le fichier n'existe pas"},
         {EACCES, "accès refusé"},
         {EPERM, "opération interdite"},
@@ -23,25 +23,26 @@ std::string raison_systeme(int numero) {
         {EFBIG, "le fichier est trop grand"},
         {ELOOP, "trop de liens symboliques"},
         {EMFILE, "trop de fichiers ouverts"},
+        {ENFILE, "trop de fichiers ouverts"},
+        {EBADF, "fermé"},
+        {EPIPE, "personne ne lit plus"},
+        {EEXIST, "le fichier existe déjà"},
+        {EINVAL, "nom ou opération refusés par le système"},
+        {EBUSY, "le fichier est occupé"},
+        {ETXTBSY, "le fichier est un programme en cours"},
+        {ENOMEM, "la mémoire manque"},
+        {ENXIO, "le périphérique ne répond pas"},
+        {ENODEV, "le périphérique n'existe pas"},
+        {ESTALE, "le disque du réseau ne répond plus"},
+        {EXDEV, "le fichier est sur un autre disque"},
+        {EAGAIN, "le fichier est occupé"},
     }};
     for (const auto& [n, texte] : connues) {
         if (n == numero)
             return texte;
     }
-    return std::generic_category().message(numero);
+    return "erreur n° " + std::to_string(numero) + " du système";
 }
-
-std::string abrege(std::string_view texte) {
-    constexpr std::size_t maximum = 80;
-    if (texte.size() <= maximum)
-        return std::string(texte);
-    std::size_t fin = maximum;
-    while (fin > 0 && (static_cast<unsigned char>(texte[fin]) & 0xC0U) == 0x80U)
-        --fin;
-    return std::string(texte.substr(0, fin)) + "…";
-}
-
-} // namespace
 
 ErreurConversion::ErreurConversion(std::string_view texte, std::string_view attendu)
     : ErreurExecution("« " + abrege(texte) + " » n'est pas " + std::string(attendu)) {}

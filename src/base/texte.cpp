@@ -1,5 +1,7 @@
 #include "base/texte.h"
 
+#include "base/visible.h"
+
 #include <iconv.h>
 
 #include <algorithm>
@@ -17,31 +19,6 @@ bool est_chiffre(char c) {
 }
 bool est_blanc(char c) {
     return c == ' ' || c == '\t';
-}
-
-// Length of the valid UTF-8 sequence at the start of `s`, 0 if there is none.
-std::size_t longueur_sequence(std::string_view s) {
-    const auto octet = [&](std::size_t i) { return static_cast<unsigned char>(s[i]); };
-    const auto suite = [&](std::size_t i) { return i < s.size() && (octet(i) & 0xC0U) == 0x80U; };
-    const unsigned c = octet(0);
-    if (c < 0x80)
-        return 1;
-    if (c >= 0xC2 && c <= 0xDF)
-        return suite(1) ? 2 : 0;
-    if (c >= 0xE0 && c <= 0xEF) {
-        if (!suite(1) || !suite(2))
-            return 0;
-        // No overlong form, no surrogate.
-        const bool mauvais = (c == 0xE0 && octet(1) < 0xA0) || (c == 0xED && octet(1) > 0x9F);
-        return mauvais ? 0 : 3;
-    }
-    if (c >= 0xF0 && c <= 0xF4) {
-        if (!suite(1) || !suite(2) || !suite(3))
-            return 0;
-        const bool mauvais = (c == 0xF0 && octet(1) < 0x90) || (c == 0xF4 && octet(1) > 0x8F);
-        return mauvais ? 0 : 4;
-    }
-    return 0;
 }
 
 // One conversion by the C library; what it cannot convert becomes `remplacement`.

@@ -17,5 +17,19 @@ void ajouter_horizontale(CLI::App& verbe, ChoixDeLigne& choix) {
 }
 
 CLI::Validator entier_entre(int minimum, int maximum) {
-    return CLI::Range(minimum, maximum).description("");
+    const auto verifier = [bornes = CLI::Range(minimum, maximum), minimum,
+                           maximum](std::string& valeur) -> std::string {
+        if (bornes(valeur).empty())
+            return "";
+        return "« " + valeur + " » n'est pas un nombre de " + std::to_string(minimum) + " à " +
+               std::to_string(maximum);
+    };
+    return {verifier, ""};
+}
+
+CLI::Validator oui_ou_non() {
+    const auto verifier = [](std::string& valeur) -> std::string {
+        return valeur == "oui" || valeur == "non" ? "" : "répondre oui ou non";
+    };
+    return {verifier, ""};
 }

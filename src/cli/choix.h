@@ -11,3 +11,5 @@ void ajouter_horizontale(CLI::App& verbe, ChoixDeLigne& choix);
 
 /// A whole number in a range; the help shows the option's own name for it.
 CLI::Validator entier_entre(int minimum, int maximum);
+/// One of these two words.
+CLI::Validator oui_ou_non();

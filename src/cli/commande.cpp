@@ -1,6 +1,7 @@
 #include "cli/commande.h"
 
 #include "base/texte.h"
+#include "base/visible.h"
 #include "record/actions_console.h"
 #include "record/champs.h"
 
@@ -65,7 +66,7 @@ std::optional<Commande> lire_commande(std::string_view ligne) {
         std::string attendues;
         for (const ActionConsole& possible : actions_console)
             attendues.append(attendues.empty() ? "" : ", ").append(possible.legende);
-        throw ErreurExecution("« " + std::string(mots.front()) + " » est inconnue, il faut " +
+        throw ErreurExecution("« " + abrege(mots.front()) + " » est inconnue, il faut " +
                               attendues);
     }
     const std::vector<std::string_view> valeurs(mots.begin() + static_cast<std::ptrdiff_t>(pris),

@@ -86,7 +86,9 @@ int dessiner(const OptionsDessiner& options) {
     const auto etat = std::make_unique<Etat>();
     FenetresDessiner fenetres(*etat, std::cerr);
     Simulation simulation(*etat, fenetres, options.choix);
-    if (options.temps > 0 && !fenetres.terminee())
+    if (!simulation.demarree())
+        return fenetres.code_de_sortie();
+    if (options.temps > 0)
         simulation.jouer(options.temps);
     if (!fenetres.terminee())
         ecrire_resultat(sortie, peindre(*etat, fenetres, simulation.image(), options.trace));

@@ -1,5 +1,6 @@
 #include "codegen/etiquettes.h"
 #include "base/fichiers.h"
+#include "cli/sortie.h"
 #include "cli/verbes.h"
 
 #include <iostream>
@@ -12,17 +13,19 @@ struct ChoixEtiquettes {
     std::optional<std::string> etiquette;
 };
 
-void afficher_liste(const std::vector<Etiquette>& etiquettes) {
-    for (const Etiquette& etiquette : etiquettes)
-        std::cout << etiquette.texte << '\n';
+// A line at a time: a list of millions would take many times the file's own size.
+void afficher_liste(const Programme& programme) {
+    const SortieDeLignes sortie;
+    pour_chaque_etiquette(programme, [&](const Etiquette& e) { sortie.ligne(e.texte); });
 }
 
 // The body begins with a line end, which a terminal does not need.
 void afficher_corps(const std::string& corps) {
+    const SortieDeLignes sortie;
     Lignes lignes(corps);
     lignes.suivante();
     while (const auto ligne = lignes.suivante())
-        std::cout << *ligne << '\n';
+        sortie.ligne(*ligne);
 }
 
 int executer(const ChoixEtiquettes& choix) {
@@ -30,20 +33,20 @@ int executer(const ChoixEtiquettes& choix) {
     try {
         programme.emplace(lire_octets(choix.fichier));
     } catch (const ErreurFichier& erreur) {
-        std::cerr << "Erreur lors de la lecture du fichier " << erreur.what() << '\n';
+        ecrire_ligne(std::cerr,
+                     std::string("Erreur lors de la lecture du fichier ") + erreur.what());
         return 1;
     }
-    const std::vector<Etiquette> etiquettes = lister_etiquettes(*programme);
     if (!choix.etiquette) {
-        afficher_liste(etiquettes);
+        afficher_liste(*programme);
         return 0;
     }
-    const auto rang = chercher_etiquette(etiquettes, *choix.etiquette);
-    if (!rang) {
-        std::cerr << choix.fichier << " : aucune étiquette « " << *choix.etiquette << " »\n";
+    const auto trouvee = chercher_etiquette(*programme, *choix.etiquette);
+    if (!trouvee) {
+        ecrire_ligne(std::cerr, choix.fichier + " : aucune étiquette « " + *choix.etiquette + " »");
         return 1;
     }
-    afficher_corps(corps_de(*programme, etiquettes[*rang].texte));
+    afficher_corps(corps_de(*programme, trouvee->texte));
     return 0;
 }
 

@@ -1,5 +1,7 @@
 #include "cli/fenetres_terminal.h"
 
+#include "cli/sortie.h"
+
 #include <string>
 
 void FenetresTerminal::message(std::string_view texte, std::string_view) {
@@ -7,7 +9,7 @@ void FenetresTerminal::message(std::string_view texte, std::string_view) {
     Lignes lignes(texte);
     while (const auto suivante = lignes.suivante())
         ligne.append(ligne.empty() ? "" : " ").append(*suivante);
-    erreurs_ << ligne << std::endl;
+    ecrire_ligne(erreurs_, ligne);
     ++nb_messages_;
 }
 

@@ -1,7 +1,7 @@
 #include "cli/francais.h"
 
 #include <memory>
-#include <regex>
+#include <vector>
 
 namespace {
 
@@ -9,6 +9,7 @@ class MiseEnForme final : public CLI::Formatter {
 public:
     MiseEnForme() {
         label("Usage", "Utilisation ");
+        label("Positionals", "Arguments ");
         label("SUBCOMMAND", "COMMANDE");
         label("SUBCOMMANDS", "COMMANDES");
         label("REQUIRED", "(obligatoire)");
@@ -27,38 +28,59 @@ std::string suite(const std::string& message) {
     return deux_points == std::string::npos ? message : message.substr(deux_points + 2);
 }
 
+bool contient(const std::string& message, const char* morceau) {
+    return message.find(morceau) != std::string::npos;
+}
+
+std::string arguments_inconnus(const CLI::App& app) {
+    const std::vector<std::string> restes = app.remaining(true);
+    std::string texte = restes.size() > 1 ? "arguments inconnus :" : "argument inconnu :";
+    for (const std::string& reste : restes)
+        texte.append(" ").append(reste.empty() ? "''" : reste);
+    return texte;
+}
+
+std::string manquant(const std::string& message) {
+    const std::string quoi = message.substr(0, message.rfind(" is required"));
+    return quoi == "A subcommand" ? "il manque la commande" : "il manque " + quoi;
+}
+
+std::string nombre_de_valeurs(const std::string& message) {
+    if (contient(message, "At Most"))
+        return sujet(message) + " : donné plusieurs fois";
+    return sujet(message) + " : il manque sa valeur";
+}
+
 } // namespace
 
 void parler_francais(CLI::App& app) {
     app.formatter(std::make_shared<MiseEnForme>());
     app.set_help_flag("-h,--help", "Affiche cette aide");
+    for (CLI::Option* option :
+         app.get_options([](const CLI::Option* o) { return !o->get_positional(); }))
+        option->group("Options ");
     for (CLI::App* verbe : app.get_subcommands({})) {
-        verbe->group("Commandes");
+        verbe->group("Commandes ");
         parler_francais(*verbe);
     }
 }
 
-std::string en_francais(const CLI::ParseError& erreur) {
-    std::string message = erreur.what();
-    const auto nature = static_cast<CLI::ExitCodes>(erreur.get_exit_code());
-    std::smatch morceaux;
-    if (nature == CLI::ExitCodes::ExtrasError)
-        return "argument inconnu : " + suite(message);
-    if (nature == CLI::ExitCodes::RequiredError) {
-        const std::string quoi = message.substr(0, message.find(" is required"));
-        return quoi == "A subcommand" ? "il manque la commande" : "il manque " + quoi;
-    }
-    if (nature == CLI::ExitCodes::ValidationError) {
-        static const std::regex hors_bornes("Value (.*) not in range (.*) to (.*)");
-        const std::string raison = suite(message);
-        if (std::regex_match(raison, morceaux, hors_bornes))
-            return sujet(message) + " : « " + morceaux[1].str() + " » n'est pas un nombre de " +
-                   morceaux[2].str() + " à " + morceaux[3].str();
-        return sujet(message) + " : valeur refusée (" + raison + ")";
-    }
-    if (nature == CLI::ExitCodes::ConversionError)
+std::string en_francais(const CLI::ParseError& erreur, const CLI::App& app) {
+    const std::string message = erreur.what();
+    switch (static_cast<CLI::ExitCodes>(erreur.get_exit_code())) {
+    case CLI::ExitCodes::ExtrasError:
+        return arguments_inconnus(app);
+    case CLI::ExitCodes::RequiredError:
+        return manquant(message);
+    case CLI::ExitCodes::ValidationError: // our own checks speak French
+        return sujet(message) + " : " + suite(message);
+    case CLI::ExitCodes::ConversionError:
         return "valeur illisible : " + suite(message);
-    if (nature == CLI::ExitCodes::ArgumentMismatch)
-        return sujet(message) + " : il manque une valeur, ou il y en a trop";
-    return message;
+    case CLI::ExitCodes::ArgumentMismatch:
+        return nombre_de_valeurs(message);
+    case CLI::ExitCodes::BaseClass: // ErreurUsage
+        return message;
+    default:
+        return "commande mal écrite";
+    }
 }

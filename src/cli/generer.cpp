@@ -1,4 +1,8 @@
 #include "base/texte.h"
+#include "base/visible.h"
+#include "cli/choix.h"
+#include "cli/flux.h"
+#include "cli/sortie.h"
 #include "cli/verbes.h"
 #include "codegen/apercu.h"
 #include "codegen/generateur.h"
@@ -23,21 +27,14 @@ struct ChoixGenerer {
     std::optional<fs::path> dossier;
 };
 
-// The parser's form of a check: the complaint, empty when there is none.
-std::string oui_ou_non(const std::string& valeur) {
-    return valeur == "oui" || valeur == "non" ? "" : "répondre oui ou non";
-}
-
 // The answer of --ecraser, else the terminal's, else Non.
 bool repondre(const ChoixGenerer& choix, std::string_view question) {
     if (!choix.ecraser.empty())
         return choix.ecraser == "oui";
     if (::isatty(STDIN_FILENO) == 0)
         return false;
-    std::cerr << question << " [o/N] " << std::flush;
-    std::string reponse;
-    std::getline(std::cin, reponse);
-    reponse = minuscules(rogner(reponse));
+    std::cerr << visible(question) << " [o/N] " << std::flush;
+    const std::string reponse = minuscules(rogner(lire_ligne().value_or("")));
     return reponse == "o" || reponse == "oui";
 }
 
@@ -48,15 +45,16 @@ char signe(SorteLigne sorte) {
 }
 
 void afficher_apercu(const Apercu& apercu) {
+    const SortieDeLignes sortie;
     for (const LigneApercu& ligne : apercu.lignes)
-        std::cout << signe(ligne.sorte) << ligne.texte << '\n';
+        sortie.ligne(signe(ligne.sorte) + ligne.texte);
 }
 
 // Before anything is asked or written; they neither refuse nor change the exit code.
 void avertir(const Demande& demande, const Apercu& apercu) {
     for (const auto& liste : {avertissements_d_origine(demande.entree), apercu.avertissements})
         for (const std::string& avertissement : liste)
-            std::cerr << "Avertissement : " << avertissement << '\n';
+            ecrire_ligne(std::cerr, "Avertissement : " + avertissement);
 }
 
 // What the generation will be answered, as far as it is known.
@@ -69,9 +67,9 @@ bool ecrasera(const ChoixGenerer& choix) {
 // What was changed besides the target.
 void dire(const ChoixGenerer& choix, const Generation& generation) {
     for (const fs::path& copie : generation.sauvegardes)
-        std::cout << "Copie de sauvegarde : " << copie.string() << '\n';
+        ecrire_ligne(std::cout, "Copie de sauvegarde : " + copie.string());
     if (generation.depart_reecrit)
-        std::cout << "Fichier de départ modifié : " << choix.depart << '\n';
+        ecrire_ligne(std::cout, "Fichier de départ modifié : " + choix.depart);
 }
 
 int executer(ChoixGenerer& choix) {
@@ -80,10 +78,10 @@ int executer(ChoixGenerer& choix) {
     demande.entree = choix.entree;
     demande.CheminCourant = fs::absolute(demande.entree).parent_path().string();
     if (const Refus refus = verifier(demande)) {
-        std::cerr << refus.message << '\n';
+        ecrire_ligne(std::cerr, refus.message);
         if (!refus.conseil.empty())
-            std::cerr << refus.conseil << '\n';
-        return 1;
+            ecrire_ligne(std::cerr, refus.conseil);
+        return cible_est_l_entree(demande) ? 2 : 1;
     }
     const Apercu apercu = preparer_apercu(demande, ecrasera(choix));
     if (choix.apercu)
@@ -101,7 +99,7 @@ int executer(ChoixGenerer& choix) {
         dire(choix, arret.faite);
         throw;
     }
-    std::cout << "Fichier généré : " << demande.cible << '\n';
+    ecrire_ligne(std::cout, "Fichier généré : " + demande.cible);
     return 0;
 }
 
@@ -124,7 +122,7 @@ void declarer_options(CLI::App& verbe, ChoixGenerer& choix) {
         .add_option("--ecraser", choix.ecraser,
                     "Écraser une fonction du même nom : oui ou non (sans cette option, la question "
                     "est posée sur le terminal)")
-        ->check(oui_ou_non)
+        ->check(oui_ou_non())
         ->type_name("oui|non");
     verbe.add_flag("--apercu", choix.apercu,
                    "Montrer ce qui changerait, avec les avertissements, sans rien écrire");

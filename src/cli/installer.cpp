@@ -1,5 +1,7 @@
 #include "cli/choix.h"
+#include "cli/sortie.h"
 #include "cli/verbes.h"
+#include "cli/verification.h"
 #include "config/dossier.h"
 
 #include <iostream>
@@ -8,21 +10,37 @@
 
 namespace {
 
+// Says why as well.
+class FenetresVerifier final : public FenetresTerminal {
+public:
+    FenetresVerifier(Etat& etat, std::ostream& erreurs)
+        : FenetresTerminal(etat, erreurs), erreurs_(erreurs) {}
+
+    void message(std::string_view texte, std::string_view explication) override {
+        FenetresTerminal::message(texte);
+        if (!explication.empty())
+            ecrire_ligne(erreurs_, explication);
+    }
+
+private:
+    std::ostream& erreurs_;
+};
+
 // Runs `action` on a project of its own, then gives the exit code.
 template <typename Action>
 int avec_projet(const ChoixDeLigne& choix, std::filesystem::path dossier, Action action) {
     const auto etat = std::make_unique<Etat>();
-    FenetresTerminal fenetres(*etat, std::cerr);
+    FenetresVerifier fenetres(*etat, std::cerr);
     Projet projet(*etat, fenetres, std::move(dossier));
     if (choix.projet)
         projet.imposer_projet(*choix.projet);
-    action(projet, fenetres);
+    action(projet, *etat, fenetres);
     return fenetres.code_de_sortie();
 }
 
 // The files of the default project and, if another one is named, its own. The window leaves a file
 // that cannot be written to its reader; here the user asked for it, and is told.
-void installer(Projet& projet, Fenetres& fenetres) {
+void installer(Projet& projet, Etat&, Fenetres& fenetres) {
     projet.Installe();
     projet.LoadGeneral();
     std::vector<std::filesystem::path> attendus{projet.chemin_table()};
@@ -57,10 +75,14 @@ void declarer_installer(CLI::App& app, int& code_de_sortie) {
 
 void declarer_verifier(CLI::App& app, int& code_de_sortie) {
     const auto choix = std::make_shared<ChoixDeLigne>();
-    verbe_de_projet(app, "verifier", "Lit tous les fichiers du projet sans rien changer", *choix)
+    verbe_de_projet(app, "verifier", "Lit et essaie tous les fichiers du projet sans rien changer",
+                    *choix)
         ->callback([choix, &code_de_sortie] {
             // Changes nothing: the application directory is not even made.
             code_de_sortie = avec_projet(*choix, dossier_application(choix->dossier),
-                                         [](Projet& projet, Fenetres&) { projet.verifier(); });
+                                         [](Projet& projet, Etat& etat, Fenetres& fenetres) {
+                                             projet.verifier();
+                                             essayer_le_projet(etat, projet, fenetres);
+                                         });
         });
 }

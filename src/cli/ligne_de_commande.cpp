@@ -1,13 +1,17 @@
 #include "cli/ligne_de_commande.h"
 
-#include "base/erreurs.h"
+#include "cli/flux.h"
 #include "cli/francais.h"
+#include "cli/sortie.h"
 #include "cli/verbes.h"
 
+#include <filesystem>
 #include <iostream>
+#include <new>
 
 namespace {
 
+constexpr int code_message = 1;
 constexpr int code_usage = 2;
 
 int executer(int argc, char** argv) {
@@ -27,23 +31,39 @@ int executer(int argc, char** argv) {
         return app.exit(demande, std::cout, std::cerr);
     } catch (const CLI::ParseError& erreur) {
         const bool verbe_inconnu = app.get_subcommands().empty() && argc > 1 && argv[1][0] != '-';
-        std::cerr << "tavolmex-cli : "
-                  << (verbe_inconnu ? std::string("commande inconnue : ") + argv[1]
-                                    : en_francais(erreur))
-                  << "\n"
-                  << "Essayez « tavolmex-cli --help ».\n";
+        ecrire_ligne(std::cerr, "tavolmex-cli : " +
+                                    (verbe_inconnu ? std::string("commande inconnue : ") + argv[1]
+                                                   : en_francais(erreur, app)));
+        ecrire_ligne(std::cerr, "Essayez « tavolmex-cli --help ».");
         return code_usage;
     }
     return code;
 }
 
+int echouer(const std::string& raison) {
+    ecrire_ligne(std::cerr, "Erreur d'exécution : " + raison);
+    return code_message;
+}
+
+int executer_ou_dire_pourquoi(int argc, char** argv) {
+    try {
+        return executer(argc, argv);
+    } catch (const std::filesystem::filesystem_error& erreur) {
+        return echouer(ErreurFichier(erreur.path1(), erreur.code().value()).what());
+    } catch (const std::bad_alloc&) {
+        return echouer("la mémoire manque");
+    } catch (const std::exception& erreur) {
+        return echouer(erreur.what());
+    }
+}
+
 } // namespace
 
 int executer_ligne_de_commande(int argc, char** argv) {
-    try {
-        return executer(argc, argv);
-    } catch (const std::exception& erreur) {
-        std::cerr << "Erreur d'exécution : " << erreur.what() << "\n";
-        return 1;
-    }
+    const int code = executer_ou_dire_pourquoi(argc, argv);
+    const auto perdue = terminer_la_sortie();
+    if (!perdue)
+        return code;
+    echouer(perdue->what());
+    return code == 0 ? code_message : code;
 }

@@ -2,6 +2,8 @@
 
 #include "cli/choix.h"
 #include "cli/commande.h"
+#include "cli/flux.h"
+#include "cli/sortie.h"
 #include "record/console.h"
 
 #include <unistd.h>
@@ -20,6 +22,12 @@ struct OptionsPiloter {
     bool damier = false;
 };
 
+// Whoever was asked is gone: that is no answer, and no answer loses nothing.
+class SansReponse : public ErreurExecution {
+public:
+    SansReponse() : ErreurExecution("pas de réponse") {}
+};
+
 // The outlet of the console: its questions go to whoever sits at the terminal, or have one answer.
 class FenetresPiloter final : public FenetresTerminal {
 public:
@@ -33,14 +41,14 @@ public:
         FenetresTerminal::message(texte);
         if (!reponse_.empty() || !interactif())
             return reponse_ == "oui";
-        std::string reponse;
         if (!explication.empty())
-            std::cerr << explication << '\n';
+            ecrire_ligne(std::cerr, explication);
         std::cerr << "(oui/non) ? " << std::flush;
-        std::cin.clear(); // after the commands' end-of-file key, a terminal still answers
-        std::clearerr(stdin);
-        std::getline(std::cin, reponse);
-        return minuscules(rogner(reponse)).starts_with('o');
+        std::clearerr(stdin); // after the commands' end-of-file key, a terminal still answers
+        const auto reponse = lire_ligne();
+        if (!reponse)
+            throw SansReponse();
+        return minuscules(rogner(*reponse)).starts_with('o');
     }
     void Active_Desactive(bool Status) override {
         if (Status && console_ != nullptr)
@@ -81,12 +89,27 @@ public:
                    tient_la_reprise_ ? &reprise_ : nullptr) {
         fenetres_.suivre(console_);
         if (!tient_la_reprise_)
-            std::cerr << "Un trajet enregistré attend dans " << reprise_.chemin().string()
-                      << " : la fenêtre le proposera." << std::endl;
+            ecrire_ligne(std::cerr, "Un trajet enregistré attend dans " +
+                                        reprise_.chemin().string() + " : la fenêtre le proposera.");
     }
 
     int jouer() {
-        const int code = fenetres_.terminee() ? 0 : commencer();
+        if (!simulation_.demarree())
+            return fenetres_.code_de_sortie();
+        try {
+            return jouer_jusqu_au_bout();
+        } catch (const SansReponse&) {
+            fenetres_.message("Pas de réponse : " + ou_est_l_enregistrement());
+        } catch (const ErreurFichier& erreur) { // standard input
+            fenetres_.message(std::string("Erreur d'exécution : ") + erreur.what() + " ; " +
+                              ou_est_l_enregistrement());
+        }
+        return fenetres_.code_de_sortie();
+    }
+
+private:
+    int jouer_jusqu_au_bout() {
+        const int code = commencer();
         if (code == code_commande)
             return code;
         const int commandes = fenetres_.terminee() ? 0 : lire_commandes();
@@ -95,7 +118,14 @@ public:
         return finir() || deroulement != 0 ? deroulement : 1;
     }
 
-private:
+    std::string ou_est_l_enregistrement() const {
+        std::error_code erreur;
+        if (!tient_la_reprise_ || !std::filesystem::exists(reprise_.chemin(), erreur))
+            return "rien n'a été enregistré";
+        return "l'enregistrement est gardé dans " + reprise_.chemin().string() +
+               ", il sera proposé au prochain démarrage de la fenêtre";
+    }
+
     int commencer() {
         Etat& e = *etat_;
         e.utiliDamier = options_.damier;
@@ -119,12 +149,16 @@ private:
     }
 
     int lire_commandes() {
-        std::string ligne;
-        for (int numero = 1; !fenetres_.terminee() && demander(ligne); ++numero) {
+        for (int numero = 1; !fenetres_.terminee(); ++numero) {
             try {
-                executer(ligne, numero);
+                const auto ligne = demander();
+                if (!ligne)
+                    break;
+                executer(*ligne, numero);
+            } catch (const ErreurFichier&) {
+                throw; // standard input itself
             } catch (const ErreurExecution& erreur) {
-                std::cerr << "Ligne " << numero << " : " << erreur.what() << std::endl;
+                ecrire_ligne(std::cerr, "Ligne " + std::to_string(numero) + " : " + erreur.what());
                 if (!fenetres_.interactif())
                     return code_commande;
             }
@@ -132,10 +166,10 @@ private:
         return 0;
     }
 
-    bool demander(std::string& ligne) {
+    std::optional<std::string> demander() {
         if (fenetres_.interactif())
             std::cerr << pose() << " > " << std::flush;
-        return static_cast<bool>(std::getline(std::cin, ligne));
+        return lire_ligne();
     }
 
     void executer(const std::string& ligne, int numero) {
@@ -199,7 +233,7 @@ void declarer_piloter(CLI::App& app, int& code_de_sortie) {
                   "« # » commence un commentaire.");
     ajouter_dossier(*verbe, options->choix);
     verbe->add_option("--robot", options->robot, "Numéro du robot")
-        ->check(CLI::Range(1, robots_des_fichiers))
+        ->check(entier_entre(1, robots_des_fichiers))
         ->type_name("N");
     verbe
         ->add_option("--position", options->position,
@@ -210,7 +244,7 @@ void declarer_piloter(CLI::App& app, int& code_de_sortie) {
         ->add_option("--sauver", options->sauver,
                      "Réponse à la question de sauvegarde (sinon : posée sur un terminal, non "
                      "ailleurs)")
-        ->check(CLI::IsMember({"oui", "non"}))
+        ->check(oui_ou_non())
         ->type_name("oui|non");
     verbe->callback([options, &code_de_sortie] { code_de_sortie = Seance(*options).jouer(); });
 }

@@ -6,10 +6,23 @@
 #include <cstdio>
 #include <utility>
 
+int pour_cent(std::int64_t fait, std::int64_t total) {
+    if (total <= 0)
+        return 100;
+    return static_cast<int>(std::clamp<std::int64_t>(100 * fait / total, 0, 100));
+}
+
+std::string barre_de_progres(const std::string& titre, int pour_cent) {
+    constexpr std::size_t places = 25;
+    const std::size_t pleines = static_cast<std::size_t>(pour_cent) * places / 100;
+    std::string nombre = std::to_string(pour_cent);
+    nombre.insert(0, 3 - nombre.size(), ' ');
+    return titre + " [" + std::string(pleines, '#') + std::string(places - pleines, '.') + "] " +
+           nombre + " %";
+}
+
 Progres::Progres(std::string titre, std::int64_t total)
-    : titre_(std::move(titre)),
-      total_(std::max<std::int64_t>(total, 1)),
-      actif_(::isatty(STDERR_FILENO) == 1) {}
+    : titre_(std::move(titre)), total_(total), actif_(::isatty(STDERR_FILENO) == 1) {}
 
 Progres::~Progres() {
     if (visible_)
@@ -20,13 +33,10 @@ void Progres::montrer(std::int64_t fait) {
     using namespace std::chrono_literals;
     if (std::chrono::steady_clock::now() - debut_ < 500ms)
         return;
-    const std::int64_t centieme = std::clamp<std::int64_t>(100 * fait / total_, 0, 100);
-    if (centieme == montre_)
+    const int maintenant = pour_cent(fait, total_);
+    if (maintenant == montre_)
         return;
-    montre_ = centieme;
+    montre_ = maintenant;
     visible_ = true;
-    const auto pleines = static_cast<std::size_t>(centieme / 4);
-    const std::string barre = std::string(pleines, '#') + std::string(25 - pleines, '.');
-    std::fprintf(stderr, "\r%s [%s] %3d %%", titre_.c_str(), barre.c_str(),
-                 static_cast<int>(centieme));
+    std::fputs(("\r" + barre_de_progres(titre_, maintenant)).c_str(), stderr);
 }

@@ -4,6 +4,11 @@
 #include <cstdint>
 #include <string>
 
+/// How much is done, 0 to 100; of nothing at all everything is.
+int pour_cent(std::int64_t fait, std::int64_t total);
+/// "Titre [#####....................]  20 %".
+std::string barre_de_progres(const std::string& titre, int pour_cent);
+
 /// A progress bar on standard error, shown only on a terminal and only for what takes longer than
 /// half a second.
 class Progres {
@@ -27,5 +32,5 @@ private:
     bool visible_ = false;
     unsigned appels_ = 0;
     std::chrono::steady_clock::time_point debut_ = std::chrono::steady_clock::now();
-    std::int64_t montre_ = -1;
+    int montre_ = -1;
 };

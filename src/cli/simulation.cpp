@@ -22,6 +22,7 @@ Simulation::Simulation(Etat& etat, FenetresTerminal& fenetres, const ChoixDeLign
     // Whatever no reader traps stops the start-up there, with its reason.
     try {
         demarrer(choix);
+        demarree_ = true;
     } catch (const ErreurExecution& erreur) {
         f.message(std::string("Erreur d'exécution : ") + erreur.what());
     }
@@ -33,7 +34,7 @@ void Simulation::demarrer(const ChoixDeLigne& choix) {
     projet_.Installe();
     projet_.LoadGeneral();
     projet_.LoadTable();
-    disposer();
+    image_ = disposer(e);
     projet_.Init_Robot();
     projet_.Init_Jeu();
     initDamier(e);
@@ -55,11 +56,11 @@ void Simulation::appliquer_options(const ChoixDeLigne& choix) {
     if (e.Options(4) == 1) {
         horizontal(e);
         e.TableHorizontale = vrai16(true);
-        disposer();
+        image_ = disposer(e);
     }
 }
 
-void Simulation::disposer() {
+Image disposer(Etat& e) {
     constexpr double largeur = 1280.0 * twips_par_pixel;
     constexpr double hauteur = 720.0 * twips_par_pixel;
     constexpr double ligne = 20.0 * twips_par_pixel;
@@ -68,7 +69,7 @@ void Simulation::disposer() {
                                          .cadre_vertical = 2 * ligne,
                                          .hauteur_Mess = ligne,
                                          .hauteur_Info = ligne});
-    image_ = {double(d.largeur_Table) / twips_par_pixel, double(d.hauteur_Table) / twips_par_pixel};
+    return {double(d.largeur_Table) / twips_par_pixel, double(d.hauteur_Table) / twips_par_pixel};
 }
 
 void Simulation::jouer(std::int32_t duree) {

@@ -28,12 +28,18 @@ struct Image {
     double hauteur = 0;
 };
 
+/// Init_Table for such a screen. @throws ErreurExecution when the table does not allow it
+Image disposer(Etat& e);
+
 /// A whole simulator without a window: state, outlet, engine and project, started like the window.
 class Simulation {
 public:
     /// Reads the project and applies the settings. Messages go through `fenetres`, which works on
     /// `etat`.
     Simulation(Etat& etat, FenetresTerminal& fenetres, const ChoixDeLigne& choix);
+
+    /// False when the start-up stopped half-way, its reason told: there is nothing to play.
+    bool demarree() const { return demarree_ && !f.terminee(); }
 
     /// Plays ticks until the run ends by itself or TempsEcoule reaches `duree` (hundredths of a
     /// second).
@@ -47,11 +53,11 @@ public:
 private:
     void demarrer(const ChoixDeLigne& choix);
     void appliquer_options(const ChoixDeLigne& choix);
-    void disposer();
 
     Etat& e;
     FenetresTerminal& f;
     Moteur moteur_;
     Projet projet_;
     Image image_;
+    bool demarree_ = false;
 };

@@ -1,4 +1,6 @@
+#include "base/chemins.h"
 #include "cli/choix.h"
+#include "cli/francais.h"
 #include "cli/sortie.h"
 #include "cli/trace.h"
 #include "cli/verbes.h"
@@ -40,14 +42,25 @@ private:
     std::string etats_;
 };
 
+// The second result would replace the first one.
+void refuser_le_meme_fichier(const std::filesystem::path& trace,
+                             const std::filesystem::path& etat) {
+    if (trace.empty() || etat.empty() || std::filesystem::is_character_file(trace))
+        return;
+    if (trace == etat || (trace != "-" && etat != "-" && meme_fichier(trace, etat)))
+        throw ErreurUsage("--trace et --etat désignent le même fichier : " + trace.string());
+}
+
 int simuler(const OptionsSimuler& options) {
     const auto fichier_trace = place_demandee(options.trace);
     const auto fichier_etat = place_demandee(options.etat);
+    refuser_le_meme_fichier(fichier_trace, fichier_etat);
     const auto etat = std::make_unique<Etat>();
     FenetresSimuler fenetres(*etat, std::cerr, options);
     Simulation simulation(*etat, fenetres, options.choix);
-    if (!fenetres.terminee())
-        simulation.jouer(options.duree);
+    if (!simulation.demarree())
+        return fenetres.code_de_sortie();
+    simulation.jouer(options.duree);
     if (!fichier_trace.empty())
         ecrire_resultat(fichier_trace, fenetres.trace());
     if (!fichier_etat.empty())

@@ -1,6 +1,9 @@
 #include "cli/sortie.h"
 
 #include "base/fichiers.h"
+#include "base/visible.h"
+
+#include <unistd.h>
 
 #include <cerrno>
 #include <fstream>
@@ -14,7 +17,10 @@ std::filesystem::path place_demandee(const std::string& chemin) {
 
 void ecrire_resultat(const std::filesystem::path& chemin, std::string_view octets) {
     if (chemin == "-") {
-        std::cout << octets << std::flush;
+        if (::isatty(STDOUT_FILENO) == 1)
+            std::cout << visible(octets, "\t\n");
+        else
+            std::cout << octets;
         return;
     }
     std::error_code erreur;
@@ -26,4 +32,17 @@ void ecrire_resultat(const std::filesystem::path& chemin, std::string_view octet
     flux << octets << std::flush;
     if (!flux)
         throw ErreurFichier(chemin, errno);
+}
+
+void ecrire_ligne(std::ostream& flux, std::string_view texte) {
+    flux << visible(texte) << '\n' << std::flush;
+}
+
+SortieDeLignes::SortieDeLignes() : terminal_(::isatty(STDOUT_FILENO) == 1) {}
+
+void SortieDeLignes::ligne(std::string_view texte) const {
+    if (terminal_)
+        std::cout << visible(texte) << '\n';
+    else
+        std::cout << texte << '\n';
 }

@@ -1,5 +1,6 @@
 #include "codegen/demande.h"
 
+#include "base/chemins.h"
 #include "base/erreurs.h"
 #include "base/texte.h"
 
@@ -24,7 +25,14 @@ Refus verifier(const Demande& demande) {
                 "Le fichier à générer doit se terminer par « .bas », et ni son nom ni ses "
                 "dossiers ne doivent contenir un autre point : « " +
                     demande.cible + " »."};
+    if (cible_est_l_entree(demande))
+        return {"Le fichier à générer est le fichier de génération lui-même",
+                "Il serait perdu. Choisissez un autre nom pour le fichier à générer."};
     return {};
+}
+
+bool cible_est_l_entree(const Demande& demande) {
+    return meme_fichier(demande.cible, demande.entree);
 }
 
 fs::path cible_par_defaut(const fs::path& dossier_configuration, const std::string& NomProjet) {

@@ -25,6 +25,9 @@ struct Refus {
 /// @throws ErreurExecution when the target's name has no "."
 Refus verifier(const Demande& demande);
 
+/// The target would replace the generation input that it is made from.
+bool cible_est_l_entree(const Demande& demande);
+
 /// The default target: <application>/Configuration/<project>GENERE.BAS.
 std::filesystem::path cible_par_defaut(const std::filesystem::path& dossier_configuration,
                                        const std::string& NomProjet);

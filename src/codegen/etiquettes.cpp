@@ -12,15 +12,42 @@ std::string_view nom_nu(std::string_view etiquette) {
     return rogner(nom);
 }
 
+// How well labels answer to a name: the first that is equal, else the first whose bare name is.
+class Recherche {
+public:
+    explicit Recherche(std::string_view nom) : exact_(majuscules(nom)), nu_(nom_nu(exact_)) {}
+
+    bool close() const { return exacte_; }
+    /// @returns true when this label is the best so far
+    bool retient(std::string_view etiquette) {
+        if (exacte_ || (etiquette != exact_ && (trouvee_ || nom_nu(etiquette) != nu_)))
+            return false;
+        exacte_ = etiquette == exact_;
+        trouvee_ = true;
+        return true;
+    }
+
+private:
+    std::string exact_;
+    std::string_view nu_; // of exact_
+    bool trouvee_ = false;
+    bool exacte_ = false;
+};
+
 } // namespace
 
-std::vector<Etiquette> lister_etiquettes(const Programme& programme) {
-    std::vector<Etiquette> etiquettes;
+void pour_chaque_etiquette(const Programme& programme,
+                           const std::function<void(const Etiquette&)>& action) {
     LignesProgramme lignes = programme.lignes();
     while (const auto ligne = lignes.suivante()) {
         if (ligne->texte.ends_with(':'))
-            etiquettes.push_back({majuscules(ligne->texte), ligne->numero});
+            action({majuscules(ligne->texte), ligne->numero});
     }
+}
+
+std::vector<Etiquette> lister_etiquettes(const Programme& programme) {
+    std::vector<Etiquette> etiquettes;
+    pour_chaque_etiquette(programme, [&](const Etiquette& e) { etiquettes.push_back(e); });
     return etiquettes;
 }
 
@@ -72,14 +99,21 @@ std::vector<std::size_t> chercher_dans_les_corps(const Programme& programme,
 
 std::optional<std::size_t> chercher_etiquette(const std::vector<Etiquette>& etiquettes,
                                               std::string_view nom) {
-    const std::string exact = majuscules(nom);
-    const std::string_view nu = nom_nu(exact);
+    Recherche recherche(nom);
     std::optional<std::size_t> trouvee;
-    for (std::size_t i = 0; i < etiquettes.size(); ++i) {
-        if (etiquettes[i].texte == exact)
-            return i;
-        if (!trouvee && nom_nu(etiquettes[i].texte) == nu)
+    for (std::size_t i = 0; i < etiquettes.size() && !recherche.close(); ++i) {
+        if (recherche.retient(etiquettes[i].texte))
             trouvee = i;
     }
+    return trouvee;
+}
+
+std::optional<Etiquette> chercher_etiquette(const Programme& programme, std::string_view nom) {
+    Recherche recherche(nom);
+    std::optional<Etiquette> trouvee;
+    pour_chaque_etiquette(programme, [&](const Etiquette& e) {
+        if (recherche.retient(e.texte))
+            trouvee = e;
+    });
     return trouvee;
 }

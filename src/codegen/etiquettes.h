@@ -3,6 +3,7 @@
 #include "codegen/programme.h"
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +14,10 @@ struct Etiquette {
     std::string texte;     ///< the whole line in upper case, blanks and TABs included
     std::size_t ligne = 0; ///< its line number, from 1
 };
+
+/// Walks over the lines that end in ":"; nothing is kept of them.
+void pour_chaque_etiquette(const Programme& programme,
+                           const std::function<void(const Etiquette&)>& action);
 
 /// The lines that end in ":", comments and statements included, in the order of the file.
 std::vector<Etiquette> lister_etiquettes(const Programme& programme);
@@ -31,3 +36,5 @@ std::vector<std::size_t> chercher_dans_les_corps(const Programme& programme,
 /// and blanks; the first if there are several.
 std::optional<std::size_t> chercher_etiquette(const std::vector<Etiquette>& etiquettes,
                                               std::string_view nom);
+/// The same label without a list of all of them.
+std::optional<Etiquette> chercher_etiquette(const Programme& programme, std::string_view nom);

@@ -51,9 +51,10 @@ bool Dessine_Robot(Etat& e, Surface& s, Fenetres& f) {
     try {
         peindre_robots(e, s);
         return true;
-    } catch (const ErreurExecution&) {
+    } catch (const ErreurExecution& erreur) {
         f.regler_Timer(0);
-        f.message("Erreur majeure d'exécution : Vérifier les fichiers de configuration Robot.ini");
+        f.message("Erreur majeure d'exécution : Vérifier les fichiers de configuration Robot.ini",
+                  std::string("Raison : ") + erreur.what());
         f.fin_du_programme();
         return false;
     }

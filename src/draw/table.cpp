@@ -116,9 +116,10 @@ bool Dessine_Table(const Etat& e, Surface& s, Fenetres& f) {
     try {
         peindre_table(e, s);
         return true;
-    } catch (const ErreurExecution&) {
+    } catch (const ErreurExecution& erreur) {
         f.regler_Timer(0);
-        f.message("Erreur majeure d'exécution : Vérifier le fichier de configuration Table.ini");
+        f.message("Erreur majeure d'exécution : Vérifier le fichier de configuration Table.ini",
+                  std::string("Raison : ") + erreur.what());
         f.fin_du_programme();
         return false;
     }

@@ -83,9 +83,14 @@ bool Moteur::Timer_Timer() {
     }
 }
 
+// Called from a handler: the exception there is the reason.
 bool Moteur::erreur_majeure(const char* texte) {
     f.regler_Timer(0); // no further tick while the message box is open
-    f.message(texte);
+    try {
+        throw;
+    } catch (const ErreurExecution& erreur) {
+        f.message(texte, std::string("Raison : ") + erreur.what());
+    }
     f.fin_du_programme();
     return false;
 }

@@ -103,22 +103,39 @@ TEST(Piloter, sans_reponse_rien_n_est_sauve_et_la_reprise_d_un_autre_reste) {
               std::string::npos);
 }
 
-TEST(Piloter, sur_un_terminal_la_position_est_montree_et_la_question_posee) {
+// What somebody types at a terminal, "\x04" being the end-of-file key.
+Resultat piloter_a_la_main(const DossierTemporaire& d, std::vector<std::string> options,
+                           const std::string& frappe) {
     const int maitre = ::posix_openpt(O_RDWR | O_NOCTTY);
-    ASSERT_GE(maitre, 0);
-    ASSERT_EQ(::grantpt(maitre), 0);
-    ASSERT_EQ(::unlockpt(maitre), 0);
-    const std::string frappe = "Avance 10\nTourne\nDroite 90\n\x04oui\n";
-    ASSERT_EQ(::write(maitre, frappe.data(), frappe.size()), static_cast<ssize_t>(frappe.size()));
+    EXPECT_TRUE(maitre >= 0 && ::grantpt(maitre) == 0 && ::unlockpt(maitre) == 0);
+    EXPECT_EQ(::write(maitre, frappe.data(), frappe.size()), static_cast<ssize_t>(frappe.size()));
+    Resultat r = piloter(d, std::move(options), ::ptsname(maitre));
+    ::close(maitre);
+    EXPECT_NE(std::freopen("/dev/null", "r", stdin), nullptr);
+    return r;
+}
+
+TEST(Piloter, sur_un_terminal_la_position_est_montree_et_la_question_posee) {
     const DossierTemporaire d;
-    const Resultat r = piloter(d, {"--position", "60,40,0"}, ::ptsname(maitre));
+    const Resultat r =
+        piloter_a_la_main(d, {"--position", "60,40,0"}, "Avance 10\nTourne\nDroite 90\n\x04oui\n");
     EXPECT_EQ(r.code, 0);
     EXPECT_NE(r.erreurs.find("x 70 y 40 cap -90°"), std::string::npos) << r.erreurs;
     EXPECT_NE(r.erreurs.find("Ligne 2 : « Tourne » est inconnue"), std::string::npos);
     EXPECT_NE(lire(d / "Configuration/Defaut Trajet1.ini").find("DROITE    ,90"),
               std::string::npos);
-    ::close(maitre);
-    EXPECT_NE(std::freopen("/dev/null", "r", stdin), nullptr);
+}
+
+TEST(Piloter, une_question_sans_reponse_garde_l_enregistrement) {
+    const DossierTemporaire d;
+    const Resultat r = piloter_a_la_main(d, {}, "Avance 10\n\x04\x04");
+    EXPECT_EQ(r.code, 1);
+    const fs::path reprise = d / "Configuration/Defaut Reprise.ini";
+    EXPECT_NE(lire(reprise).find("AVANCE"), std::string::npos);
+    EXPECT_NE(r.erreurs.find("gardé dans " + reprise.string()), std::string::npos) << r.erreurs;
+    const DossierTemporaire autre;
+    piloter_a_la_main(autre, {}, "Avance 10\n\x04non\n");
+    EXPECT_FALSE(fs::exists(autre / "Configuration/Defaut Reprise.ini"));
 }
 
 } // namespace

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "base/erreurs.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+// The three standard streams, as the shell hands them over: open, closed, full or unreadable.
+
+/// Puts something in the place of a closed standard descriptor, against which every reading and
+/// writing fails: else the first file that is opened would take its number, and would receive what
+/// is meant for the terminal. To be called before anything is opened.
+void occuper_les_descripteurs();
+
+/// Writes out what standard output still holds. @returns why the user did not get all of it;
+/// nothing when he did
+std::optional<ErreurFichier> terminer_la_sortie();
+
+/// The next line of standard input without its end; nothing at its end.
+/// @throws ErreurFichier when it cannot be read, ErreurExecution for a line of more than `maximum`
+/// bytes, whose rest stays unread
+std::optional<std::string> lire_ligne(std::size_t maximum = 4096);
