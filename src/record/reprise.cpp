@@ -75,10 +75,10 @@ void Reprise::ecrire_ou_prevenir(Fenetres& f) {
     }
 }
 
-BilanSauvegarde Reprise::sauver(Fenetres& f) {
+BilanSauvegarde Reprise::sauver(Fenetres& f, const Ecrit& ecrit) {
     const Robots demandes = robots_modifies(e); // SauvRobot forgets the flags
     en_attente_ |= demandes;
-    BilanSauvegarde bilan{SauvRobot(e, f, dossier_), chemin(), {}};
+    BilanSauvegarde bilan{SauvRobot(e, f, dossier_, ecrit), chemin(), {}};
     if (bilan.complete())
         en_attente_ &= ~demandes;
     try {

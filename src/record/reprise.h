@@ -39,7 +39,7 @@ public:
 
     /// SauvRobot, then deletes the recovery file; unless something could not be written: then the
     /// recording is kept in it. Show the result's message.
-    BilanSauvegarde sauver(Fenetres& f);
+    BilanSauvegarde sauver(Fenetres& f, const Ecrit& ecrit = {});
 
     /// At start and after loading a project: offers a recording that was not saved. Yes puts it
     /// back; no deletes the file; a file that cannot be read is told and put aside.

@@ -16,7 +16,8 @@ constexpr int dernier_robot_propose = 9;
 // One saving: the state, where it goes, and what failed on the way.
 class Ecriture {
 public:
-    Ecriture(Etat& etat, fs::path dossier) : e(etat), dossier_(std::move(dossier)) {}
+    Ecriture(Etat& etat, fs::path dossier, const Ecrit& ecrit)
+        : e(etat), dossier_(std::move(dossier)), ecrit_(ecrit) {}
 
     std::string nom(const char* sorte, int i) const {
         return e.NomProjet + sorte + std::to_string(i) + ".ini";
@@ -44,6 +45,8 @@ public:
             const std::string contenu = texte();
             sauvegarder_version(fichier, dossier_ / "Sauvegardes");
             remplacer_fichier(fichier, contenu);
+            if (ecrit_)
+                ecrit_(fichier);
         });
     }
 
@@ -52,6 +55,7 @@ public:
 private:
     Etat& e;
     fs::path dossier_;
+    const Ecrit& ecrit_;
     std::vector<EchecEcriture> echecs_;
 };
 
@@ -81,8 +85,9 @@ void Set_Sauv_Robot(Etat& e, Entier16 I) {
     e.TrajetModifie(I) = true;
 }
 
-std::vector<EchecEcriture> SauvRobot(Etat& e, Fenetres& f, const fs::path& dossier_configuration) {
-    Ecriture ecriture(e, dossier_configuration);
+std::vector<EchecEcriture> SauvRobot(Etat& e, Fenetres& f, const fs::path& dossier_configuration,
+                                     const Ecrit& ecrit) {
+    Ecriture ecriture(e, dossier_configuration, ecrit);
     const bool tournee = redresser(e, ecriture, dossier_configuration);
     bool oui = false; // the last answer decides about the generation input file
     int i = 0;

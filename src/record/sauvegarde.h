@@ -4,6 +4,7 @@
 #include "sim/fenetres.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,12 +17,16 @@ struct EchecEcriture {
     std::string raison;
 };
 
+using Ecrit = std::function<void(const std::filesystem::path&)>;
+
 /// For each of robots 0..9 whose trajectory was changed: asks whether to save it, writes its
 /// trajectory file if so, and forgets the change whatever the answer. If the last answer was yes,
 /// shows the path of the generation input file and writes it. The files are those of the unturned
 /// table. Errors stop nothing and show nothing.
 /// Each file is replaced as a whole; its previous version is kept among the ten newest of
 /// `dossier_configuration`/Sauvegardes.
+/// @param ecrit  hears of each file right after it was written, before the next question
 /// @returns what could not be written, so that the caller tells the user
 std::vector<EchecEcriture> SauvRobot(Etat& e, Fenetres& f,
-                                     const std::filesystem::path& dossier_configuration);
+                                     const std::filesystem::path& dossier_configuration,
+                                     const Ecrit& ecrit = {});

@@ -1,10 +1,10 @@
 #include "ui/application.h"
 
 #include "config/dossier.h"
+#include "ui/application_sure.h"
 #include "ui/ligne_texte.h"
 #include "ui/sim1.h"
 
-#include <QApplication>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QSettings>
@@ -46,7 +46,7 @@ int executer_application(int& argc, char** argv,
                          const std::function<void(Sim1&)>& prete) {
     qInstallMessageHandler(dire_et_finir);
     QApplication::setStyle("Fusion");
-    const QApplication application(argc, argv);
+    const ApplicationSure application(argc, argv);
     QApplication::setApplicationName("Tavolmex");
     QApplication::setOrganizationName("Tavolmex");
     QSettings::setDefaultFormat(QSettings::IniFormat);

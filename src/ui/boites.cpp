@@ -1,23 +1,12 @@
 #include "ui/boites.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
 namespace {
-
-// Counts a box as open for as long as it is shown.
-class Ouverture {
-public:
-    explicit Ouverture(int& ouvertes) : ouvertes_(ouvertes) { ++ouvertes_; }
-    Ouverture(const Ouverture&) = delete;
-    Ouverture& operator=(const Ouverture&) = delete;
-    ~Ouverture() { --ouvertes_; }
-
-private:
-    int& ouvertes_;
-};
 
 void preparer(QMessageBox& boite, const char* nom, std::string_view texte) {
     boite.setObjectName(nom);
@@ -44,9 +33,8 @@ protected:
 
 } // namespace
 
-void Boites::message(std::string_view texte, std::string_view explication) {
-    const Ouverture ouverture(ouvertes_);
-    QMessageBox boite(&fenetre_);
+void montrer_message(QWidget* fenetre, std::string_view texte, std::string_view explication) {
+    QMessageBox boite(fenetre);
     preparer(boite, "message", texte);
     boite.setInformativeText(texte_qt(explication));
     boite.setIcon(QMessageBox::Warning);
@@ -54,8 +42,11 @@ void Boites::message(std::string_view texte, std::string_view explication) {
     boite.exec();
 }
 
+void Boites::message(std::string_view texte, std::string_view explication) {
+    montrer_message(&fenetre_, texte, explication);
+}
+
 bool Boites::question(std::string_view texte, std::string_view explication) {
-    const Ouverture ouverture(ouvertes_);
     BoiteOuiNon boite(&fenetre_);
     preparer(boite, "question", texte);
     boite.setInformativeText(texte_qt(explication));
@@ -65,6 +56,10 @@ bool Boites::question(std::string_view texte, std::string_view explication) {
     boite.button(QMessageBox::Yes)->setText("Oui");
     boite.button(QMessageBox::No)->setText("Non");
     return boite.exec() == QMessageBox::Yes;
+}
+
+bool boite_ouverte() {
+    return QApplication::activeModalWidget() != nullptr;
 }
 
 QString texte_qt(std::string_view texte) {

@@ -6,8 +6,7 @@
 
 class QWidget;
 
-/// The message boxes of the program, one at a time, modal. Knows whether one is open: the
-/// simulation's clock is held meanwhile.
+/// The message boxes of a window, modal: the simulation's clock is held while one is open.
 class Boites {
 public:
     explicit Boites(QWidget& fenetre) : fenetre_(fenetre) {}
@@ -18,12 +17,17 @@ public:
     /// @param explication  what the answers lead to, beneath the question
     /// @returns true for "Oui"
     bool question(std::string_view texte, std::string_view explication = {});
-    bool ouverte() const { return ouvertes_ > 0; }
 
 private:
     QWidget& fenetre_;
-    int ouvertes_ = 0;
 };
+
+/// A box with an OK button, over no particular window when there is none; returns once closed.
+void montrer_message(QWidget* fenetre, std::string_view texte, std::string_view explication = {});
+
+/// True while any box or dialog of the program is open, whichever window it belongs to, the
+/// system's own file dialogs too.
+bool boite_ouverte();
 
 /// UTF-8 to QString, CR LF become line feeds: the text of a control.
 QString texte_qt(std::string_view texte);

@@ -21,7 +21,7 @@ void charger_projet(Sim1& sim, const std::string& projet) {
 FenetreEditeur::Programme programme(Sim1& sim) {
     return {sim.projet().dossier_configuration(),
             [&sim](const std::string& projet) { garde(sim, [&] { charger_projet(sim, projet); }); },
-            [&sim] { sim.fichiers_ecrits(); }};
+            [&sim](const std::filesystem::path& fichier) { sim.fichier_ecrit(fichier); }};
 }
 
 } // namespace

@@ -256,7 +256,7 @@ void FenetreEditeur::ecrire(const std::filesystem::path& chemin, const std::stri
     sauvegarder_version(chemin, programme_.configuration / "Sauvegardes");
     remplacer_fichier(chemin, octets);
     if (programme_.ecrit)
-        programme_.ecrit();
+        programme_.ecrit(chemin);
     chemin_ = chemin;
     sur_le_disque_ = octets;
     remplacement_accepte_ = true;

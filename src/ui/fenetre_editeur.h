@@ -24,7 +24,8 @@ public:
     struct Programme {
         std::filesystem::path configuration;
         std::function<void(const std::string& projet)> charger; ///< makes a project the current one
-        std::function<void()> ecrit = {};                       ///< a file was written
+        std::function<void(const std::filesystem::path&)> ecrit =
+            {}; ///< right after a file was written
     };
 
     FenetreEditeur(QWidget* parent, Foutil& outils, Programme programme, GenreFichier genre);

@@ -3,7 +3,6 @@
 #include "sim/damier.h"
 #include "sim/orientation.h"
 #include "ui/boites.h"
-#include "ui/garde.h"
 #include "ui/ouvrir.h"
 #include "ui/place.h"
 #include "ui/sim1.h"
@@ -39,8 +38,7 @@ ReglagesGeneraux FOption::reglages() const {
 
 void FOption::brancher(QPushButton& bouton, std::function<void()> procedure) {
     bouton.setEnabled(true);
-    connect(&bouton, &QPushButton::clicked, this,
-            [this, procedure = std::move(procedure)] { garde(sim_, procedure); });
+    connect(&bouton, &QPushButton::clicked, this, std::move(procedure));
 }
 
 void FOption::choisir_robots(int nombre) {
@@ -142,14 +140,14 @@ void FOption::keyPressEvent(QKeyEvent* evenement) {
 void FOption::connecter() {
     const auto suivre = [this](QCheckBox& boite, void (FOption::*procedure)(bool)) {
         connect(&boite, &QCheckBox::toggled, this,
-                [this, procedure](bool coche) { garde(sim_, [&] { (this->*procedure)(coche); }); });
+                [this, procedure](bool coche) { (this->*procedure)(coche); });
     };
     suivre(Check1, &FOption::Check1_Click);
     suivre(Check2, &FOption::Check2_Click);
     suivre(Check3, &FOption::Check3_Click);
     suivre(utiliDamier, &FOption::utiliDamier_Click);
     connect(&VScroll1, &QScrollBar::valueChanged, this,
-            [this](int valeur) { garde(sim_, [&] { VScroll1_Change(valeur); }); });
+            [this](int valeur) { VScroll1_Change(valeur); });
     brancher(Command1, [this] { Command1_Click(); });
     brancher(generer, [this] { sim_.montrer_generateur(); });
     brancher(Command5, [this] { sim_.montrer_console(); });

@@ -6,13 +6,19 @@
 #include <string>
 #include <utility>
 
-/// Runs one handler. No exception may cross the event loop: what the handler did not catch itself
-/// is shown in a message box, the handler stops there, and the program goes on.
+/// What a message box says of an error that nobody has dealt with.
+inline std::string texte_erreur_execution(const char* raison) {
+    return std::string("Erreur d'exécution : ") + raison;
+}
+
+/// Runs a procedure that no event has called: what it did not catch itself is shown in a message
+/// box, the procedure stops there, and the caller goes on. Handlers of events need none:
+/// ApplicationSure does the same for all of them.
 template <typename Procedure>
 void garde(Fenetres& f, Procedure&& procedure) {
     try {
         std::forward<Procedure>(procedure)();
     } catch (const std::exception& erreur) {
-        f.message(std::string("Erreur d'exécution : ") + erreur.what());
+        f.message(texte_erreur_execution(erreur.what()));
     }
 }

@@ -3,7 +3,6 @@
 #include "base/texte.h"
 #include "config/projets.h"
 #include "ui/boites.h"
-#include "ui/garde.h"
 #include "ui/place.h"
 #include "ui/sim1.h"
 
@@ -64,8 +63,7 @@ void Ouvrir::placer() {
 }
 
 void Ouvrir::connecter() {
-    connect(&Command1, &QPushButton::clicked, this,
-            [this] { garde(sim_, [this] { Command1_Click(); }); });
+    connect(&Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
     connect(&Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
 }
 

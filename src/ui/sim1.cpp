@@ -58,10 +58,10 @@ void Sim1::nommer() {
 void Sim1::connecter() {
     connect(&Timer, &QTimer::timeout, this, [this] { Timer_Timer(); });
     connect(&Table, &QWidget::customContextMenuRequested, this,
-            [this](const QPoint& ou) { garde(*this, [&] { menu_robots(ou); }); });
+            [this](const QPoint& ou) { menu_robots(ou); });
     options_.brancher(options_.dessinAire, [this] { editeurs().montrer(); });
-    Table.au_clic = [this] { garde(*this, [this] { Table_Click(); }); };
-    logo.au_clic = [this] { garde(*this, [this] { logo_Click(); }); };
+    Table.au_clic = [this] { Table_Click(); };
+    logo.au_clic = [this] { logo_Click(); };
 }
 
 void Sim1::Form_Load() {
@@ -76,15 +76,14 @@ void Sim1::Form_Load() {
     });
     if (terminee_)
         return;
+    garde(*this, [this] { options_.appliquer(e->Options); });
     garde(*this, [this] {
-        options_.appliquer(e->Options);
         options_.modifie = false;
         Dessine_Table();
         Dessine_Robot();
     });
     if (terminee_)
         return;
-    surveillance_->prendre_note();
     show();
     Table_Click();
     garde(*this, [this] { proposer_reprise(); });
@@ -102,8 +101,17 @@ void Sim1::proposer_reprise() {
     }
 }
 
+// The bare caption is the default project's.
+void Sim1::montrer_titre() {
+    const bool nomme = !e->NomProjet.empty() && e->NomProjet != "Defaut";
+    const QString nom = texte_qt(e->NomProjet).replace("[*]", "[*][*]"); // no mark of changes
+    setWindowTitle(nomme ? nom + " – Tavolmex" : "Tavolmex");
+}
+
 void Sim1::recharger_projet() {
     projet_.Installe();
+    montrer_titre();
+    surveillance_->prendre_note(); // what changes while it is read is read again
     moteur_.Fin_Jeu();
     projet_.LoadTable();
     projet_.Init_Robot();
@@ -114,7 +122,6 @@ void Sim1::recharger_projet() {
     Dessine_Table();
     Dessine_Robot();
     options_.modifie = true;
-    surveillance_->prendre_note();
 }
 
 void Sim1::charger_projet_choisi() {
@@ -128,6 +135,7 @@ void Sim1::charger_projet_choisi() {
 void Sim1::redessiner() {
     if (taille_dessinee_ != QSize(e->XMax, e->YMax))
         Init_Table();
+    placer_logo(); // it was placed on the emptied table
     e->ZoneRedessin = {0, e->XMax, 0, e->YMax};
     Dessine_Table();
     Dessine_Robot();
@@ -143,8 +151,8 @@ void Sim1::robots_changes() {
         console_->suivre_nombre_de_robots();
 }
 
-void Sim1::fichiers_ecrits() {
-    surveillance_->prendre_note();
+void Sim1::fichier_ecrit(const std::filesystem::path& fichier) {
+    surveillance_->prendre_note_de(fichier);
 }
 
 void Sim1::montrer_aide(const QWidget& depuis) {
@@ -154,6 +162,8 @@ void Sim1::montrer_aide(const QWidget& depuis) {
 void Sim1::charger_projet() {
     projet_.Installe();
     projet_.LoadGeneral();
+    montrer_titre();
+    surveillance_->prendre_note(); // what changes while it is read is read again
     projet_.LoadTable();
     Init_Table();
     projet_.Init_Robot();
@@ -195,10 +205,10 @@ void Sim1::cacher_options_et_console() {
 }
 
 void Sim1::SauvRobot() {
-    const BilanSauvegarde bilan = reprise_.sauver(*this);
+    const BilanSauvegarde bilan =
+        reprise_.sauver(*this, [this](const auto& fichier) { fichier_ecrit(fichier); });
     if (const std::string texte = bilan.message(); !texte.empty())
         message(texte);
-    surveillance_->prendre_note_des_trajets();
 }
 
 void Sim1::Active_Desactive(bool Status) {
@@ -228,10 +238,15 @@ void Sim1::SaveGeneral() {
 }
 
 void Sim1::Timer_Timer() {
-    // A message box lets the clock run on underneath: the ticks wait until it is closed.
-    if (boites_.ouverte() || terminee_)
-        return;
-    garde(*this, [this] { moteur_.Timer_Timer(); });
+    const auto maintenant = std::chrono::steady_clock::now();
+    // A box lets the timer run on underneath: the ticks wait until it is closed.
+    if (boite_ouverte() || terminee_)
+        return cadence_.retenir(maintenant);
+    for (int n = 0; n < Cadence::par_evenement && en_course() && cadence_.echu(maintenant); ++n) {
+        const Cadence::Duree avant = temps_de_calcul();
+        moteur_.Timer_Timer();
+        cadence_.compter(temps_de_calcul() - avant);
+    }
 }
 
 void Sim1::menu_robots(const QPoint& ou) {
@@ -282,7 +297,7 @@ void Sim1::Form_Unload() {
 
 void Sim1::closeEvent(QCloseEvent* evenement) {
     if (!terminee_)
-        garde(*this, [this] { Form_Unload(); });
+        Form_Unload();
     // Unsaved drawings may have kept the program from ending.
     evenement->setAccepted(terminee_);
 }
@@ -298,9 +313,10 @@ bool Sim1::question(std::string_view texte, std::string_view explication) {
 }
 
 void Sim1::regler_Timer(Entier16 ms) {
-    if (ms > 0)
+    if (ms > 0) {
         Timer.start(ms);
-    else
+        cadence_.demarrer(std::chrono::milliseconds(ms), std::chrono::steady_clock::now());
+    } else
         Timer.stop();
 }
 
@@ -331,10 +347,8 @@ void Sim1::montrer_logo(bool visible) {
 bool Sim1::arreter_course() {
     if (!en_course())
         return false;
-    garde(*this, [this] {
-        if (!console_ || !console_->arreter_action())
-            moteur_.Fin_Jeu();
-    });
+    if (!console_ || !console_->arreter_action())
+        moteur_.Fin_Jeu();
     return true;
 }
 

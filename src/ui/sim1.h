@@ -5,6 +5,7 @@
 #include "sim/fenetres.h"
 #include "sim/moteur.h"
 #include "ui/boites.h"
+#include "ui/cadence.h"
 #include "ui/foption.h"
 #include "ui/ligne_texte.h"
 #include "ui/logo.h"
@@ -59,8 +60,8 @@ public:
     void recommencer_console();
     /// The number of robots has changed: the console offers as many.
     void robots_changes();
-    /// The program itself has just written files of the project: they are no news.
-    void fichiers_ecrits();
+    /// The program itself has just written that file, of the project or not: it is no news.
+    void fichier_ecrit(const std::filesystem::path& fichier);
     /// Opens the manual at the page of a window.
     void montrer_aide(const QWidget& depuis);
     /// Writes the general settings if they were modified.
@@ -112,6 +113,7 @@ private:
     void charger_projet();
     void proposer_reprise();
     void Timer_Timer();
+    void montrer_titre();
     void menu_robots(const QPoint& ou);
     void Form_Unload();
 
@@ -122,6 +124,7 @@ private:
     Projet projet_;
     Moteur moteur_;
     QTimer Timer{this};
+    Cadence cadence_;
     LigneTexte Mess, Info;
     ::Table Table;
     Banniere LNom;

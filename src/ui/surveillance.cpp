@@ -3,10 +3,7 @@
 #include "base/fichiers.h"
 #include "sim/orientation.h"
 #include "ui/boites.h"
-#include "ui/garde.h"
 #include "ui/sim1.h"
-
-#include <QApplication>
 
 #include <sys/stat.h>
 
@@ -24,8 +21,7 @@ bool trajet_non_sauve(const Etat& e) {
 
 } // namespace
 
-Surveillance::Surveillance(Sim1& sim)
-    : sim_(sim), veilleur_([this] { garde(sim_, [this] { verifier(); }); }) {}
+Surveillance::Surveillance(Sim1& sim) : sim_(sim), veilleur_([this] { verifier(); }) {}
 
 std::filesystem::path Surveillance::fichier(std::size_t k) const {
     const Projet& projet = sim_.projet();
@@ -52,20 +48,17 @@ Surveillance::Empreinte Surveillance::empreinte(const std::filesystem::path& fic
     }
 }
 
-void Surveillance::noter(std::size_t debut) {
-    for (std::size_t k = debut; k < nombre; ++k)
-        empreintes_.at(k) = empreinte(fichier(k), empreintes_.at(k));
-}
-
 void Surveillance::prendre_note() {
     projet_ = sim_.etat().NomProjet;
-    empreintes_ = {};
-    noter(0);
+    for (std::size_t k = 0; k < nombre; ++k)
+        empreintes_.at(k) = empreinte(fichier(k), {});
     suivre();
 }
 
-void Surveillance::prendre_note_des_trajets() {
-    noter(premier_trajet);
+void Surveillance::prendre_note_de(const std::filesystem::path& ecrit) {
+    for (std::size_t k = 0; k < nombre; ++k)
+        if (fichier(k).filename() == ecrit.filename())
+            empreintes_.at(k) = empreinte(ecrit, empreintes_.at(k));
     suivre();
 }
 
@@ -91,7 +84,7 @@ std::vector<std::size_t> Surveillance::chercher_changements() {
 void Surveillance::verifier() {
     if (sim_.terminee())
         return;
-    if (QApplication::activeModalWidget() != nullptr)
+    if (boite_ouverte())
         return veilleur_.remettre(); // one question at a time
     if (projet_ != sim_.etat().NomProjet)
         return prendre_note();

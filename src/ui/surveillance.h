@@ -18,10 +18,11 @@ class Surveillance final {
 public:
     explicit Surveillance(Sim1& sim);
 
-    /// The files as they are now are those that are loaded.
+    /// The present project's files are about to be read: what is written from now on is news. Never
+    /// call it after a box, under which they may have changed.
     void prendre_note();
-    /// The same for the trajectory files alone, which the program writes itself.
-    void prendre_note_des_trajets();
+    /// The program has just written that file itself, if it is one of them.
+    void prendre_note_de(const std::filesystem::path& fichier);
 
 private:
     /// The table, then the robots, then the trajectories.
@@ -35,7 +36,6 @@ private:
 
     static Empreinte empreinte(const std::filesystem::path& fichier, const Empreinte& connue);
     std::filesystem::path fichier(std::size_t k) const;
-    void noter(std::size_t debut);
     void suivre();
     void verifier();
     std::vector<std::size_t> chercher_changements();

@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// A started simulator on a project of its own. Message boxes are read and answered as they open:
@@ -55,10 +56,14 @@ protected:
 private:
     void repondre() {
         auto* boite = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (boite == nullptr || boite->objectName() == "enregistrer") // its tests answer it
+        if (boite == nullptr || boite == examinee_ ||
+            boite->objectName() == "enregistrer") // its tests answer it
             return;
-        if (avant_de_repondre)
-            avant_de_repondre(*boite);
+        if (avant_de_repondre) {
+            const QMessageBox* avant = std::exchange(examinee_, boite);
+            avant_de_repondre(*boite); // may wait
+            examinee_ = avant;
+        }
         messages.push_back((boite->objectName() + ": " + boite->text()).toStdString());
         bool oui = false;
         if (!reponses.empty()) {
@@ -70,4 +75,5 @@ private:
     }
 
     QTimer veilleur_;
+    const QMessageBox* examinee_ = nullptr; ///< its answer waits
 };

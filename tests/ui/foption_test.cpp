@@ -109,8 +109,8 @@ TEST_F(Options, echap_arrete_la_course_dans_les_deux_fenetres) {
 TEST_F(Options, une_table_qui_ne_tourne_pas_reste_comme_elle_est) {
     dossier.ecrire("Configuration/Defaut Table.ini", "L,0,0,200,320\r\nPB,-32700,10,5\r\n");
     demarrer();
-    cocher("Check3", true);
-    ASSERT_EQ(messages.size(), 1U);
+    cliquer("Check3");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return messages.size() == 1; }));
     EXPECT_EQ(messages[0].find("message: Erreur d'exécution : "), 0U);
     EXPECT_FALSE(trouver<QCheckBox>("Check3").isChecked());
     EXPECT_EQ(e().TableHorizontale, 0);

@@ -1,7 +1,7 @@
 #include "outils/dossier_temporaire.h"
+#include "ui/application_sure.h"
 #include "ui/ligne_texte.h"
 
-#include <QApplication>
 #include <QSettings>
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ int main(int argc, char** argv) {
     const DossierTemporaire reglages; // not the user's own
     qputenv("XDG_CONFIG_HOME", reglages.chemin().c_str());
     QApplication::setStyle("Fusion");
-    const QApplication application(argc, argv);
+    const ApplicationSure application(argc, argv);
     QApplication::setOrganizationName("Tavolmex");
     QSettings::setDefaultFormat(QSettings::IniFormat);
     LigneTexte::installer_accessibilite();

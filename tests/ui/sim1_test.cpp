@@ -1,8 +1,10 @@
 #include "ui/banc.h"
-#include "ui/garde.h"
 
 #include <QAccessible>
+#include <QElapsedTimer>
+#include <QFileDialog>
 #include <QMenu>
+#include <QThread>
 
 #include <algorithm>
 
@@ -113,18 +115,71 @@ TEST_F(Course, le_pas_allege_espace_les_ticks) {
     EXPECT_EQ(sim->findChild<QTimer*>("Timer")->interval(), 50);
 }
 
-TEST_F(Course, une_boite_ouverte_retient_l_horloge) {
+TEST_F(Course, toute_boite_ouverte_retient_l_horloge) {
     demarrer();
     cliquer("Command1");
-    const int avant = e().TempsEcoule;
-    int pendant = -1;
-    QTimer::singleShot(0, [&] {
-        QTest::qWait(60);
-        pendant = e().TempsEcoule;
-    });
-    sim->message("Un instant");
-    EXPECT_EQ(pendant == -1 ? avant : pendant, avant);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return e().TempsEcoule > avant; }));
+    QDialog d_un_editeur;
+    QDialog du_systeme; // as Qt does for a file dialog that the desktop provides
+    du_systeme.setAttribute(Qt::WA_DontShowOnScreen);
+    QFileDialog de_fichier;
+    de_fichier.setOption(QFileDialog::DontUseNativeDialog);
+    const std::function<void()> boites[] = {
+        [&] { sim->message("Un instant"); }, [&] { d_un_editeur.exec(); },
+        [&] { du_systeme.exec(); }, [&] { de_fichier.exec(); }, [&] { cliquer("Command2"); }};
+    for (const auto& ouvrir : boites) {
+        ASSERT_TRUE(sim->en_course());
+        int avant = -1, pendant = -1;
+        const auto observer = [&] {
+            avant = e().TempsEcoule;
+            QTest::qWait(300);
+            pendant = e().TempsEcoule;
+            if (auto* dialogue = dynamic_cast<QDialog*>(QApplication::activeModalWidget()))
+                dialogue->reject();
+        };
+        avant_de_repondre = [&](QMessageBox&) {
+            if (avant < 0)
+                observer();
+        };
+        QTimer::singleShot(20, [&] {
+            if (avant < 0)
+                observer();
+        });
+        ouvrir();
+        ASSERT_GE(avant, 0);
+        EXPECT_EQ(pendant, avant);
+        const int apres = e().TempsEcoule;
+        QApplication::processEvents();
+        EXPECT_LE(e().TempsEcoule - apres, 15) << "what the box lasted is not caught up";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return e().TempsEcoule > apres; }));
+    }
+}
+
+TEST_F(Course, ce_que_le_systeme_retarde_est_rattrape_avec_peu_de_peintures) {
+    struct Peintures : QObject {
+        int nombre = 0;
+        bool eventFilter(QObject*, QEvent* evenement) override {
+            nombre += evenement->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+    } peintures;
+    demarrer();
+    QTest::qWait(50);
+    trouver("Table").installEventFilter(&peintures);
+    cliquer("Command1");
+    QElapsedTimer montre;
+    montre.start();
+    int peintes = 0, ticks = 0;
+    for (int i = 0; i < 3; ++i) {
+        QThread::msleep(200); // no event is delivered meanwhile
+        const int avant = e().TempsEcoule;
+        peintures.nombre = 0;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return 10 * e().TempsEcoule + 30 > montre.elapsed(); }));
+        ticks += e().TempsEcoule - avant;
+        peintes += peintures.nombre;
+    }
+    EXPECT_GE(ticks, 50);
+    EXPECT_LT(peintes, ticks / 2);
+    EXPECT_LE(10 * e().TempsEcoule, montre.elapsed() + 20) << "never ahead";
 }
 
 TEST_F(Course, une_panne_dans_un_tick_finit_le_programme_une_seule_fois) {
@@ -145,10 +200,24 @@ TEST_F(Fenetre, une_erreur_de_procedure_est_montree_et_le_programme_continue) {
     demarrer();
     e().Zones(1).X1 = -32768;
     e().NbZones = 1;
-    cocher("Check3", true); // the turn overflows
-    ASSERT_EQ(messages.size(), 1U);
+    cliquer("Check3"); // the turn overflows
+    EXPECT_TRUE(QTest::qWaitFor([this] { return messages.size() == 1; }));
     EXPECT_TRUE(messages[0].starts_with("message: Erreur d'exécution : ")) << messages[0];
     EXPECT_TRUE(fins.empty());
+}
+
+TEST_F(Fenetre, le_titre_nomme_le_projet_sauf_celui_par_defaut) {
+    for (const auto& [projet, titre] : {std::pair("Defaut", "Tavolmex"),
+                                        {"Finale", "Finale – Tavolmex"},
+                                        {"A[*]B", "A[*]B – Tavolmex"}}) {
+        dossier.ecrire("Configuration/Tavolmex.ini", "Défaut, " + std::string(projet) + "\r\n");
+        demarrer();
+        QString montre = sim->windowTitle();
+        EXPECT_EQ(montre.replace("[*][*]", "[*]").toStdString(), titre);
+        e().NomProjet = "Defaut";
+        sim->charger_projet_choisi();
+        EXPECT_EQ(sim->windowTitle(), "Tavolmex");
+    }
 }
 
 TEST_F(Fenetre, les_questions_se_repondent_par_oui_ou_non) {

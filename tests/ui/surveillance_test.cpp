@@ -103,6 +103,59 @@ TEST_F(FichiersChanges, une_course_ou_un_enregistrement_fait_demander) {
     }
 }
 
+TEST_F(FichiersChanges, repare_sous_sa_propre_boite_d_erreur_il_est_relu) {
+    bool repare = false;
+    avant_de_repondre = [&](QMessageBox&) {
+        if (!std::exchange(repare, true))
+            ecrire("Table.ini", "L,0,0,95,50\r\n");
+    };
+    dossier.ecrire("Configuration/Defaut Table.ini", "n'importe quoi");
+    demarrer();
+    attendre();
+    EXPECT_EQ(e().XMax, 95);
+    EXPECT_EQ(messages.size(), 1U);
+    repare = false; // and under the one of a later reading
+    ecrire("Table.ini", "encore");
+    attendre();
+    attendre();
+    EXPECT_EQ(messages.size(), 2U);
+    EXPECT_EQ(e().XMax, 95);
+}
+
+TEST_F(FichiersChanges, change_sous_une_question_de_sauvegarde_il_n_est_pas_pris_pour_le_notre) {
+    demarrer();
+    int questions = 0;
+    avant_de_repondre = [&](QMessageBox& boite) {
+        if (boite.objectName() == "question" && ++questions == 2) // ours is written by then
+            ecrire("Trajet1.ini", "Init,71,8,9\r\nFIN\r\n");
+    };
+    e().TrajetModifie(1) = true;
+    e().TrajetModifie(2) = true;
+    reponses = {true, true};
+    sim->SauvRobot();
+    attendre();
+    EXPECT_EQ(e().XInit(1), 71);
+    EXPECT_EQ(questions, 2);
+}
+
+TEST_F(FichiersChanges, une_relecture_laisse_logo_et_banniere_a_leur_place) {
+    const std::string avec_nom = "L,0,0,200,320\r\nM,Finale de Troyes\r\n";
+    dossier.ecrire("Configuration/Defaut Table.ini", avec_nom);
+    demarrer();
+    const QRect logo = trouver("logo").geometry(), LNom = trouver("LNom").geometry();
+    EXPECT_GT(logo.width(), 50);
+    for (const char* fichier : {"Table.ini", "Trajet1.ini"}) {
+        if (fichier == std::string("Table.ini"))
+            ecrire(fichier, avec_nom + "O,1,2,3,4\r\n");
+        else
+            ecrire(fichier, "Init,7,8,9\r\nFIN\r\n");
+        attendre();
+        EXPECT_EQ(trouver("logo").geometry(), logo) << fichier;
+        EXPECT_EQ(trouver("LNom").geometry(), LNom) << fichier;
+        EXPECT_TRUE(trouver("logo").isVisible() && trouver("LNom").isVisible()) << fichier;
+    }
+}
+
 TEST_F(FichiersChanges, ce_que_le_programme_ecrit_ou_qui_ne_change_rien_ne_dit_rien) {
     demarrer();
     e().TrajetModifie(1) = true;
