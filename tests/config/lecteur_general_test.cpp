@@ -39,6 +39,13 @@ TEST(LireGeneral, casse_blancs_commentaires_et_lignes_sans_portee) {
     }
 }
 
+TEST(LireGeneral, chaque_option_va_a_sa_place) {
+    Etat e;
+    EXPECT_EQ(lire(e, "Horizontale, 6\nNbRobot, 5\nRapide, 3\nAllege, 4"), "");
+    for (int i = 1; i <= 4; ++i)
+        EXPECT_EQ(e.Options(i), 2 + i);
+}
+
 TEST(LireGeneral, refuse_a_la_ligne_fautive) {
     const Refus refus[] = {{"\n#\nVitesse, 3", "3"},
                            {"Rapide", "1"},
