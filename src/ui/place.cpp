@@ -1,15 +1,31 @@
 #include "ui/place.h"
 
 #include <QEvent>
+#include <QScreen>
 #include <QSettings>
 #include <QWidget>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
 
 /// A window manager shifts a window by its frame; only more than that is a move by the user.
 constexpr int ecart_du_cadre = 60;
+/// Least frame of a window: the window manager tells its own only later.
+constexpr QSize cadre_habituel{4, 38};
+
+// Within the limits that its controls set.
+void ramener_dans_l_ecran(QWidget& fenetre) {
+    const QSize bords =
+        (fenetre.frameGeometry().size() - fenetre.size()).expandedTo(cadre_habituel);
+    const QRect voulu = dans_l_ecran({fenetre.pos(), fenetre.size() + bords},
+                                     fenetre.screen()->availableGeometry());
+    if (voulu.size() != fenetre.size() + bords)
+        fenetre.resize(voulu.size() - bords);
+    if (voulu.topLeft() != fenetre.pos())
+        fenetre.move(voulu.topLeft());
+}
 
 class Place final : public QObject {
 public:
@@ -21,14 +37,15 @@ public:
     void proposer(QPoint ou) {
         if (choisie_ || deplacee())
             return;
-        proposee_ = ou;
         fenetre_.move(ou);
+        ramener_dans_l_ecran(fenetre_);
+        proposee_ = fenetre_.pos();
     }
 
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override {
-        if (objet == &fenetre_ && evenement->type() == QEvent::Show && !taille_)
-            taille_ = fenetre_.size();
+        if (objet == &fenetre_ && evenement->type() == QEvent::Show && !evenement->spontaneous())
+            montrer();
         if (objet == &fenetre_ && evenement->type() == QEvent::Hide)
             retenir();
         return false;
@@ -36,6 +53,12 @@ protected:
 
 private:
     QString cle() const { return "places/" + fenetre_.objectName(); }
+
+    void montrer() {
+        ramener_dans_l_ecran(fenetre_);
+        if (!taille_)
+            taille_ = fenetre_.size();
+    }
 
     bool deplacee() const {
         return fenetre_.isVisible() && proposee_ &&
@@ -66,6 +89,13 @@ Place* place_de(const QWidget& fenetre) {
 }
 
 } // namespace
+
+QRect dans_l_ecran(QRect cadre, const QRect& ecran) {
+    cadre.setSize(cadre.size().boundedTo(ecran.size()));
+    cadre.moveLeft(std::clamp(cadre.left(), ecran.left(), ecran.right() + 1 - cadre.width()));
+    cadre.moveTop(std::clamp(cadre.top(), ecran.top(), ecran.bottom() + 1 - cadre.height()));
+    return cadre;
+}
 
 void retenir_place(QWidget& fenetre) {
     new Place(fenetre); // belongs to the window

@@ -2,6 +2,8 @@
 
 #include "ui/banc.h"
 
+#include <QScreen>
+
 namespace {
 
 struct Fenetre : QWidget {
@@ -37,6 +39,32 @@ TEST(Place, la_place_choisie_revient_celle_du_programme_non) {
     f.show();
     EXPECT_EQ(f.pos(), QPoint(310, 150));
     EXPECT_EQ(f.size(), QSize(350, 250));
+}
+
+TEST(Place, un_cadre_est_ramene_entier_dans_son_ecran) {
+    const QRect ecran(100, 30, 853, 450);
+    struct Cas {
+        QRect cadre, attendu;
+    };
+    for (const Cas& c : {Cas{{200, 100, 300, 200}, {200, 100, 300, 200}},
+                         Cas{{900, 400, 300, 200}, {653, 280, 300, 200}},
+                         Cas{{-50, -20, 300, 200}, {100, 30, 300, 200}},
+                         Cas{{300, 200, 1500, 460}, {100, 30, 853, 450}}})
+        EXPECT_EQ(dans_l_ecran(c.cadre, ecran), c.attendu) << c.cadre.left();
+}
+
+TEST(Place, meme_trop_grande_ou_sans_place_retenue_elle_s_ouvre_entiere) {
+    const QRect ecran = QGuiApplication::primaryScreen()->availableGeometry();
+    QSettings().clear();
+    for (const QRect& r : {QRect(ecran.right() - 20, ecran.bottom() - 20, 300, 200),
+                           QRect(0, 0, 3 * ecran.width(), 2 * ecran.height())}) {
+        Fenetre f;
+        f.resize(r.size());
+        f.move(r.topLeft());
+        f.show();
+        EXPECT_TRUE(ecran.contains(f.frameGeometry())) << r.left();
+    }
+    QSettings().clear();
 }
 
 TEST(Place, revient_sur_un_ecran_qui_existe) {
