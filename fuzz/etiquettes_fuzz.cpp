@@ -30,6 +30,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
         const std::string& texte = etiquettes[i].texte;
         const auto rang = chercher_etiquette(etiquettes, texte);
         verifier(rang && *rang <= i && etiquettes[*rang].texte == texte);
+        const auto seule = chercher_etiquette(programme, texte); // without the list
+        verifier(seule && seule->ligne == etiquettes[*rang].ligne);
         const std::string corps = corps_de(programme, texte);
         verifier(majuscules(corps).starts_with("\r\n" + texte));
         verifier(etiquettes[i].ligne <= numero);

@@ -34,7 +34,7 @@ TEST(Flux, une_sortie_perdue_ne_finit_jamais_par_0) {
           generer, "generer --depart p.bas --entree e.ini --cible c.bas --apercu"}) {
         EXPECT_EQ(shell(d, "tcli " + verbe + " >sortie").code, 0) << verbe;
         for (const std::string perdue : {" >/dev/full", " >&-"}) {
-            const Fin fin = shell(d, "tcli " + verbe + perdue);
+            const Fin fin = shell(d, std::string("tcli ").append(verbe).append(perdue));
             EXPECT_EQ(fin.code, 1) << verbe << perdue;
             EXPECT_NE(fin.erreurs.find("Erreur d'exécution : sortie standard : "),
                       std::string::npos)

@@ -57,7 +57,7 @@ public:
         const std::string nom = "Configuration/" + choisir(fichiers).string();
         std::string texte = d.lire(nom);
         std::vector<std::pair<std::size_t, std::size_t>> nombres;
-        for (std::size_t i = 0; (i = texte.find_first_of(",", i)) != std::string::npos; ++i) {
+        for (std::size_t i = 0; (i = texte.find(',', i)) != std::string::npos; ++i) {
             const std::size_t fin = texte.find_first_of(",\r#", i + 1);
             nombres.emplace_back(i + 1, fin - i - 1);
         }
