@@ -7,6 +7,7 @@
 
 namespace {
 
+constexpr int plus_petite_police = 6;
 constexpr int marge = 8; ///< logical pixels around the banner's text
 constexpr int apres_les_fenetres_ms = 20;
 constexpr int drapeaux = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
@@ -48,8 +49,17 @@ Banniere::Banniere(QWidget* parent) : QLabel(parent) {
 void Banniere::placer(const QRect& logo) {
     haut_du_texte_ = logo.height();
     setGeometry(logo);
+    setFont({});
+    for (int taille = font().pointSize(); taille > plus_petite_police && !mots_entiers(); --taille)
+        setFont(QFont(font().family(), taille - 1));
     const QRect texte = fontMetrics().boundingRect(zone_du_texte(), drapeaux, text().trimmed());
     resize(logo.width(), haut_du_texte_ + texte.height() + marge);
+}
+
+// No line break cuts a word that is wider than the card.
+bool Banniere::mots_entiers() const {
+    return fontMetrics().boundingRect(zone_du_texte(), drapeaux, text().trimmed()).width() <=
+           zone_du_texte().width();
 }
 
 QRect Banniere::zone_du_texte() const {

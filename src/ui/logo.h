@@ -35,5 +35,6 @@ protected:
 
 private:
     QRect zone_du_texte() const;
+    bool mots_entiers() const;
     int haut_du_texte_ = 0;
 };

@@ -1,8 +1,14 @@
 #include "ui/place.h"
 
 #include <QEvent>
+#include <QLayout>
+#include <QMainWindow>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSettings>
+#include <QStyle>
+#include <QTimer>
+#include <QVBoxLayout>
 #include <QWidget>
 
 #include <algorithm>
@@ -14,11 +20,39 @@ namespace {
 constexpr int ecart_du_cadre = 60;
 /// Least frame of a window: the window manager tells its own only later.
 constexpr QSize cadre_habituel{4, 38};
+/// By then it has told it, and has put the window where it likes.
+constexpr int cadre_connu_ms = 250;
+
+QSize cadre(const QWidget& fenetre) {
+    const QSize connu = fenetre.frameGeometry().size() - fenetre.size();
+    return connu.isNull() ? cadre_habituel : connu;
+}
+
+// Controls that need more room than the screen has can be scrolled.
+void rendre_defilante(QWidget& fenetre) {
+    QLayout* controles = fenetre.layout();
+    const QSize place = fenetre.screen()->availableGeometry().size() - cadre(fenetre);
+    if (controles == nullptr || qobject_cast<QMainWindow*>(&fenetre) != nullptr ||
+        controles->minimumSize().boundedTo(place) == controles->minimumSize())
+        return;
+    auto* contenu = new QWidget;
+    contenu->setLayout(controles); // takes the controls along
+    auto* defilement = new QScrollArea;
+    defilement->setFrameShape(QFrame::NoFrame);
+    defilement->setWidgetResizable(true);
+    defilement->setWidget(contenu);
+    defilement->setFocusPolicy(Qt::NoFocus);
+    auto* seul = new QVBoxLayout(&fenetre);
+    seul->setContentsMargins({});
+    seul->addWidget(defilement);
+    fenetre.setMinimumSize(0, 0);
+    const int barre = fenetre.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &fenetre);
+    fenetre.resize(fenetre.size() + QSize(barre, 0));
+}
 
 // Within the limits that its controls set.
 void ramener_dans_l_ecran(QWidget& fenetre) {
-    const QSize bords =
-        (fenetre.frameGeometry().size() - fenetre.size()).expandedTo(cadre_habituel);
+    const QSize bords = cadre(fenetre);
     const QRect voulu = dans_l_ecran({fenetre.pos(), fenetre.size() + bords},
                                      fenetre.screen()->availableGeometry());
     if (voulu.size() != fenetre.size() + bords)
@@ -55,7 +89,12 @@ private:
     QString cle() const { return "places/" + fenetre_.objectName(); }
 
     void montrer() {
+        rendre_defilante(fenetre_);
         ramener_dans_l_ecran(fenetre_);
+        QTimer::singleShot(cadre_connu_ms, &fenetre_, [this] {
+            if (fenetre_.isVisible() && !fenetre_.isMaximized() && !fenetre_.isFullScreen())
+                ramener_dans_l_ecran(fenetre_);
+        });
         if (!taille_)
             taille_ = fenetre_.size();
     }

@@ -2,7 +2,10 @@
 
 #include "ui/banc.h"
 
+#include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -64,6 +67,26 @@ TEST(Place, meme_trop_grande_ou_sans_place_retenue_elle_s_ouvre_entiere) {
         f.show();
         EXPECT_TRUE(ecran.contains(f.frameGeometry())) << r.left();
     }
+    QSettings().clear();
+}
+
+TEST(Place, des_controles_plus_grands_que_l_ecran_defilent) {
+    QSettings().clear();
+    const QRect ecran = QGuiApplication::primaryScreen()->availableGeometry();
+    Fenetre f;
+    auto* colonne = new QVBoxLayout(&f);
+    for (int i = 0; i < 40; ++i)
+        colonne->addWidget(new QPushButton(QString("bouton %1").arg(i)));
+    const auto boutons = f.findChildren<QPushButton*>();
+    f.show();
+    EXPECT_TRUE(ecran.contains(f.frameGeometry()));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&f));
+    boutons.at(38)->setFocus(); // by keys too
+    QTest::keyClick(boutons.at(38), Qt::Key_Tab);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !boutons.last()->visibleRegion().isEmpty(); }));
+    f.hide();
+    f.show(); // once
+    EXPECT_EQ(f.findChildren<QScrollArea*>().size(), 1);
     QSettings().clear();
 }
 
