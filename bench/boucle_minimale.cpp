@@ -83,7 +83,7 @@ void BoucleMinimale::jouer() {
     incidence_ = 0;
     carreaux_ = 0;
     prediction_ = 0;
-    for (int temps = 0; temps <= 9000;) {
+    for (int temps = 0; temps <= duree_du_match;) {
         temps += pas_temps_;
         for (Robot& r : robots_)
             executer(r);

@@ -34,7 +34,7 @@ void robot_pas_contre_enki(benchmark::State& state) {
         enki.back()->rightSpeed = 9 + i;
         monde.addObject(enki.back().get());
     }
-    constexpr int pas_du_match = 9001;
+    constexpr int pas_du_match = dernier_tick(1);
     comparer(
         state,
         [&] {

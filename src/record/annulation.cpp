@@ -23,28 +23,13 @@ void tourner(Etat& e, bool horizontalement) {
 } // namespace
 
 Instantane::Instantane(const Etat& e, Entier16 robot, Entier16 entree)
-    : TempsEcoule_(e.TempsEcoule),
-      Incidence_(e.Incidence),
-      NbreCarreaux_(e.NbreCarreaux),
+    : course_(e),
       TableHorizontale_(e.TableHorizontale),
       logo_visible_(e.logo_visible),
       robot_(robot),
       entree_(entree),
       TrajNbActions_(e.TrajNbActions(robot)),
       nb_a_generer_(e.nb_a_generer) {
-    for (int i = 0; i <= robots_max; ++i)
-        robots_(i) = {e.XRobot(i),
-                      e.YRobot(i),
-                      e.CapRobot(i),
-                      e.Xm(i),
-                      e.Ym(i),
-                      e.Xextr(i),
-                      e.Yextr(i),
-                      e.Progression(i),
-                      e.ActionEnCours(i),
-                      e.ParamEnCours(i),
-                      e.Param2EnCours(i),
-                      e.NumAction(i)};
     if (entree <= actions_max) {
         action_ = e.TrajAction(robot, entree);
         param1_ = e.TrajParam1(robot, entree);
@@ -61,7 +46,9 @@ void Instantane::retablir(Etat& e, Moteur& moteur, Fenetres& f) const {
         moteur.Fin_Jeu();
     else if (!logo_visible_ && e.logo_visible)
         reprendre_course(e, f);
-    retablir_course(e);
+    const Entier16 pilote = e.RobotTele;
+    static_cast<Course&>(e) = course_;
+    e.RobotTele = pilote;
     retablir_enregistrement(e);
     if (tournee)
         tourner(e, e.TableHorizontale);
@@ -69,27 +56,6 @@ void Instantane::retablir(Etat& e, Moteur& moteur, Fenetres& f) const {
     e.ZoneRedessin = {0, e.XMax, 0, e.YMax};
     f.Dessine_Table();
     f.Dessine_Robot();
-}
-
-void Instantane::retablir_course(Etat& e) const {
-    for (int i = 0; i <= robots_max; ++i) {
-        const Robot& r = robots_(i);
-        e.XRobot(i) = r.x;
-        e.YRobot(i) = r.y;
-        e.CapRobot(i) = r.cap;
-        e.Xm(i) = r.xm;
-        e.Ym(i) = r.ym;
-        e.Xextr(i) = r.xextr;
-        e.Yextr(i) = r.yextr;
-        e.Progression(i) = r.progression;
-        e.ActionEnCours(i) = r.action;
-        e.ParamEnCours(i) = r.param;
-        e.Param2EnCours(i) = r.param2;
-        e.NumAction(i) = r.num_action;
-    }
-    e.TempsEcoule = TempsEcoule_;
-    e.Incidence = Incidence_;
-    e.NbreCarreaux = NbreCarreaux_;
 }
 
 void Instantane::retablir_enregistrement(Etat& e) const {

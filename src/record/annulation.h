@@ -15,19 +15,9 @@ public:
     void retablir(Etat& e, Moteur& moteur, Fenetres& f) const;
 
 private:
-    struct Robot {
-        float x, y, cap, xm, ym, xextr, yextr, progression;
-        Nom10 action;
-        Entier16 param, param2, num_action;
-    };
-
-    void retablir_course(Etat& e) const;
     void retablir_enregistrement(Etat& e) const;
 
-    Tableau<Robot, robots_max> robots_{};
-    std::int32_t TempsEcoule_;
-    float Incidence_;
-    Entier16 NbreCarreaux_;
+    Course course_;
     Entier16 TableHorizontale_;
     bool logo_visible_;
 

@@ -1,7 +1,6 @@
 #include "sim/actions.h"
 #include "sim/moteur.h"
 
-#include <bit>
 #include <cmath>
 #include <span>
 
@@ -39,15 +38,7 @@ void deplacer(std::span<float> xs, std::span<float> ys, const Deplacement& d) {
 
 } // namespace
 
-void Moteur::Direction::viser(float nouveau_cap) {
-    // Same bits, same cosine and sine: most ticks of a straight move compute none.
-    if (std::bit_cast<std::uint32_t>(nouveau_cap) == std::bit_cast<std::uint32_t>(cap))
-        return;
-    cap = nouveau_cap;
-    ::sincos(radians(cap), &s, &c);
-}
-
-const Moteur::Direction& Moteur::direction_capteur() {
+const Direction& Moteur::direction_capteur() {
     incidence_.viser(e.Incidence);
     return incidence_;
 }

@@ -146,10 +146,12 @@ void calculer_nbre_carreaux(Etat& e, float xDebut, float yDebut, float xFin, flo
         lever_Debordement(pas_maximum + 1); // the step counter
 }
 
-void predire_marche(Etat& e, float xDebut, float yDebut, float xFin, float yFin, double cosinus,
+bool predire_marche(Etat& e, float xDebut, float yDebut, float xFin, float yFin, double cosinus,
                     double sinus) {
     const Marche marche{xDebut, yDebut, cosinus, sinus};
     const int nb_pas = marche.nombre_de_pas(xFin, yFin);
-    if (nb_pas >= 0)
-        compter(e, marche, nb_pas);
+    if (nb_pas < 0)
+        return false;
+    compter(e, marche, nb_pas);
+    return true;
 }

@@ -18,5 +18,6 @@ void calculer_nbre_carreaux(Etat& e, float xDebut, float yDebut, float xFin, flo
 
 /// The same walk along the heading whose cosine and sine are given; one that would overflow its
 /// step counter is recognised without walking it and counts nothing.
-void predire_marche(Etat& e, float xDebut, float yDebut, float xFin, float yFin, double cosinus,
+/// @returns false for such a walk
+bool predire_marche(Etat& e, float xDebut, float yDebut, float xFin, float yFin, double cosinus,
                     double sinus);

@@ -35,11 +35,13 @@ Moteur::Code Moteur::Decodee::code_de(const Nom10& action) {
 }
 
 bool Moteur::Executer_Actions() {
+    int i = 1;
     try {
-        for (int i = 1; i <= e.NbRobot; ++i)
+        for (; i <= e.NbRobot; ++i)
             executer(i);
         return true;
     } catch (const ErreurExecution&) {
+        robot_en_cause_ = i;
         return erreur_majeure(
             "Erreur majeure d'exécution : Vérifier le fichier de configuration Trajet.ini.");
     }
@@ -81,6 +83,7 @@ void Moteur::executer(Entier16 i) {
 }
 
 void Moteur::signaler_action_inconnue(Entier16 i) {
+    robot_en_cause_ = i;
     f.message("Erreur : L'action " + std::to_string(e.NumAction(i)) + " " +
               std::string(e.ActionEnCours(i).vue()) + " du robot " + std::to_string(i) +
               " est inconnue !");
@@ -98,7 +101,7 @@ void Moteur::charger_action_suivante(Entier16 i) {
             e.ActionEnCours(i) = e.TrajAction(i, e.NumAction(i));
             e.ParamEnCours(i) = e.TrajParam1(i, e.NumAction(i));
             e.Param2EnCours(i) = e.TrajParam2(i, e.NumAction(i));
-            predire_carreaux(i);
+            abandons_(i) += predire_carreaux(i) ? 1 : 0;
         } else {
             e.NumAction(i) = e.TrajNbActions(i);
             e.ActionEnCours(i) = actions::FIN;

@@ -2,10 +2,6 @@
 
 #include "sim/actions.h"
 
-namespace {
-constexpr std::int32_t duree_du_match = 9000; ///< hundredths of a second
-} // namespace
-
 void Moteur::Run_Jeu() {
     f.ecrire_nbre_carreaux("0");
     e.NbreCarreaux = 0;
@@ -17,6 +13,8 @@ void Moteur::Run_Jeu() {
     e.logo_visible = false;
     f.montrer_logo(false);
     e.TempsEcoule = 0;
+    abandons_.remplir(0);
+    robot_en_cause_ = 0;
     for (int i = 1; i <= e.NbRobot; ++i) {
         e.NumAction(i) = 0;
         e.ActionEnCours(i) = actions::AUCUNE;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sim/direction.h"
 #include "sim/etat.h"
 #include "sim/fenetres.h"
 
@@ -10,6 +11,10 @@
 class Moteur {
 public:
     Moteur(Etat& etat, Fenetres& fenetres) : e(etat), f(fenetres) {}
+    // Tied to its state: a copy would step the same one.
+    Moteur(const Moteur&) = delete;
+    Moteur& operator=(const Moteur&) = delete;
+    ~Moteur() = default;
 
     /// Resets robots 1..NbRobot to their initial pose and arms the timer at PasTemps x 10 ms.
     void Run_Jeu();
@@ -40,17 +45,14 @@ public:
 
     /// Predicts the tiles that the action just loaded crosses: adds them to NbreCarreaux and shows
     /// the count. A walk that would overflow its step counter is abandoned and counts nothing.
-    void predire_carreaux(Entier16 i);
+    /// @returns whether it was abandoned
+    bool predire_carreaux(Entier16 i);
+    /// Abandoned predictions of robot i's actions since Run_Jeu.
+    int predictions_abandonnees(Entier16 i) const { return abandons_(i); }
+    /// The robot whose action failed or was not known; 0 when none did since Run_Jeu.
+    int robot_en_cause() const { return robot_en_cause_; }
 
 private:
-    /// Cosine and sine of a heading, reused as long as the heading's bits do not change.
-    struct Direction {
-        float cap = 0;
-        double c = 1;
-        double s = 0;
-        void viser(float nouveau_cap);
-    };
-
     /// An arc's angular step in degrees, reused as long as nothing that it depends on changes.
     struct Arc {
         float vitesse = 0;
@@ -100,6 +102,8 @@ private:
     Direction incidence_;
     Tableau<Direction, robots_max> caps_;
     Tableau<Arc, robots_max> arcs_;
+    Tableau<int, robots_max> abandons_;
+    int robot_en_cause_ = 0;
     LigneMess mess_;
     LigneInfo info_;
 };

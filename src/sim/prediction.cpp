@@ -35,17 +35,18 @@ Point fin_d_arc(const Etat& e, Entier16 i, Point depart) {
 
 } // namespace
 
-void Moteur::predire_carreaux(Entier16 i) {
+bool Moteur::predire_carreaux(Entier16 i) {
     const Nom10& action = e.ActionEnCours(i);
     const bool droit = est_mouvement_droit(action);
     if (!droit && !est_virage(action))
-        return;
+        return false;
     // Always robot 1's sensor, whichever robot moves.
     const Point depart{e.Xextr(1), e.Yextr(1)};
     const Direction& d = direction_capteur();
     const double p = e.ParamEnCours(i);
     const Point fin = droit ? Point{simple(depart.x + p * d.c), simple(depart.y + p * d.s)}
                             : fin_d_arc(e, i, depart);
-    predire_marche(e, depart.x, depart.y, fin.x, fin.y, d.c, d.s);
+    const bool menee = predire_marche(e, depart.x, depart.y, fin.x, fin.y, d.c, d.s);
     f.ecrire_nbre_carreaux(texte_entier(e.NbreCarreaux));
+    return !menee;
 }

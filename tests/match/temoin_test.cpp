@@ -78,7 +78,7 @@ public:
     Empreinte empreinte;
 
 private:
-    bool retenu() const { return e.TempsEcoule % 100 == 0 || e.TempsEcoule > 9000; }
+    bool retenu() const { return e.TempsEcoule % 100 == 0 || e.TempsEcoule > duree_du_match; }
 };
 
 struct Cas {

@@ -1,8 +1,10 @@
 #include "sim/banc.h"
+#include "sim/damier.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <cstring>
 #include <new>
 
 namespace {
@@ -130,6 +132,60 @@ TEST(TimerTimer, la_limite_du_match_rend_ses_boutons_a_la_console) {
     b.m.Timer_Timer();
     EXPECT_EQ(b.f.appels, (Appels{"Dessine_Table", "Dessine_Robot", "Timer 0", "logo 1", "course 0",
                                   "Active_Desactive 1", "Mess"}));
+}
+
+bool memes_courses(const Course& a, const Course& b) {
+    const auto memes = [](const auto& x, const auto& y) {
+        return std::memcmp(&x, &y, sizeof x) == 0;
+    };
+    return memes(a.XRobot, b.XRobot) && memes(a.YRobot, b.YRobot) &&
+           memes(a.CapRobot, b.CapRobot) && memes(a.Xm, b.Xm) && memes(a.Ym, b.Ym) &&
+           memes(a.Xextr, b.Xextr) && memes(a.Yextr, b.Yextr) &&
+           memes(a.ActionEnCours, b.ActionEnCours) && memes(a.NumAction, b.NumAction) &&
+           memes(a.Progression, b.Progression) && memes(a.TempsEcoule, b.TempsEcoule) &&
+           memes(a.Incidence, b.Incidence) && memes(a.NbreCarreaux, b.NbreCarreaux);
+}
+
+TEST(Course, une_copie_suffit_a_reprendre_le_match_au_bit_pres) {
+    Banc b;
+    initDamier(b.e);
+    b.e.NbRobot = 3;
+    b.e.PointY = {30, 200, 0};
+    for (int i = 1; i <= 3; ++i) {
+        b.e.DistExtr(i) = 12;
+        for (const Nom10& action : {actions::AVANCE, actions::BALISE_DRO, actions::VIRAVDR,
+                                    actions::PAUSE, actions::RECULE, actions::VIRARGA})
+            b.ajouter(i, action, 35 + i, 20);
+    }
+    const auto jouer = [&b](int ticks) {
+        // Another engine each time: nothing of the run may hide in it.
+        Moteur m(b.e, b.f);
+        for (int tick = 0; tick < ticks; ++tick)
+            m.Timer_Timer();
+    };
+    b.m.Run_Jeu();
+    jouer(400);
+    const Course milieu = b.e;
+    jouer(800);
+    const Course fin = b.e;
+    static_cast<Course&>(b.e) = milieu;
+    jouer(800);
+    EXPECT_TRUE(memes_courses(b.e, fin));
+    EXPECT_FALSE(memes_courses(b.e, milieu));
+}
+
+TEST(Predictions, les_abandons_se_comptent_par_robot_et_par_course) {
+    Banc b;
+    initDamier(b.e);
+    b.e.NbRobot = 2;
+    b.ajouter(1, actions::AVANCE, 20);
+    b.ajouter(2, actions::VIRAVGA, 90, 30); // ends aside of the walk, which never gets there
+    for (int course = 1; course <= 2; ++course) {
+        b.m.Run_Jeu();
+        b.m.Timer_Timer();
+        EXPECT_EQ(b.m.predictions_abandonnees(1), 0);
+        EXPECT_EQ(b.m.predictions_abandonnees(2), 1);
+    }
 }
 
 TEST(TimerTimer, n_alloue_rien) {

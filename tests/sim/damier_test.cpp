@@ -142,7 +142,7 @@ TEST(Damier, toute_marche_donne_ce_que_donne_le_pas_a_pas) {
         const float yf = simple(y + distance * std::sin(a));
         const auto attendu = temoin.compter(x, y, xf, yf);
         b.e.NbreCarreaux = 5;
-        predire_marche(b.e, x, y, xf, yf, std::cos(a), std::sin(a));
+        EXPECT_EQ(predire_marche(b.e, x, y, xf, yf, std::cos(a), std::sin(a)), attendu.has_value());
         EXPECT_EQ(b.e.NbreCarreaux, 5 + attendu.value_or(0)) << x << " " << y << " " << distance;
         b.e.NbreCarreaux = 0;
         if (attendu) {
