@@ -1,16 +1,12 @@
 #include "codegen/generateur.h"
 
+#include "base/chemins.h"
 #include "base/fichiers.h"
 #include "codegen/composition.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-bool meme_fichier(const fs::path& a, const fs::path& b) {
-    std::error_code erreur;
-    return fs::weakly_canonical(a, erreur) == fs::weakly_canonical(b, erreur);
-}
 
 void verifier_dossier(const fs::path& cible) {
     const fs::path dossier = cible.has_parent_path() ? cible.parent_path() : fs::path(".");
