@@ -11,7 +11,7 @@ racine=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # Building and starting the program. The fonts and x11-utils (xdpyinfo) serve at run time.
 PAQUETS_PROGRAMME=(
     ca-certificates cmake fonts-dejavu-core g++ libcli11-dev libqt6svg6 ninja-build
-    qt6-base-dev qt6-translations-l10n x11-utils
+    nlohmann-json3-dev qt6-base-dev qt6-translations-l10n x11-utils
 )
 PAQUETS_WAYLAND=(qt6-wayland) # for a session without X at all
 # Tests: second compiler, sanitizers, lint, and a small desktop for the end-to-end test.
@@ -51,7 +51,8 @@ lister_les_besoins() {
     cat >&2 <<FIN
 Ce système n'est pas une Debian 12 : rien n'est installé automatiquement. Il faut :
   - un compilateur C++20 (g++ 12 ou plus récent), CMake 3.25 ou plus récent, Ninja ;
-  - Qt 6.4 ou plus récent avec ses fichiers de développement (Widgets) et son module SVG, CLI11 2.1 ;
+  - Qt 6.4 ou plus récent avec ses fichiers de développement (Widgets) et son module SVG, CLI11 2.1 et
+    nlohmann-json 3.11 ;
   - pour les tests : clang++, clang-format et clang-tidy 14, GoogleTest, ShellCheck, Xvfb, xauth,
     openbox, dbus-run-session, at-spi2-core et le module Python pyatspi.
 Sous Debian 12 ce sont les paquets :

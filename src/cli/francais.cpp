@@ -45,6 +45,15 @@ std::string manquant(const std::string& message) {
     return quoi == "A subcommand" ? "il manque la commande" : "il manque " + quoi;
 }
 
+/// "--json requires --match"
+std::string exigee(const std::string& message) {
+    constexpr std::string_view exige = " requires ";
+    const std::size_t place = message.find(exige);
+    if (place == std::string::npos)
+        return message;
+    return message.substr(0, place) + " demande " + message.substr(place + exige.size());
+}
+
 std::string nombre_de_valeurs(const std::string& message) {
     if (contient(message, "At Most"))
         return sujet(message) + " : donné plusieurs fois";
@@ -78,6 +87,8 @@ std::string en_francais(const CLI::ParseError& erreur, const CLI::App& app) {
         return "valeur illisible : " + suite(message);
     case CLI::ExitCodes::ArgumentMismatch:
         return nombre_de_valeurs(message);
+    case CLI::ExitCodes::RequiresError:
+        return exigee(message);
     case CLI::ExitCodes::BaseClass: // ErreurUsage
         return message;
     default:

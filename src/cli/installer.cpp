@@ -2,6 +2,7 @@
 #include "cli/sortie.h"
 #include "cli/verbes.h"
 #include "cli/verification.h"
+#include "cli/verifier_match.h"
 #include "config/dossier.h"
 
 #include <iostream>
@@ -63,6 +64,25 @@ CLI::App* verbe_de_projet(CLI::App& app, const char* nom, const char* descriptio
     return verbe;
 }
 
+struct OptionsMatch {
+    bool match = false;
+    bool json = false;
+};
+
+void ajouter_options_match(CLI::App& verbe, ChoixDeLigne& choix, OptionsMatch& options) {
+    CLI::Option* const match = verbe.add_flag("--match", options.match,
+                                              "Joue aussi le match et dit ce qui mérite attention");
+    verbe.add_flag("--json", options.json, "Le résultat du match en JSON")->needs(match);
+    verbe.add_option("--robots", choix.robots, "Nombre de robots")
+        ->check(entier_entre(1, robots_des_fichiers))
+        ->type_name("N")
+        ->needs(match);
+    verbe.add_flag("--allege", choix.allege, "Traitement allégé : pas de 5 centièmes")
+        ->needs(match);
+    verbe.add_flag("--horizontale", choix.horizontale, "Table tournée d'un quart de tour")
+        ->needs(match);
+}
+
 } // namespace
 
 void declarer_installer(CLI::App& app, int& code_de_sortie) {
@@ -75,14 +95,20 @@ void declarer_installer(CLI::App& app, int& code_de_sortie) {
 
 void declarer_verifier(CLI::App& app, int& code_de_sortie) {
     const auto choix = std::make_shared<ChoixDeLigne>();
-    verbe_de_projet(app, "verifier", "Lit et essaie tous les fichiers du projet sans rien changer",
-                    *choix)
-        ->callback([choix, &code_de_sortie] {
-            // Changes nothing: the application directory is not even made.
-            code_de_sortie = avec_projet(*choix, dossier_application(choix->dossier),
-                                         [](Projet& projet, Etat& etat, Fenetres& fenetres) {
-                                             projet.verifier();
-                                             essayer_le_projet(etat, projet, fenetres);
-                                         });
-        });
+    const auto match = std::make_shared<OptionsMatch>();
+    CLI::App* const verbe = verbe_de_projet(
+        app, "verifier", "Lit et essaie tous les fichiers du projet sans rien changer", *choix);
+    ajouter_options_match(*verbe, *choix, *match);
+    verbe->callback([choix, match, &code_de_sortie] {
+        if (match->match) {
+            code_de_sortie = verifier_match(*choix, match->json);
+            return;
+        }
+        // Changes nothing: the application directory is not even made.
+        code_de_sortie = avec_projet(*choix, dossier_application(choix->dossier),
+                                     [](Projet& projet, Etat& etat, Fenetres& fenetres) {
+                                         projet.verifier();
+                                         essayer_le_projet(etat, projet, fenetres);
+                                     });
+    });
 }

@@ -38,12 +38,13 @@ void Simulation::demarrer(const ChoixDeLigne& choix) {
     projet_.Init_Robot();
     projet_.Init_Jeu();
     initDamier(e);
-    appliquer_options(choix);
+    if (appliquer_reglages(e, choix))
+        image_ = disposer(e);
     f.Dessine_Table();
     f.Dessine_Robot();
 }
 
-void Simulation::appliquer_options(const ChoixDeLigne& choix) {
+bool appliquer_reglages(Etat& e, const ChoixDeLigne& choix) {
     if (choix.allege)
         e.Options(2) = 1;
     if (choix.robots)
@@ -53,11 +54,11 @@ void Simulation::appliquer_options(const ChoixDeLigne& choix) {
     e.AffichageLent = vrai16(e.Options(1) != 1);
     e.PasTemps = e.Options(2) == 1 ? 5 : 1;
     e.NbRobot = std::clamp<int>(e.Options(3), 1, robots_des_fichiers);
-    if (e.Options(4) == 1) {
-        horizontal(e);
-        e.TableHorizontale = vrai16(true);
-        image_ = disposer(e);
-    }
+    if (e.Options(4) != 1)
+        return false;
+    horizontal(e);
+    e.TableHorizontale = vrai16(true);
+    return true;
 }
 
 Image disposer(Etat& e) {
@@ -74,8 +75,7 @@ Image disposer(Etat& e) {
 
 void Simulation::jouer(std::int32_t duree) {
     moteur_.Run_Jeu();
-    constexpr std::int32_t fin_du_match = 9001;
-    Progres progres("Simulation", std::min(duree, fin_du_match));
+    Progres progres("Simulation", std::min<std::int32_t>(duree, dernier_tick(e.PasTemps)));
     while (f.en_marche() && e.TempsEcoule < duree) {
         if (!moteur_.Timer_Timer())
             break;

@@ -19,6 +19,11 @@ struct ChoixDeLigne {
     bool horizontale = false;
 };
 
+/// Applies the settings read into `Options`, or what stands in their place, as the start-up does:
+/// display, time step, number of robots, quarter turn.
+/// @returns whether the table was turned  @throws Debordement: nothing is turned then
+bool appliquer_reglages(Etat& e, const ChoixDeLigne& choix);
+
 /// The application directory, made the process's current directory. @throws ErreurFichier
 std::filesystem::path ouvrir_dossier(const std::optional<std::filesystem::path>& demande);
 
@@ -52,7 +57,6 @@ public:
 
 private:
     void demarrer(const ChoixDeLigne& choix);
-    void appliquer_options(const ChoixDeLigne& choix);
 
     Etat& e;
     FenetresTerminal& f;

@@ -54,9 +54,14 @@ int parametres_de(const Nom10& code) {
 
 void LecteurTrajet::lire(std::string_view texte, Entier16 n, Entier16& NoLigne) {
     e.TrajNbActions(n) = 0;
-    pour_chaque_ligne(
-        texte, NoLigne, [&](std::string_view ligne) { lire_ligne(ligne, n); },
-        contient_lettre_ou_chiffre);
+    lignes_.clear();
+    const int avant = NoLigne;
+    const auto lire_et_situer = [&](std::string_view ligne) {
+        lire_ligne(ligne, n);
+        if (e.TrajNbActions(n) > static_cast<int>(lignes_.size()))
+            lignes_.push_back(NoLigne - avant);
+    };
+    pour_chaque_ligne(texte, NoLigne, lire_et_situer, contient_lettre_ou_chiffre);
 }
 
 void LecteurTrajet::lire_ligne(std::string_view ligne, Entier16 n) {

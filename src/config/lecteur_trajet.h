@@ -4,6 +4,7 @@
 #include "sim/etat.h"
 
 #include <string_view>
+#include <vector>
 
 /// Reads trajectory files into the state, one after the other; one object for one reading of a
 /// project's trajectories, because the two parameters live on: an action that has none stores what
@@ -18,6 +19,9 @@ public:
     /// @throws ErreurExecution on the first faulty line; the actions read before it stay
     void lire(std::string_view texte, Entier16 n, Entier16& NoLigne);
 
+    /// The lines of the actions read last, counted within their file from 1.
+    const std::vector<int>& lignes() const { return lignes_; }
+
 private:
     void lire_ligne(std::string_view ligne, Entier16 n);
     void lire_pose(Champs& champs, Entier16 n);
@@ -25,4 +29,5 @@ private:
 
     Etat& e;
     Entier16 parametre_, parametre2_;
+    std::vector<int> lignes_;
 };

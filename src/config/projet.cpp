@@ -103,7 +103,8 @@ void Projet::Installe() {
 }
 
 template <typename Lecteur>
-bool Projet::lire(const std::string& nom, const Entier16& NoLigne, Lecteur lecteur) {
+bool Projet::lire(const std::string& nom, const Entier16& NoLigne, Lecteur lecteur, int robot) {
+    const int ligne_avant = NoLigne; // trajectories count on from one file to the next
     // Other spellings are looked for only when there is no such file: looking takes longer than
     // reading.
     std::string chemin = configuration_ + nom;
@@ -123,6 +124,7 @@ bool Projet::lire(const std::string& nom, const Entier16& NoLigne, Lecteur lecte
     } catch (const ErreurExecution& erreur) {
         raison = erreur.what();
     }
+    erreurs_.push_back({chemin, robot, NoLigne - ligne_avant, raison});
     f.message("Erreur lors de la lecture du fichier " + chemin + " Ligne " +
                   std::to_string(NoLigne),
               "Raison : " + raison);
@@ -130,6 +132,7 @@ bool Projet::lire(const std::string& nom, const Entier16& NoLigne, Lecteur lecte
 }
 
 void Projet::LoadGeneral() {
+    erreurs_.clear();
     const std::string ancien = std::exchange(e.NomProjet, "Defaut");
     Entier16 NoLigne;
     lire(nom_general, NoLigne, [&](std::string_view texte) { lire_general(texte, e, NoLigne); });
@@ -153,8 +156,9 @@ void Projet::LoadRobot() {
     LecteurRobot lecteur(e);
     for (int n = 1; n <= robots_des_fichiers; ++n) {
         Entier16 NoLigne;
-        if (!lire(e.NomProjet + suite_robot(n), NoLigne,
-                  [&](std::string_view texte) { lecteur.lire(texte, n, NoLigne); }))
+        if (!lire(
+                e.NomProjet + suite_robot(n), NoLigne,
+                [&](std::string_view texte) { lecteur.lire(texte, n, NoLigne); }, n))
             return Init_Robot_Old(e, n);
     }
 }
@@ -163,9 +167,13 @@ void Projet::LoadTrajet() {
     LecteurTrajet lecteur(e);
     Entier16 NoLigne; // deliberately counts over all nine files
     for (int n = 1; n <= robots_des_fichiers; ++n) {
-        if (!lire(e.NomProjet + suite_trajet(n), NoLigne,
-                  [&](std::string_view texte) { lecteur.lire(texte, n, NoLigne); }))
+        if (!lire(
+                e.NomProjet + suite_trajet(n), NoLigne,
+                [&](std::string_view texte) { lecteur.lire(texte, n, NoLigne); }, n)) {
+            lignes_trajet_.remplir({});
             return Init_Jeu_Old(e);
+        }
+        lignes_trajet_(n) = lecteur.lignes();
     }
 }
 

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The options window's values, as the general settings file keeps them.
 struct ReglagesGeneraux {
@@ -14,6 +15,14 @@ struct ReglagesGeneraux {
     bool allege = false;      ///< Check2
     std::string nb_robot;     ///< caption of NbRO
     bool horizontale = false; ///< Check3
+};
+
+/// What a reader complained about.
+struct ErreurDeLecture {
+    std::filesystem::path fichier;
+    int robot = 0; ///< 0: the settings or the table
+    int ligne = 0; ///< within that file, from 1; 0 when not even the first one was reached
+    std::string raison;
 };
 
 /// Reads and installs a project's files for one Etat. Every failing reader shows "Erreur lors de la
@@ -56,9 +65,15 @@ public:
     /// nothing. What is wrong comes out as messages.
     void verifier();
 
+    /// What the readers complained about since the last LoadGeneral, as values.
+    const std::vector<ErreurDeLecture>& erreurs() const { return erreurs_; }
+    /// The lines of robot n's actions 1, 2... in its file; empty when the trajectories in use are
+    /// the built-in ones.
+    const std::vector<int>& lignes_trajet(int n) const { return lignes_trajet_(n); }
+
 private:
     template <typename Lecteur>
-    bool lire(const std::string& nom, const Entier16& NoLigne, Lecteur lecteur);
+    bool lire(const std::string& nom, const Entier16& NoLigne, Lecteur lecteur, int robot = 0);
     std::filesystem::path trouver(const std::string& nom) const;
 
     Etat& e;
@@ -67,4 +82,6 @@ private:
     std::string configuration_; ///< the directory Configuration, with a separator behind
     std::optional<std::string> projet_impose_;
     bool installation_ = true; ///< LoadGeneral may create files
+    std::vector<ErreurDeLecture> erreurs_;
+    Tableau<std::vector<int>, robots_max> lignes_trajet_;
 };

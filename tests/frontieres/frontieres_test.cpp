@@ -20,8 +20,9 @@ const std::map<std::string, Dossiers> permis{
     {"draw", {"base", "sim"}},
     {"record", {"base", "sim", "config"}},
     {"codegen", {"base", "config"}},
-    {"cli", {"base", "sim", "config", "draw", "record", "codegen"}},
-    {"ui", {"base", "sim", "config", "draw", "record", "codegen"}},
+    {"analyse", {"base", "sim", "config", "draw", "codegen"}},
+    {"cli", {"base", "sim", "config", "draw", "record", "codegen", "analyse"}},
+    {"ui", {"base", "sim", "config", "draw", "record", "codegen", "analyse"}},
 };
 
 /// The faults of one file's #include lines, a line each; empty when there is none.

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "analyse/parcours.h"
+
+#include <optional>
+
+/// What two outlines, or an outline and a block, did during a match.
+struct Rencontre {
+    /// First tick at which they touched, crossed or enclosed each other, or that ends the motion in
+    /// which they did.
+    std::optional<std::size_t> contact;
+    double ecart = 0;           ///< smallest gap at any tick (cm), 0 with a contact
+    std::size_t tick_ecart = 0; ///< its first tick
+};
+
+/// The whole match of two robots: nothing is missed between ticks. The gap is right to 0.01 cm.
+Rencontre rencontre(const Parcours& a, const Parcours& b);
+/// A robot and a block, filled; the gap is not looked for.
+Rencontre rencontre(const Parcours& a, const Obstacle& o);

@@ -1,0 +1,117 @@
+#include "analyse/verdict.h"
+
+#include "analyse/releve.h"
+#include "base/texte.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// A number with a decimal comma; `rang` decimals.
+std::string decimal(double valeur, int rang) {
+    const double echelle = std::pow(10, rang);
+    std::string texte(texte_double15(std::round(valeur * echelle) / echelle).vue());
+    std::size_t point = texte.find('.');
+    if (point == std::string::npos) {
+        point = texte.size();
+        texte += '.';
+    }
+    texte.resize(point + 1 + static_cast<std::size_t>(rang), '0');
+    texte[point] = ',';
+    return texte;
+}
+
+std::string place(double x, double y) {
+    return "(" + dixiemes(x) + " ; " + dixiemes(y) + ")";
+}
+
+std::string fin_des_trajets(const Analyse& a) {
+    if (a.match.arret)
+        return "match arrêté par une erreur à " + secondes(a.match.duree);
+    std::optional<std::int32_t> fin;
+    for (const Bilan& b : a.robots) {
+        if (b.actions_du_plan == 0)
+            continue;
+        if (!b.fin)
+            return "robot " + std::to_string(b.robot) + " pas fini à 90 s";
+        fin = std::max(fin.value_or(0), *b.fin);
+    }
+    if (!fin)
+        return "aucune action";
+    return "dernière action finie à " + secondes(*fin) + ", marge " +
+           secondes(duree_du_match - *fin);
+}
+
+} // namespace
+
+std::string secondes(std::int32_t centiemes) {
+    return decimal(centiemes / 100.0, 2) + " s";
+}
+
+std::string dixiemes(double valeur) {
+    return decimal(valeur, 1);
+}
+
+std::string verdict(const Analyse& a) {
+    const PoseTick& p = a.robots.front().arrivee;
+    return a.projet + " : " + fin_des_trajets(a) + " ; robot 1 arrivé en " + place(p.x, p.y) +
+           ", cap " + dixiemes(p.cap) + "° ; " +
+           (a.constats.empty() ? "aucun constat"
+                               : compte(static_cast<int>(a.constats.size()), "constat"));
+}
+
+std::string en_ligne(const Constat& constat) {
+    std::string ligne;
+    const auto ajouter = [&ligne](const std::string& partie) {
+        ligne += (ligne.empty() ? "" : ", ") + partie;
+    };
+    if (constat.temps)
+        ajouter(secondes(*constat.temps));
+    if (constat.robot)
+        ajouter("robot " + std::to_string(*constat.robot));
+    if (constat.lieu)
+        ajouter("en " + place(constat.lieu->x, constat.lieu->y));
+    if (!constat.fichier.empty())
+        ajouter(constat.fichier +
+                (constat.ligne ? " ligne " + std::to_string(*constat.ligne) : ""));
+    return (ligne.empty() ? "" : ligne + " : ") + constat.texte;
+}
+
+std::string en_ligne(const EcartDeRobots& ecart) {
+    return "Robots " + std::to_string(ecart.robot) + " et " + std::to_string(ecart.autre) + " : " +
+           (ecart.ecart == 0 ? "se touchent" : "au plus près " + dixiemes(ecart.ecart) + " cm") +
+           " à " + secondes(ecart.temps);
+}
+
+std::string_view nom(Genre genre) {
+    switch (genre) {
+    case Genre::arret:
+        return "arret";
+    case Genre::duree:
+        return "duree";
+    case Genre::inatteinte:
+        return "inatteinte";
+    case Genre::apres_fin:
+        return "apres-fin";
+    case Genre::valeur:
+        return "valeur";
+    case Genre::sortie:
+        return "sortie";
+    case Genre::contact_robot:
+        return "contact-robot";
+    case Genre::contact_bloc:
+        return "contact-bloc";
+    case Genre::balise:
+        return "balise";
+    case Genre::prediction:
+        return "prediction";
+    case Genre::pas:
+        return "pas";
+    case Genre::damier:
+        return "damier";
+    case Genre::lecture:
+        return "lecture";
+    }
+    return "";
+}

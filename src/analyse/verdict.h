@@ -1,0 +1,17 @@
+#pragma once
+
+#include "analyse/analyse.h"
+
+/// One line: end of the last action and margin, arrival of robot 1, number of findings.
+std::string verdict(const Analyse& a);
+/// One finding in one line: instant, robot, place, file and line, what it means and what to do.
+std::string en_ligne(const Constat& constat);
+/// "Robots 1 et 2 : au plus près 12,3 cm à 45,60 s."
+std::string en_ligne(const EcartDeRobots& ecart);
+/// The whole analysis as one JSON object.
+std::string en_json(const Analyse& a);
+
+/// "45,60 s"
+std::string secondes(std::int32_t centiemes);
+/// A length or an angle with one decimal: "12,3".
+std::string dixiemes(double valeur);
