@@ -4,10 +4,18 @@
 
 namespace {
 
+// More than a byte is played too, but no action needs it: whoever left the field empty is told what
+// makes sense.
+std::string_view attendu_du_vide(const Champ& champ, std::string_view attendu) {
+    const bool d_une_action = champ.nom == nom_Text1 || champ.nom == nom_Text4;
+    return d_une_action ? "un nombre entier de 0 à 255" : attendu;
+}
+
 [[noreturn]] void refuser(const Champ& champ, std::string_view attendu) {
     const std::string debut = "champ « " + std::string(champ.nom) + " » : ";
     if (rogner(champ.texte).empty())
-        throw ErreurExecution(debut + "il est vide, il faut " + std::string(attendu));
+        throw ErreurExecution(debut + "il est vide, il faut " +
+                              std::string(attendu_du_vide(champ, attendu)));
     throw ErreurExecution(debut + ErreurConversion(champ.texte, attendu).what());
 }
 

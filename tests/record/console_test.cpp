@@ -89,7 +89,9 @@ TEST(Console, un_champ_refuse_est_nomme_et_rien_ne_commence) {
 
     b.debuter();
     // Both fields are read, whatever the action.
-    EXPECT_NE(refus([&] { b.jouer("Avance", "5", ""); }).find("« Angle » : il est vide"),
+    EXPECT_NE(refus([&] {
+                  b.jouer("Avance", "5", "");
+              }).find("« Angle » : il est vide, il faut un nombre entier de 0 à 255"),
               std::string::npos);
     EXPECT_NE(refus([&] { b.jouer("Balise Droite", "1e9", "0"); }).find("« 1e9 »"),
               std::string::npos);
