@@ -1,5 +1,6 @@
 #include "config/document.h"
 
+#include "config/fige.h"
 #include "config/ligne.h"
 
 #include <algorithm>
@@ -14,6 +15,10 @@ bool est_dans(std::string_view cle, const std::vector<std::string_view>& cles) {
 }
 
 } // namespace
+
+bool en_16_bits(const Fiche& f) {
+    return std::all_of(f.v.begin(), f.v.end(), [](float x) { return x >= -32768 && x <= 32767; });
+}
 
 int Document::compter(const std::vector<std::string_view>& cles) const {
     return static_cast<int>(std::count_if(rangs_.begin(), rangs_.end(), [&](std::size_t r) {
@@ -72,10 +77,10 @@ void Document::retirer(std::size_t i) {
     renumeroter();
 }
 
-std::size_t Document::ajouter(Fiche e) {
+std::size_t Document::ajouter(Fiche e, const std::vector<std::string_view>& cles) {
     std::size_t r = entrees_.size();
     for (const std::size_t rang : rangs_)
-        if (entrees_[rang].objet->cle == e.cle)
+        if (est_dans(entrees_[rang].objet->cle, cles))
             r = rang + 1;
     if (r > 0 && entrees_[r - 1].fin.empty())
         entrees_[r - 1].fin = fin_usuelle_;
@@ -120,4 +125,76 @@ std::string Document::assembler(const std::function<std::string(std::size_t)>& e
     for (std::size_t r = 0; r < entrees_.size(); ++r)
         texte.append(ecrire(r)).append(entrees_[r].fin);
     return texte;
+}
+
+namespace {
+
+constexpr std::string_view aucune = "-", la_meme = "=", la_voici = "+";
+
+void figer_fiche(const std::optional<Fiche>& f, EcritureFigee& texte) {
+    texte.mettre(f ? la_voici : aucune);
+    if (!f)
+        return;
+    texte.mettre(f->cle);
+    for (const float x : f->v)
+        texte.mettre(texte_simple(x).vue());
+    texte.mettre(f->texte);
+}
+
+std::optional<Fiche> relever_fiche(LectureFigee& lecture, const std::optional<Fiche>& autre = {}) {
+    const std::string_view sorte = lecture.suivant();
+    if (sorte == la_meme && autre)
+        return autre;
+    if (sorte == aucune)
+        return std::nullopt;
+    if (sorte != la_voici)
+        LectureFigee::refuser();
+    Fiche f;
+    f.cle = lecture.suivant();
+    for (float& x : f.v)
+        x = lecture.simple();
+    f.texte = lecture.suivant();
+    return f;
+}
+
+} // namespace
+
+std::string Document::figer() const {
+    EcritureFigee texte;
+    texte.mettre(prefixe_);
+    texte.mettre(encodage_ == Encodage::utf8 ? "utf8" : "1252");
+    texte.mettre(fin_usuelle_);
+    texte.mettre(std::to_string(entrees_.size()));
+    for (const Entree& e : entrees_) {
+        texte.mettre(e.octets);
+        texte.mettre(e.fin);
+        texte.mettre(e.compte ? "1" : "0");
+        figer_fiche(e.lu, texte);
+        if (e.lu && e.objet == e.lu)
+            texte.mettre(la_meme);
+        else
+            figer_fiche(e.objet, texte);
+    }
+    return texte.texte();
+}
+
+void Document::relever(std::string_view fige, const std::function<bool(const Fiche&)>& possible) {
+    LectureFigee lecture(fige);
+    prefixe_ = lecture.suivant();
+    encodage_ = lecture.suivant() == "utf8" ? Encodage::utf8 : Encodage::windows1252;
+    fin_usuelle_ = lecture.suivant();
+    entrees_.clear();
+    for (std::size_t n = lecture.nombre(); n > 0; --n) {
+        Entree e;
+        e.octets = lecture.suivant();
+        e.fin = lecture.suivant();
+        e.compte = lecture.suivant() == "1";
+        e.lu = relever_fiche(lecture);
+        e.objet = relever_fiche(lecture, e.lu);
+        if (e.objet && !possible(*e.objet))
+            LectureFigee::refuser();
+        entrees_.push_back(std::move(e));
+    }
+    lecture.finir();
+    renumeroter();
 }

@@ -20,6 +20,8 @@ struct Fiche {
 
     int entier(std::size_t i) const { return static_cast<int>(v[i]); }
 };
+/// Every number fits in 16 bits.
+bool en_16_bits(const Fiche& f);
 
 /// A configuration file under edit: its records in order, and every other line (comments, blank
 /// lines, lines that are not understood) in its place. A line whose record is not changed keeps its
@@ -37,13 +39,16 @@ public:
 
     void remplacer(std::size_t i, Fiche e) { entrees_[rangs_[i]].objet = std::move(e); }
     void retirer(std::size_t i);
-    /// Puts a record on a line of its own behind the last one of the same key, else at the end.
-    /// @returns its index
-    std::size_t ajouter(Fiche e);
+    /// Puts a record on a line of its own behind the last one with one of these keys, else at the
+    /// end. @returns its index
+    std::size_t ajouter(Fiche e, const std::vector<std::string_view>& cles);
     /// Swaps two records with their lines.
     void echanger(std::size_t i, std::size_t j);
 
     Encodage encodage() const { return encodage_; }
+
+    /// The whole of it, also what could not be written to a file yet: for a recovery file.
+    std::string figer() const;
 
 protected:
     struct Entree {
@@ -57,6 +62,9 @@ protected:
     using Analyse = std::function<std::optional<Fiche>(std::string_view)>;
 
     void lire(std::string_view octets, const Analyse& analyse);
+    /// Takes back what figer() gave. @throws ErreurExecution for other bytes, or when a record is
+    /// not `possible`
+    void relever(std::string_view fige, const std::function<bool(const Fiche&)>& possible);
     void renumeroter();
     /// The comment at the end of a line, with a blank before it; "" without one.
     static std::string commentaire(const Entree& e);

@@ -9,13 +9,16 @@
 
 namespace {
 
+bool est_du_robot(std::string_view cle) {
+    return cle.size() == 1 && std::string_view("RVAEI").find(cle) != std::string_view::npos;
+}
+
 std::optional<Fiche> analyser(std::string_view ligne) {
     try {
         Champs champs(ligne);
         Fiche e;
         e.cle = champs.cle().vue();
-        static constexpr std::string_view cles[] = {"R", "V", "A", "E", "I"};
-        if (std::find(std::begin(cles), std::end(cles), e.cle) == std::end(cles))
+        if (!est_du_robot(e.cle))
             return std::nullopt;
         const std::size_t n = DocumentRobot::champs(e.cle);
         for (std::size_t i = 0; i + 1 < n; ++i)
@@ -50,10 +53,21 @@ DocumentRobot DocumentRobot::depuis(std::string_view octets) {
     return d;
 }
 
+DocumentRobot DocumentRobot::depuis_fige(std::string_view fige) {
+    DocumentRobot d;
+    d.relever(fige, [](Fiche f) {
+        if (f.cle == "A")
+            f.v[0] = 0; // any number that has a fraction
+        return est_du_robot(f.cle) && en_16_bits(f);
+    });
+    return d;
+}
+
 std::size_t DocumentRobot::ajouter(Fiche e) {
     if (e.cle == "R" && compter({"R"}) >= segments_max)
         throw ErreurExecution("Le robot ne peut pas avoir plus de 50 segments");
-    return Document::ajouter(std::move(e));
+    const std::string cle = e.cle;
+    return Document::ajouter(std::move(e), {cle});
 }
 
 std::optional<std::size_t> DocumentRobot::trouver(std::string_view cle) const {
@@ -73,7 +87,7 @@ void DocumentRobot::regler(std::string_view cle, const std::array<float, 4>& v) 
     if (const auto i = trouver(cle))
         remplacer(*i, e);
     else
-        Document::ajouter(e);
+        Document::ajouter(e, {cle});
 }
 
 std::string DocumentRobot::texte(bool sans_les_incomprises) const {

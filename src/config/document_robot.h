@@ -14,6 +14,8 @@ public:
 
     static DocumentRobot nouveau();
     static DocumentRobot depuis(std::string_view octets);
+    /// What figer() gave. @throws ErreurExecution for other bytes
+    static DocumentRobot depuis_fige(std::string_view fige);
 
     /// @throws ErreurExecution, a sentence for the user, beyond 50 segments
     std::size_t ajouter(Fiche e);

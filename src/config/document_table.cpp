@@ -162,6 +162,14 @@ DocumentTable DocumentTable::depuis(std::string_view octets) {
     return d;
 }
 
+DocumentTable DocumentTable::depuis_fige(std::string_view fige) {
+    DocumentTable d;
+    d.relever(fige, [](const Fiche& f) {
+        return f.cle == "M" || (sorte_table(f.cle) != nullptr && en_16_bits(f));
+    });
+    return d;
+}
+
 Fiche DocumentTable::normaliser(Fiche e) {
     const std::size_t n = nombre_de_champs(e.cle);
     const bool pion = est_pion(e.cle);
@@ -190,7 +198,8 @@ std::size_t DocumentTable::ajouter(Fiche e) {
     if (sorte != nullptr && compter(sorte->cles) >= sorte->capacite)
         throw ErreurExecution("La table ne peut pas avoir plus de " +
                               std::to_string(sorte->capacite) + " " + std::string(sorte->nom));
-    return Document::ajouter(normaliser(std::move(e)));
+    const auto cles = sorte != nullptr ? sorte->cles : std::vector<std::string_view>{"M"};
+    return Document::ajouter(normaliser(std::move(e)), cles);
 }
 
 std::size_t DocumentTable::deplacer(std::size_t i, bool vers_l_avant) {

@@ -34,12 +34,15 @@ public:
     static DocumentTable nouveau();
     /// Reads any bytes: what is no proper record is kept as it is.
     static DocumentTable depuis(std::string_view octets);
+    /// What figer() gave. @throws ErreurExecution for other bytes
+    static DocumentTable depuis_fige(std::string_view fige);
 
     /// The record, its numbers brought into the range that reader and drawing accept, its box the
     /// right way round.
     static Fiche normaliser(Fiche e);
     void remplacer(std::size_t i, Fiche e) { Document::remplacer(i, normaliser(std::move(e))); }
-    /// Adds a record. @throws ErreurExecution, a sentence for the user, when its kind is full
+    /// Adds a record, drawn over those of its kind. @throws ErreurExecution, a sentence for the
+    /// user, when its kind is full
     std::size_t ajouter(Fiche e);
     /// Moves a record one step within its kind: later ones are drawn over it.
     /// @returns its new index, `i` when it is the last (first) already

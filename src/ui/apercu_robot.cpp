@@ -14,7 +14,7 @@ namespace {
 constexpr int intervalle = 30;     ///< between two pictures of the turning robot, ms
 constexpr double fleche = 56;      ///< length of the arrow, logical pixels
 constexpr double rayon_pointe = 6; ///< of the disc at its end
-constexpr double pas_cap = 5;      ///< degrees; 1 with Alt
+constexpr double pas_cap = 5;      ///< degrees; 1 without the grid
 const QColor teinte(200, 0, 0);
 } // namespace
 
@@ -22,8 +22,8 @@ ApercuRobot::ApercuRobot(QWidget* parent)
     : VueEchelle(parent), e_(std::make_unique<Etat>()), horloge_(this) {
     setObjectName("apercuRobot");
     setAccessibleName("Position initiale du robot sur la table");
-    setToolTip("Tirer le robot change sa position initiale, tirer la flèche son cap (Alt : au "
-               "centimètre, au degré).");
+    setToolTip("Tirer le robot change sa position initiale, tirer la flèche son cap (Alt ou Ctrl : "
+               "au centimètre, au degré).");
     setMinimumSize(160, 200);
     regler_grille(5);
     e_->XMax = 200;
@@ -117,7 +117,7 @@ void ApercuRobot::glisser(QPointF pixels, Qt::KeyboardModifiers touches) {
     const QPointF ici = en_cm(pixels);
     if (geste_ == Geste::orienter) {
         const QPointF bras = ici - QPointF(e_->XRobot(1), e_->YRobot(1));
-        const double pas = touches.testFlag(Qt::AltModifier) ? 1 : pas_cap;
+        const double pas = sans_grille(touches) ? 1 : pas_cap;
         const double cap = std::round(std::atan2(bras.y(), bras.x()) * 180 / Pi / pas) * pas;
         e_->CapRobot(1) = static_cast<float>(cap == -180 ? 180 : cap);
     } else {

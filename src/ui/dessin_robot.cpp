@@ -1,5 +1,8 @@
 #include "ui/dessin_robot.h"
 
+#include "base/fichiers.h"
+#include "config/lecteur_trajet.h"
+#include "ui/formes.h"
 #include "ui/foutil.h"
 
 #include <QMenu>
@@ -10,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -34,6 +38,22 @@ Fiche deplace(Fiche f, double dx, double dy) {
     return f;
 }
 
+/// The pose that a trajectory gives its robot, none when it leaves the robot file's.
+std::optional<std::array<float, 4>> pose_du_trajet(const std::filesystem::path& fichier) {
+    const auto e = std::make_unique<Etat>();
+    constexpr float jamais = 1e9F; // no 16-bit number
+    e->XInit(1) = jamais;
+    try {
+        Entier16 NoLigne;
+        LecteurTrajet(*e).lire(en_utf8(lire_octets(fichier)), 1, NoLigne);
+    } catch (const ErreurExecution&) {
+        return std::nullopt; // loading the project tells why
+    }
+    if (e->XInit(1) == jamais)
+        return std::nullopt;
+    return std::array<float, 4>{e->XInit(1), e->YInit(1), e->CapInit(1), 0};
+}
+
 } // namespace
 
 dessinRobot::dessinRobot(QWidget* parent, Foutil& outils, Programme programme)
@@ -54,7 +74,6 @@ dessinRobot::dessinRobot(QWidget* parent, Foutil& outils, Programme programme)
 void dessinRobot::placer() {
     liste_.setObjectName("listeSegments");
     liste_.setAccessibleName("Segments du robot");
-    liste_.setSelectionMode(QAbstractItemView::ExtendedSelection);
     tourner_.setObjectName("tourner");
     tourner_.setText("&Tourner autour du point de référence");
     auto* contour = new QWidget;
@@ -65,6 +84,10 @@ void dessinRobot::placer() {
     auto* vues = new QVBoxLayout(depart);
     vues->addWidget(&apercu_, 1);
     vues->addWidget(&tourner_);
+    avis_init_.setObjectName("avisInit");
+    avis_init_.setWordWrap(true);
+    avis_init_.setTextFormat(Qt::PlainText);
+    vues->addWidget(&avis_init_);
     auto* onglets = new QTabWidget;
     onglets->setObjectName("onglets");
     onglets->setAccessibleName("Parties du robot");
@@ -104,15 +127,7 @@ void dessinRobot::connecter() {
     segment_.au_nombre = [this](std::size_t i, double valeur) { changer_segment(i, valeur); };
     reglages_.au_nombre = [this](std::size_t i, double valeur) { changer_reglage(i, valeur); };
     connect(&tourner_, &QCheckBox::toggled, this, [this](bool oui) { apercu_.tourner(oui); });
-    connect(&liste_, &QListWidget::itemSelectionChanged, this, [this] {
-        if (en_cours_)
-            return;
-        Selection s;
-        for (const QListWidgetItem* item : liste_.selectedItems())
-            s.push_back(static_cast<std::size_t>(item->data(Qt::UserRole).toULongLong()));
-        std::sort(s.begin(), s.end());
-        historique_.choisir(s);
-    });
+    liste_.au_choix = [this](const Selection& s) { historique_.choisir(s); };
 }
 
 void dessinRobot::regler_table(const Etat& table) {
@@ -131,8 +146,32 @@ void dessinRobot::rafraichir() {
     montrer_segment();
     montrer_reglages();
     montrer_liste();
+    montrer_avis_init();
     const int n = historique_.doc().compter({"R"});
     comptes_.setText(QString("segments %1/%2").arg(n).arg(DocumentRobot::segments_max));
+}
+
+void dessinRobot::fichier_change() {
+    init_.reset();
+    const std::string nom = chemin().stem().string();
+    if (const std::string projet = projet_du_nom(nom, GenreFichier::robot); !projet.empty()) {
+        trajet_ = texte_qt(projet + " Trajet" + nom.back() + ".ini");
+        init_ = pose_du_trajet(trouver_fichier(chemin().parent_path(), trajet_.toStdString()));
+    }
+    montrer_avis_init();
+}
+
+void dessinRobot::montrer_avis_init() {
+    const bool autre = init_ && *init_ != historique_.doc().valeurs("I");
+    avis_init_.setVisible(autre);
+    if (autre)
+        avis_init_.setText(
+            QString("Ce départ ne sert pas : « Init » de %1 place le robot à x = %2, "
+                    "y = %3, cap %4°.")
+                .arg(trajet_)
+                .arg((*init_)[0])
+                .arg((*init_)[1])
+                .arg((*init_)[2]));
 }
 
 void dessinRobot::montrer_segment() {
@@ -161,23 +200,16 @@ void dessinRobot::montrer_reglages() {
 }
 
 void dessinRobot::montrer_liste() {
-    en_cours_ = true;
-    liste_.clear();
+    std::vector<ListeChoix::Rangee> rangees;
     const DocumentRobot& d = historique_.doc();
-    const Selection& s = historique_.selection();
-    for (std::size_t i = 0; i < d.nombre(); ++i) {
-        if (d[i].cle != "R")
-            continue;
-        auto* item = new QListWidgetItem(QString("%1, %2 – %3, %4")
-                                             .arg(d[i].entier(0))
-                                             .arg(d[i].entier(1))
-                                             .arg(d[i].entier(2))
-                                             .arg(d[i].entier(3)),
-                                         &liste_);
-        item->setData(Qt::UserRole, static_cast<qulonglong>(i));
-        item->setSelected(std::binary_search(s.begin(), s.end(), i));
-    }
-    en_cours_ = false;
+    for (std::size_t i = 0; i < d.nombre(); ++i)
+        if (d[i].cle == "R")
+            rangees.push_back({i, QString("%1, %2 – %3, %4")
+                                      .arg(d[i].entier(0))
+                                      .arg(d[i].entier(1))
+                                      .arg(d[i].entier(2))
+                                      .arg(d[i].entier(3))});
+    liste_.montrer(rangees, historique_.selection());
 }
 
 Selection dessinRobot::segments_choisis() const {
@@ -263,6 +295,10 @@ void dessinRobot::changer_segment(std::size_t champ, double valeur) {
     DocumentRobot d = historique_.doc();
     Fiche f = d[s.front()];
     f.v[champ] = static_cast<float>(valeur);
+    if (formes::sans_etendue(f) && !formes::sans_etendue(d[s.front()])) {
+        statusBar()->showMessage("Refusé : un segment sans longueur ne se verrait pas");
+        return montrer_segment();
+    }
     d.remplacer(s.front(), f);
     historique_.changer("Changer un segment", std::move(d), s);
 }

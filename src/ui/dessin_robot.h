@@ -3,12 +3,15 @@
 #include "ui/apercu_robot.h"
 #include "ui/fenetre_editeur.h"
 #include "ui/historique.h"
+#include "ui/liste_choix.h"
 #include "ui/panneau_proprietes.h"
 #include "ui/vue_robot.h"
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QListWidget>
+
+#include <array>
+#include <optional>
 
 /// The robot editor.
 class dessinRobot final : public FenetreEditeur {
@@ -20,6 +23,7 @@ public:
     void regler_table(const Etat& table);
 
 protected:
+    void fichier_change() override;
     QUndoStack& pile() override { return historique_.pile; }
     VueEchelle& vue() override { return vue_; }
     void commencer() override { historique_.repartir(DocumentRobot::nouveau()); }
@@ -27,6 +31,10 @@ protected:
     std::string octets() const override { return historique_.doc().ecrire(); }
     std::optional<RefusLecture> relire(const std::string& octets) const override {
         return DocumentRobot::relire(octets);
+    }
+    std::string figer() const override { return historique_.doc().figer(); }
+    void degeler(std::string_view fige) override {
+        historique_.repartir(DocumentRobot::depuis_fige(fige));
     }
     void retirer() override;
     void dupliquer() override;
@@ -40,6 +48,7 @@ private:
     void montrer_segment();
     void montrer_reglages();
     void montrer_liste();
+    void montrer_avis_init();
     void miroir();
     void ajouter(const std::vector<Fiche>& segments, const QString& nom);
     Selection segments_choisis() const;
@@ -50,8 +59,9 @@ private:
     VueRobot vue_;
     ApercuRobot apercu_;
     PanneauProprietes segment_, reglages_;
-    QListWidget liste_;
+    ListeChoix liste_;
     QCheckBox tourner_;
-    QLabel position_, comptes_;
-    bool en_cours_ = false; ///< the list is being filled
+    QLabel position_, comptes_, avis_init_;
+    std::optional<std::array<float, 4>> init_; ///< the trajectory's own pose, as an "I" record
+    QString trajet_;                           ///< its file
 };

@@ -55,9 +55,9 @@ void dessinTable::placer() {
     legende_.setToolTip("Texte affiché sur la table. Une virgule passe à la ligne.");
     legende_.setMaximumHeight(70);
     legende_.setTabChangesFocus(true);
+    legende_.setUndoRedoEnabled(false); // the drawing's own steps
     liste_.setObjectName("listeObjets");
     liste_.setAccessibleName("Objets de la table");
-    liste_.setSelectionMode(QAbstractItemView::ExtendedSelection);
     lignes->addWidget(&proprietes_);
     lignes->addWidget(titre_legende);
     lignes->addWidget(&legende_);
@@ -90,7 +90,7 @@ void dessinTable::connecter() {
     proprietes_.au_nombre = [this](std::size_t i, double valeur) { changer_nombre(i, valeur); };
     proprietes_.a_la_sorte = [this](const QString& cle) { changer_sorte(cle.toStdString()); };
     connect(&legende_, &QPlainTextEdit::textChanged, this, [this] { changer_legende(); });
-    connect(&liste_, &QListWidget::itemSelectionChanged, this, [this] { choisir_dans_la_liste(); });
+    liste_.au_choix = [this](const Selection& s) { historique_.choisir(s); };
 }
 
 void dessinTable::preparer_edition() {
@@ -99,6 +99,11 @@ void dessinTable::preparer_edition() {
     action(m, "reculer", "Vers l'arri&ère", QKeySequence("Ctrl+Down"),
            [this] { changer_plan(false); });
     preparer_alignement();
+    QAction* verrou =
+        action(m, "verrouiller", "&Verrouiller les zones", QKeySequence("Ctrl+L"), [] {});
+    verrou->setCheckable(true);
+    verrou->setToolTip("La souris passe au travers des zones du sol");
+    connect(verrou, &QAction::toggled, this, [this](bool oui) { verrouiller_les_zones(oui); });
 }
 
 void dessinTable::preparer_alignement() {
@@ -146,9 +151,10 @@ void dessinTable::outil_change() {
     if (outil.forme == Outil::Forme::selection)
         statusBar()->clearMessage();
     else
-        statusBar()->showMessage(QString(outil.texte) +
-                                 " : cliquer, ou tracer avec la souris (Alt : sans la grille, "
-                                 "Maj : garder l'outil)");
+        statusBar()->showMessage(
+            QString(outil.texte) +
+            " : cliquer, ou tracer avec la souris (Alt ou Ctrl : sans la grille, "
+            "Maj : garder l'outil)");
 }
 
 void dessinTable::montrer_proprietes() {
@@ -160,9 +166,9 @@ void dessinTable::montrer_proprietes() {
     if (s.size() > 1)
         return proprietes_.conseiller(QString("%1 objets choisis").arg(s.size()),
                                       "Ils se déplacent et s'alignent ensemble.");
-    const Fiche& e = historique_.doc()[s.front()];
-    if (e.cle == "M")
+    if (historique_.doc()[s.front()].cle == "M")
         return proprietes_.conseiller("Légende", "Son texte se change ci-dessous.");
+    const Fiche e = mesures().typees;
     using Champ = PanneauProprietes::Champ;
     std::vector<Champ> champs;
     const bool quatre = nombre_de_champs(e.cle) == 4;
@@ -196,36 +202,27 @@ void dessinTable::montrer_legende() {
     for (std::size_t i = 0; i < d.nombre(); ++i)
         if (d[i].cle == "M")
             texte = texte_qt(d[i].texte);
-    if (texte == legende_.toPlainText())
+    const QString avant = legende_.toPlainText();
+    if (texte == avant)
         return;
+    // The cursor stays behind what was typed, which a caption may not keep as it is.
+    QTextCursor curseur = legende_.textCursor();
+    const QString tape = avant.left(curseur.position());
+    const Fiche garde = DocumentTable::normaliser({"M", {}, tape.toStdString()});
     const QSignalBlocker muet(&legende_);
     legende_.setPlainText(texte);
+    curseur = legende_.textCursor();
+    curseur.setPosition(int(std::min(texte_qt(garde.texte).size(), texte.size())));
+    legende_.setTextCursor(curseur);
 }
 
 void dessinTable::montrer_liste() {
-    en_cours_ = true;
+    std::vector<ListeChoix::Rangee> rangees;
     const DocumentTable& d = historique_.doc();
-    int rang = 0;
-    const Selection& s = historique_.selection();
-    for (std::size_t i = 0; i < d.nombre(); ++i) {
-        if (d[i].cle == "M")
-            continue;
-        if (rang == liste_.count())
-            liste_.addItem(QString());
-        QListWidgetItem& item = *liste_.item(rang++);
-        const QString texte = description(d[i]);
-        if (item.text() != texte) {
-            item.setText(texte);
-            item.setIcon(pastille(d[i]));
-        }
-        item.setData(Qt::UserRole, static_cast<qulonglong>(i));
-        item.setSelected(std::binary_search(s.begin(), s.end(), i));
-        if (s.size() == 1 && s.front() == i)
-            liste_.scrollToItem(&item);
-    }
-    while (liste_.count() > rang)
-        delete liste_.takeItem(rang);
-    en_cours_ = false;
+    for (std::size_t i = 0; i < d.nombre(); ++i)
+        if (d[i].cle != "M")
+            rangees.push_back({i, description(d[i]), [&d, i] { return QIcon(pastille(d[i])); }});
+    liste_.montrer(rangees, historique_.selection());
 }
 
 void dessinTable::montrer_comptes() {
@@ -237,163 +234,4 @@ void dessinTable::montrer_comptes() {
         comptes += n >= sorte.capacite ? "<b>" + texte + "</b>" : texte;
     }
     comptes_.setText(comptes.join(" · "));
-}
-
-void dessinTable::refuser(const std::string& raison) {
-    boites_.message(raison);
-}
-
-void dessinTable::retirer() {
-    if (historique_.selection().empty())
-        return;
-    DocumentTable d = historique_.doc();
-    Selection s = historique_.selection();
-    for (std::size_t k = s.size(); k-- > 0;)
-        d.retirer(s[k]);
-    historique_.changer("Supprimer", std::move(d), {});
-}
-
-// Placed beside the originals, by one step of the grid, and chosen in their place.
-void dessinTable::dupliquer() {
-    DocumentTable d = historique_.doc();
-    std::vector<Fiche> copies;
-    for (const std::size_t i : historique_.selection())
-        if (d[i].cle != "M")
-            copies.push_back(formes::deplacee(d[i], vue_.grille(), vue_.grille()));
-    if (copies.empty())
-        return;
-    Selection s;
-    for (const Fiche& e : copies) {
-        const std::size_t i = d.ajouter(e);
-        for (std::size_t& j : s)
-            j += j >= i ? 1 : 0;
-        s.push_back(i);
-    }
-    std::sort(s.begin(), s.end());
-    historique_.changer("Dupliquer", std::move(d), s);
-}
-
-void dessinTable::tout_choisir() {
-    Selection s;
-    for (std::size_t i = 0; i < historique_.doc().nombre(); ++i)
-        if (historique_.doc()[i].cle != "M")
-            s.push_back(i);
-    historique_.choisir(s);
-}
-
-void dessinTable::deplacer(double dx, double dy) {
-    DocumentTable d = historique_.doc();
-    std::vector<Fiche> objets;
-    for (const std::size_t i : historique_.selection())
-        objets.push_back(d[i]);
-    const QPointF ecart = formes::deplacement_permis(objets, {dx, dy});
-    if (objets.empty() || ecart.isNull())
-        return;
-    for (const std::size_t i : historique_.selection())
-        d.remplacer(i, formes::deplacee(d[i], ecart.x(), ecart.y()));
-    historique_.changer("Déplacer", std::move(d), historique_.selection(), fusion_des_pas);
-}
-
-void dessinTable::changer_plan(bool vers_l_avant) {
-    const Selection& s = historique_.selection();
-    if (s.size() != 1)
-        return refuser("Choisissez un seul objet pour changer son plan");
-    DocumentTable d = historique_.doc();
-    const std::size_t i = d.deplacer(s.front(), vers_l_avant);
-    if (i != s.front())
-        historique_.changer(vers_l_avant ? "Vers l'avant" : "Vers l'arrière", std::move(d), {i});
-}
-
-// On the edge (or the middle) of the box around everything that is chosen.
-void dessinTable::aligner(Bord bord) {
-    DocumentTable d = historique_.doc();
-    QRectF tout;
-    for (const std::size_t i : historique_.selection())
-        if (d[i].cle != "M")
-            tout = tout.isNull() ? formes::cadre(d[i]) : tout.united(formes::cadre(d[i]));
-    if (historique_.selection().size() < 2)
-        return refuser("Choisissez au moins deux objets à aligner");
-    for (const std::size_t i : historique_.selection()) {
-        const QRectF r = formes::cadre(d[i]);
-        QPointF ecart;
-        switch (bord) {
-        case Bord::gauche:
-            ecart.setX(tout.left() - r.left());
-            break;
-        case Bord::droite:
-            ecart.setX(tout.right() - r.right());
-            break;
-        case Bord::haut: // y upwards
-            ecart.setY(tout.bottom() - r.bottom());
-            break;
-        case Bord::bas:
-            ecart.setY(tout.top() - r.top());
-            break;
-        case Bord::milieu_x:
-            ecart.setX(tout.center().x() - r.center().x());
-            break;
-        case Bord::milieu_y:
-            ecart.setY(tout.center().y() - r.center().y());
-            break;
-        }
-        ecart = formes::deplacement_permis({d[i]}, ecart);
-        if (d[i].cle != "M")
-            d.remplacer(i, formes::deplacee(d[i], ecart.x(), ecart.y()));
-    }
-    historique_.changer("Aligner", std::move(d), historique_.selection());
-}
-
-void dessinTable::changer_nombre(std::size_t champ, double valeur) {
-    const Selection& s = historique_.selection();
-    if (s.size() != 1)
-        return;
-    DocumentTable d = historique_.doc();
-    Fiche e = d[s.front()];
-    if (champ < 4 && champ < nombre_de_champs(e.cle)) {
-        e.v[champ] = static_cast<float>(valeur);
-    } else { // the line turns about its first end
-        const double l = std::hypot(e.v[2] - e.v[0], e.v[3] - e.v[1]);
-        e.v[2] = static_cast<float>(std::round(e.v[0] + l * std::cos(radians(valeur))));
-        e.v[3] = static_cast<float>(std::round(e.v[1] + l * std::sin(radians(valeur))));
-    }
-    d.remplacer(s.front(), e);
-    historique_.changer("Changer une mesure", std::move(d), s);
-}
-
-void dessinTable::changer_sorte(const std::string& cle) {
-    const Selection& s = historique_.selection();
-    if (s.size() != 1 || historique_.doc()[s.front()].cle == cle)
-        return;
-    DocumentTable d = historique_.doc();
-    Fiche e = d[s.front()];
-    e.cle = cle;
-    d.remplacer(s.front(), e);
-    historique_.changer("Changer de sorte", std::move(d), s);
-}
-
-void dessinTable::changer_legende() {
-    DocumentTable d = historique_.doc();
-    Selection s = historique_.selection();
-    const Fiche e{"M", {}, legende_.toPlainText().toStdString()};
-    std::size_t i = d.nombre();
-    while (i-- > 0 && d[i].cle != "M") {
-    }
-    if (i < d.nombre()) {
-        d.remplacer(i, e);
-    } else {
-        const std::size_t place = d.ajouter(e);
-        for (std::size_t& j : s)
-            j += j >= place ? 1 : 0;
-    }
-    historique_.changer("Changer la légende", std::move(d), s, fusion_des_frappes);
-}
-
-void dessinTable::choisir_dans_la_liste() {
-    if (en_cours_)
-        return;
-    Selection s;
-    for (const QListWidgetItem* item : liste_.selectedItems())
-        s.push_back(static_cast<std::size_t>(item->data(Qt::UserRole).toULongLong()));
-    std::sort(s.begin(), s.end());
-    historique_.choisir(s);
 }

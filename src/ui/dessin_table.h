@@ -2,12 +2,14 @@
 
 #include "ui/fenetre_editeur.h"
 #include "ui/historique.h"
+#include "ui/liste_choix.h"
 #include "ui/panneau_proprietes.h"
 #include "ui/vue_table.h"
 
 #include <QLabel>
-#include <QListWidget>
 #include <QPlainTextEdit>
+
+#include <optional>
 
 /// The table editor.
 class dessinTable final : public FenetreEditeur {
@@ -25,6 +27,11 @@ protected:
     std::vector<int> lire(const std::string& octets) override;
     std::string octets() const override { return historique_.doc().ecrire(); }
     std::optional<RefusLecture> relire(const std::string& octets) const override;
+    std::string figer() const override { return historique_.doc().figer(); }
+    void degeler(std::string_view fige) override {
+        historique_.repartir(DocumentTable::depuis_fige(fige));
+    }
+    QString en_suspens() const override;
     void retirer() override;
     void dupliquer() override;
     void tout_choisir() override;
@@ -32,6 +39,14 @@ protected:
 
 private:
     enum class Bord { gauche, droite, haut, bas, milieu_x, milieu_y };
+
+    /// The measures of one record as they were typed: the document keeps its box the right way
+    /// round, a line its exact length while its angle is changed.
+    struct Mesures {
+        std::size_t indice;
+        Fiche typees, prises; ///< what stands in the fields, what the document made of it
+        double longueur;      ///< of a line, cm
+    };
 
     void placer();
     void connecter();
@@ -49,13 +64,16 @@ private:
     void changer_nombre(std::size_t champ, double valeur);
     void changer_sorte(const std::string& cle);
     void changer_legende();
-    void choisir_dans_la_liste();
+    Mesures mesures() const;
+    void prendre_mesures(Mesures m);
+    static bool tourner(Mesures& m, double angle);
+    void verrouiller_les_zones(bool oui);
 
     Historique<DocumentTable> historique_;
     VueTable vue_;
     PanneauProprietes proprietes_;
     QPlainTextEdit legende_;
-    QListWidget liste_;
+    ListeChoix liste_;
     QLabel position_, comptes_;
-    bool en_cours_ = false; ///< the list and the caption are being filled
+    std::optional<Mesures> mesures_; ///< typed for the chosen record
 };

@@ -4,6 +4,7 @@
 #include "ui/place.h"
 #include "ui/sim1.h"
 
+#include <QAction>
 #include <QScreen>
 
 #include <algorithm>
@@ -33,6 +34,11 @@ Editeurs::Editeurs(Sim1& sim)
       robot_(*new dessinRobot(&sim, outils_, programme(sim))) {
     outils_.au_choix_d_outil = [this] { table_.outil_change(); };
     outils_.au_choix_du_dessin = [this] { montrer_dessin(); };
+    outils_.a_l_annulation = [this](const char* commande) {
+        FenetreEditeur& dessin =
+            outils_.chx_dessinRobot.isChecked() ? static_cast<FenetreEditeur&>(robot_) : table_;
+        dessin.findChild<QAction*>(commande)->trigger();
+    };
 }
 
 void Editeurs::montrer() {
@@ -70,5 +76,30 @@ void Editeurs::placer() {
 }
 
 bool Editeurs::peut_partir() {
-    return table_.peut_partir() && robot_.peut_partir();
+    const auto table = table_.demander_depart();
+    if (table == FenetreEditeur::Depart::annuler)
+        return false;
+    const auto robot = robot_.demander_depart();
+    return robot != FenetreEditeur::Depart::annuler && table_.preparer_depart(table) &&
+           robot_.preparer_depart(robot);
+}
+
+void Editeurs::partir() {
+    table_.partir();
+    robot_.partir();
+}
+
+void Editeurs::proposer_reprises() {
+    for (const bool robot : {false, true}) {
+        FenetreEditeur& dessin = robot ? static_cast<FenetreEditeur&>(robot_) : table_;
+        if (!dessin.proposer_reprise(sim_))
+            continue;
+        outils_.suivre(robot);
+        montrer();
+    }
+}
+
+void Editeurs::ecrire_reprises() {
+    table_.ecrire_reprise();
+    robot_.ecrire_reprise();
 }

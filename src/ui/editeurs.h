@@ -13,8 +13,15 @@ public:
 
     /// "Créer un projet...": the palette and the editor of what it draws.
     void montrer();
-    /// Asks about unsaved changes. @returns false when the user does not want to leave
+    /// Asks about all unsaved changes, then saves what is to be saved; discards nothing yet.
+    /// @returns false when the user does not want to leave
     bool peut_partir();
+    /// The program ends: what is not saved goes.
+    void partir();
+    /// Offers the drawings that an earlier program did not save.
+    void proposer_reprises();
+    /// Brings the recovery files up to date: the program may end at once.
+    void ecrire_reprises();
 
 private:
     void montrer_dessin();

@@ -1,35 +1,29 @@
 #include "ui/fenetre_editeur.h"
 
-#include "base/fichiers.h"
 #include "ui/foutil.h"
-#include "ui/nouveau_projet.h"
+#include "ui/nombre.h"
+#include "ui/touches_annulation.h"
 #include "ui/vue_echelle.h"
 
 #include <QAction>
 #include <QActionGroup>
-#include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QStatusBar>
 #include <QUndoStack>
-
-namespace {
-
-QString nom_court(const std::filesystem::path& chemin) {
-    return texte_qt(chemin.filename().string());
-}
-
-} // namespace
 
 FenetreEditeur::FenetreEditeur(QWidget* parent, Foutil& outils, Programme programme,
                                GenreFichier genre)
     : QMainWindow(parent, Qt::Window),
       outils_(outils),
       programme_(std::move(programme)),
-      genre_(genre) {}
+      genre_(genre),
+      reprise_(programme_.configuration, genre) {
+    constexpr int au_plus_ms = 500;
+    attente_reprise_.setSingleShot(true);
+    attente_reprise_.setInterval(au_plus_ms);
+    connect(&attente_reprise_, &QTimer::timeout, this, [this] { ecrire_reprise(); });
+    annuler_de_partout(*this);
+}
 
 QAction* FenetreEditeur::action(QMenu& menu, const char* nom, const QString& texte,
                                 const QKeySequence& touche, std::function<void()> faire,
@@ -39,7 +33,8 @@ QAction* FenetreEditeur::action(QMenu& menu, const char* nom, const QString& tex
     a->setShortcut(touche);
     const auto executer = [this, faire = std::move(faire)] {
         try {
-            faire();
+            if (prendre_la_saisie())
+                faire();
         } catch (const std::exception& erreur) {
             boites_.message(erreur.what());
         }
@@ -49,6 +44,21 @@ QAction* FenetreEditeur::action(QMenu& menu, const char* nom, const QString& tex
 }
 
 void FenetreEditeur::preparer_menus() {
+    preparer_fichier();
+    menu_edition_ = menuBar()->addMenu("É&dition");
+    preparer_annulation();
+    preparer_edition();
+    preparer_affichage();
+    connect(&pile(), &QUndoStack::cleanChanged, this, [this] { montrer_titre(); });
+    connect(&pile(), &QUndoStack::indexChanged, this, [this] {
+        if (!attente_reprise_.isActive())
+            attente_reprise_.start();
+    });
+    commencer();
+    montrer_titre();
+}
+
+void FenetreEditeur::preparer_fichier() {
     QMenu& fichier = *menuBar()->addMenu("&Fichier");
     // These may ask: later, so that an assistive tool that triggers one is not kept waiting.
     const auto ajouter = [&](const char* nom, const QString& texte, const QKeySequence& touche,
@@ -63,20 +73,27 @@ void FenetreEditeur::preparer_menus() {
             [this] { enregistrer_sous(); });
     fichier.addSeparator();
     ajouter("fermer", "&Fermer", QKeySequence::Close, [this] { close(); });
-    menu_edition_ = menuBar()->addMenu("É&dition");
-    QAction* annuler = pile().createUndoAction(this, "&Annuler");
-    QAction* retablir = pile().createRedoAction(this, "&Rétablir");
-    annuler->setObjectName("annuler");
-    annuler->setShortcut(QKeySequence::Undo);
-    retablir->setObjectName("retablir");
-    retablir->setShortcut(QKeySequence("Ctrl+Y"));
-    menu_edition_->addActions({annuler, retablir});
-    menu_edition_->addSeparator();
-    preparer_edition();
-    preparer_affichage();
-    connect(&pile(), &QUndoStack::cleanChanged, this, [this] { montrer_titre(); });
-    commencer();
-    montrer_titre();
+}
+
+// What is being typed is the last step: it is taken, then undone.
+void FenetreEditeur::preparer_annulation() {
+    QMenu& m = *menu_edition_;
+    const auto nommer = [](QAction* a, const QString& verbe, const QString& pas) {
+        a->setText(pas.isEmpty() ? verbe : verbe + " : " + pas);
+    };
+    QAction* annuler = action(m, "annuler", "&Annuler", {}, [this] { pile().undo(); });
+    QAction* retablir = action(m, "retablir", "&Rétablir", {}, [this] { pile().redo(); });
+    annuler->setShortcuts(touches_d_annulation());
+    retablir->setShortcuts(touches_de_retablissement());
+    for (QAction* a : {annuler, retablir})
+        a->setEnabled(false);
+    connect(&pile(), &QUndoStack::canUndoChanged, annuler, &QAction::setEnabled);
+    connect(&pile(), &QUndoStack::canRedoChanged, retablir, &QAction::setEnabled);
+    connect(&pile(), &QUndoStack::undoTextChanged, annuler,
+            [=](const QString& pas) { nommer(annuler, "&Annuler", pas); });
+    connect(&pile(), &QUndoStack::redoTextChanged, retablir,
+            [=](const QString& pas) { nommer(retablir, "&Rétablir", pas); });
+    m.addSeparator();
 }
 
 void FenetreEditeur::preparer_edition() {
@@ -137,195 +154,34 @@ void FenetreEditeur::preparer_affichage() {
 }
 
 void FenetreEditeur::montrer_titre() {
-    setWindowTitle((chemin_.empty() ? "Sans nom" : nom_court(chemin_)) + "[*] – " +
+    setWindowTitle((chemin_.empty() ? "Sans nom" : texte_qt(chemin_.filename().string())) +
+                   "[*] – " +
                    (genre_ == GenreFichier::table ? "Dessin de la table" : "Dessin du robot"));
     setWindowModified(!pile().isClean());
 }
 
-void FenetreEditeur::nouveau() {
-    if (!peut_partir())
-        return;
-    chemin_.clear();
-    veilleur_.suivre({});
-    commencer();
-    montrer_titre();
-    vue().ajuster();
-}
-
-void FenetreEditeur::choisir_un_fichier() {
-    if (!peut_partir())
-        return;
-    const QString filtre = genre_ == GenreFichier::table
-                               ? "Fichiers de table (* Table.ini);;Tous les fichiers (*)"
-                               : "Fichiers de robot (* Robot?.ini);;Tous les fichiers (*)";
-    const QString nom = QFileDialog::getOpenFileName(
-        this, "Ouvrir ...", texte_qt(programme_.configuration.string()), filtre);
-    if (!nom.isEmpty())
-        ouvrir(nom.toStdString());
-}
-
-bool FenetreEditeur::ouvrir(const std::filesystem::path& chemin) {
-    try {
-        std::string lus = lire_octets(chemin);
-        const std::vector<int> incomprises = lire(lus);
-        chemin_ = chemin;
-        sur_le_disque_ = std::move(lus);
-        remplacement_accepte_ = false;
-        veilleur_.suivre({chemin_, chemin_.parent_path()});
-        montrer_titre();
-        vue().ajuster();
-        if (!incomprises.empty())
-            boites_.message("Fichier " + chemin.string() + " : " +
-                            std::to_string(incomprises.size()) +
-                            " ligne(s) non comprise(s), gardée(s) à leur place. Première : ligne " +
-                            std::to_string(incomprises.front()));
-        return true;
-    } catch (const ErreurExecution& erreur) {
-        boites_.message(erreur.what());
-        return false;
-    }
-}
-
-// Another program has saved the file: it is read again, after a question when that would lose
-// changes. What is seen of the drawing stays.
-void FenetreEditeur::verifier_disque() {
-    std::error_code absent;
-    if (chemin_.empty() || !std::filesystem::is_regular_file(chemin_, absent))
-        return;
-    if (QApplication::activeModalWidget() != nullptr)
-        return veilleur_.remettre(); // one question at a time
-    try {
-        std::string lus = lire_octets(chemin_);
-        if (lus == sur_le_disque_ || lus == refuses_)
-            return;
-        const std::string nom = chemin_.filename().string();
-        if (!pile().isClean() &&
-            !boites_.question("Le fichier " + nom +
-                              " a été modifié par un autre programme. Doit-on le relire et perdre "
-                              "les changements du dessin ?")) {
-            refuses_ = std::move(lus);
-            return;
-        }
-        lire(lus);
-        sur_le_disque_ = std::move(lus);
-        montrer_titre();
-        statusBar()->showMessage("Relu après un changement : " + texte_qt(nom), 10000);
-    } catch (const ErreurExecution& erreur) {
-        boites_.message(erreur.what());
-    }
-}
-
-bool FenetreEditeur::peut_remplacer(const std::filesystem::path& chemin) {
-    std::error_code absent;
-    if (!std::filesystem::exists(chemin, absent))
-        return true;
-    const bool le_mien = chemin == chemin_;
-    const bool change = le_mien && lire_octets(chemin) != sur_le_disque_;
-    if (le_mien && remplacement_accepte_ && !change)
-        return true;
-    const std::string nom = chemin.filename().string();
-    return boites_.question(
-        change ? "Le fichier " + nom + " a été modifié depuis son ouverture. Doit-on le remplacer ?"
-               : "Le fichier " + nom + " existe déjà. Doit-on le remplacer ?");
-}
-
-bool FenetreEditeur::genererFic(const std::filesystem::path& chemin) {
-    try {
-        const std::string texte = octets();
-        if (const auto refus = relire(texte);
-            refus && !boites_.question("Le simulateur refusera ce fichier à la ligne " +
-                                       std::to_string(refus->ligne) + " (" + refus->raison +
-                                       "). Doit-on l'enregistrer quand même ?"))
-            return false;
-        if (!peut_remplacer(chemin))
-            return false;
-        ecrire(chemin, texte);
-    } catch (const std::exception& erreur) { // the drawing stays, whatever the disk says
-        boites_.message(erreur.what());
-        return false;
-    }
-    proposer_de_charger();
-    return true;
-}
-
-void FenetreEditeur::ecrire(const std::filesystem::path& chemin, const std::string& octets) {
-    std::error_code erreur;
-    std::filesystem::create_directories(programme_.configuration, erreur);
-    if (erreur)
-        throw ErreurFichier(programme_.configuration, erreur.value());
-    sauvegarder_version(chemin, programme_.configuration / "Sauvegardes");
-    remplacer_fichier(chemin, octets);
-    if (programme_.ecrit)
-        programme_.ecrit(chemin);
-    chemin_ = chemin;
-    sur_le_disque_ = octets;
-    remplacement_accepte_ = true;
-    veilleur_.suivre({chemin_, chemin_.parent_path()});
-    pile().setClean();
-    montrer_titre();
-    statusBar()->showMessage("Enregistré : " + nom_court(chemin), 5000);
-}
-
-void FenetreEditeur::proposer_de_charger() {
-    const std::string projet = projet_du_nom(chemin_.stem().string(), genre_);
-    std::error_code erreur;
-    const bool a_sa_place =
-        std::filesystem::equivalent(chemin_.parent_path(), programme_.configuration, erreur);
-    if (a_sa_place && !projet.empty() &&
-        boites_.question("Doit-on charger le projet " + projet + " maintenant ?"))
-        programme_.charger(projet);
-}
-
-bool FenetreEditeur::enregistrer() {
-    return chemin_.empty() ? enregistrer_sous() : genererFic(chemin_);
-}
-
-bool FenetreEditeur::enregistrer_sous() {
-    const bool table = genre_ == GenreFichier::table;
-    outils_.suivre(!table); // the dialog writes what the palette says
-    nouveauProjet dialogue(this, outils_, programme_.configuration);
-    (table ? dialogue.table : dialogue.robot) = [this](const std::filesystem::path& chemin) {
-        return genererFic(chemin);
-    };
-    return dialogue.exec() == QDialog::Accepted;
-}
-
-bool FenetreEditeur::peut_partir() {
-    if (pile().isClean())
-        return true;
-    QMessageBox boite(this);
-    boite.setObjectName("enregistrer");
-    boite.setWindowTitle("Tavolmex");
-    boite.setIcon(QMessageBox::Question);
-    boite.setTextFormat(Qt::PlainText);
-    boite.setText("Le dessin a été modifié. Doit-on l'enregistrer ?");
-    boite.setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-    boite.button(QMessageBox::Save)->setText("Enregistrer");
-    boite.button(QMessageBox::Discard)->setText("Ne pas enregistrer");
-    boite.button(QMessageBox::Cancel)->setText("Annuler");
-    boite.setDefaultButton(QMessageBox::Save);
-    const int reponse = boite.exec();
-    if (reponse == QMessageBox::Save)
-        return enregistrer();
-    if (reponse == QMessageBox::Discard) {
-        if (chemin_.empty())
-            commencer();
-        else
-            lire(sur_le_disque_);
-        return true;
-    }
-    return false;
+bool FenetreEditeur::prendre_la_saisie() {
+    const QString refus = ::prendre_la_saisie(*this);
+    if (!refus.isEmpty())
+        boites_.message(refus.toStdString());
+    return refus.isEmpty();
 }
 
 void FenetreEditeur::changeEvent(QEvent* evenement) {
     QMainWindow::changeEvent(evenement);
-    if (evenement->type() == QEvent::ActivationChange && isActiveWindow())
+    if (evenement->type() != QEvent::ActivationChange)
+        return;
+    if (isActiveWindow()) {
         outils_.suivre(genre_ == GenreFichier::robot);
+        fichier_change(); // what belongs to it may have changed meanwhile
+    } else if (attente_reprise_.isActive()) {
+        ecrire_reprise();
+    }
 }
 
 void FenetreEditeur::closeEvent(QCloseEvent* evenement) {
-    if (peut_partir())
-        evenement->accept();
-    else
-        evenement->ignore();
+    const bool part = peut_partir();
+    if (part)
+        partir();
+    evenement->setAccepted(part);
 }

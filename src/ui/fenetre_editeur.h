@@ -1,17 +1,19 @@
 #pragma once
 
 #include "config/document_table.h"
-#include "config/nom_projet.h"
+#include "config/reprise_dessin.h"
 #include "ui/boites.h"
 #include "ui/veilleur.h"
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
 
+class Fenetres;
 class Foutil;
 class QUndoStack;
 class VueEchelle;
@@ -36,8 +38,20 @@ public:
     bool genererFic(const std::filesystem::path& chemin);
     bool enregistrer();
     bool enregistrer_sous();
-    /// Asks what becomes of unsaved changes. @returns false for "Annuler"
-    bool peut_partir();
+    /// What the user wants of the changes that are not saved.
+    enum class Depart { rien_a_perdre, enregistrer, ne_pas_enregistrer, annuler };
+    /// Asks, and touches nothing yet.
+    Depart demander_depart();
+    /// Saves if that is the answer. @returns false when the drawing stays
+    bool preparer_depart(Depart reponse);
+    /// The leaving has happened: what is not saved goes.
+    void partir();
+
+    /// Offers the drawings that an earlier program did not save. @returns true when one was taken
+    /// up
+    bool proposer_reprise(Fenetres& f);
+    /// Brings the recovery file up to date at once.
+    void ecrire_reprise();
 
 protected:
     virtual QUndoStack& pile() = 0;
@@ -46,6 +60,12 @@ protected:
     virtual std::vector<int> lire(const std::string& octets) = 0; ///< @returns lines not understood
     virtual std::string octets() const = 0;                       ///< @throws ErreurExecution
     virtual std::optional<RefusLecture> relire(const std::string& octets) const = 0;
+    virtual std::string figer() const = 0;           ///< the drawing as a recovery file keeps it
+    virtual void degeler(std::string_view fige) = 0; ///< @throws ErreurExecution
+    /// Why what was typed cannot be taken yet; empty when nothing is left to be typed.
+    virtual QString en_suspens() const { return {}; }
+
+    virtual void fichier_change() {} ///< another file, or under another name
 
     virtual void retirer() = 0; ///< what is chosen, and likewise:
     virtual void dupliquer() = 0;
@@ -58,6 +78,9 @@ protected:
                     std::function<void()> faire, Qt::ConnectionType quand = Qt::DirectConnection);
     QMenu& menu_edition() { return *menu_edition_; }
     void montrer_titre();
+    /// Takes what is being typed. @returns false when it is no number, which is told
+    bool prendre_la_saisie();
+    const std::filesystem::path& chemin() const { return chemin_; }
     void closeEvent(QCloseEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
 
@@ -68,11 +91,16 @@ protected:
     Boites boites_{*this};
 
 private:
+    void preparer_fichier();
+    void preparer_annulation();
     void preparer_edition();
     void preparer_pas();
     void preparer_affichage();
+    bool peut_partir() { return preparer_depart(demander_depart()); }
     void nouveau();
     void choisir_un_fichier();
+    void autre_fichier();
+    void reprendre(const DessinGarde& garde);
     void verifier_disque();
     bool peut_remplacer(const std::filesystem::path& chemin);
     void ecrire(const std::filesystem::path& chemin, const std::string& octets);
@@ -85,5 +113,7 @@ private:
     std::string sur_le_disque_;    ///< the file's bytes as they were read or written last
     std::string refuses_;          ///< another program's bytes that the user did not want
     bool remplacement_accepte_ = false;
+    RepriseDessin reprise_;
+    QTimer attente_reprise_{this}; ///< gathers the changes of half a second
     Veilleur veilleur_{[this] { verifier_disque(); }};
 };

@@ -129,6 +129,7 @@ void FOption::Command4_Click() {
         return;
     sim_.SaveGeneral();
     sim_.SauvRobot();
+    sim_.partir();
     sim_.terminer(0);
 }
 

@@ -111,6 +111,16 @@ Fiche tiree(Fiche e, std::size_t poignee, QPointF cm) {
     return DocumentTable::normaliser(e);
 }
 
+bool sans_etendue(const Fiche& e) {
+    if (circulaire(e))
+        return e.v[2] == 0;
+    const bool etroite = e.v[0] == e.v[2];
+    const bool basse = e.v[1] == e.v[3];
+    if (e.cle == "LN" || e.cle == "R")
+        return etroite && basse;
+    return nombre_de_champs(e.cle) == 4 && (etroite || basse);
+}
+
 bool touchee(const Fiche& e, QPointF cm, double tolerance) {
     const QRectF r = cadre(e);
     if (e.cle == "M")

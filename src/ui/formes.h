@@ -24,6 +24,9 @@ QPointF deplacement_permis(const std::vector<Fiche>& objets, QPointF d);
 std::vector<QPointF> poignees(const Fiche& e);
 /// The shape after one of its handles was pulled to a point.
 Fiche tiree(Fiche e, std::size_t poignee, QPointF cm);
+/// True for a shape that would not be seen: a box without width or height, a line without length, a
+/// circle without radius.
+bool sans_etendue(const Fiche& e);
 /// True when a click at this point takes the shape. Zones and pieces are full, the others lines.
 bool touchee(const Fiche& e, QPointF cm, double tolerance);
 /// "Zone L (blanc)"

@@ -2,7 +2,9 @@
 
 #include "base/nombres.h"
 #include "ui/formes.h"
+#include "ui/touches_annulation.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDrag>
 #include <QFormLayout>
@@ -115,6 +117,7 @@ void BoutonOutil::mouseMoveEvent(QMouseEvent* evenement) {
         outil_.forme == Outil::Forme::selection)
         return;
     setDown(false);
+    prendre_la_saisie(*window()); // the size that is being typed
     auto* drag = new QDrag(this); // Qt deletes it
     auto* donnees = new QMimeData;
     donnees->setData(format, outil_.nom);
@@ -162,6 +165,7 @@ Foutil::Foutil(QWidget* parent) : QWidget(parent, Qt::Tool) {
     nommer();
     placer();
     connecter();
+    connecter_touches();
     reposer();
 }
 
@@ -175,7 +179,7 @@ void Foutil::nommer() {
     chx_dessinRobot.setText("Dessin du robot");
     chx_dessinRobot.setToolTip("Ouvre l'éditeur de robot.");
     struct Taille {
-        QSpinBox& champ;
+        NombreEntier& champ;
         const char *nom, *unite, *bulle;
         int mini, maxi, valeur;
     };
@@ -240,6 +244,19 @@ void Foutil::placer() {
     colonne->addWidget(placer_tailles());
 }
 
+// The palette has nothing to undo: the drawing it belongs to has.
+void Foutil::connecter_touches() {
+    const auto relier = [this](const char* commande, const QList<QKeySequence>& touches) {
+        auto* action = new QAction(this);
+        action->setShortcuts(touches);
+        connect(action, &QAction::triggered, this, [this, commande] { a_l_annulation(commande); });
+        addAction(action);
+    };
+    relier("annuler", touches_d_annulation());
+    relier("retablir", touches_de_retablissement());
+    annuler_de_partout(*this);
+}
+
 // A robot's outline is made of lines alone.
 void Foutil::montrer_outils(bool table) {
     for (QWidget* w : de_la_table_)
@@ -271,6 +288,7 @@ void Foutil::suivre(bool robot) {
 }
 
 void Foutil::prendre(const Outil& outil) {
+    prendre_la_saisie(*this);
     en_main_ = &outil;
     for (QAbstractButton* bouton : groupe_.buttons())
         bouton->setChecked(bouton->objectName() == outil.nom);

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "config/document.h"
+#include "ui/nombre.h"
 
 #include <QButtonGroup>
 #include <QPointF>
 #include <QRadioButton>
-#include <QSpinBox>
 #include <QToolButton>
 #include <QWidget>
 
@@ -46,6 +46,8 @@ public:
 
     std::function<void()> au_choix_du_dessin; ///< chx_dessinTable or chx_dessinRobot was chosen
     std::function<void()> au_choix_d_outil;
+    /// The keys of the drawing's command of that name ("annuler", "retablir") were pressed here.
+    std::function<void(const char* commande)> a_l_annulation;
 
     static const std::vector<Outil>& outils();
     static const Outil* outil(const QString& nom);
@@ -62,7 +64,7 @@ public:
     static Fiche tracer(const Outil& outil, QPointF a, QPointF b);
 
     QRadioButton chx_dessinTable, chx_dessinRobot;
-    QSpinBox largeur, hauteur, rayon, longueur, incidence;
+    NombreEntier largeur, hauteur, rayon, longueur, incidence;
 
 private:
     void nommer();
@@ -71,6 +73,7 @@ private:
     QWidget* placer_tailles();
     void montrer_outils(bool table);
     void connecter();
+    void connecter_touches();
 
     const Outil* en_main_ = nullptr;
     int autre_longueur_ = 10; ///< of the lines of the drawing that is not chosen (cm)

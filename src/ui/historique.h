@@ -27,6 +27,7 @@ public:
     void repartir(Doc doc) {
         etat_ = {std::make_shared<const Doc>(std::move(doc)), {}};
         pile.clear();
+        pile.setClean(); // an empty one may have been marked as changed
         au_changement_();
     }
     /// One more step. @param fusion  steps of the same number (above 0) in a row, with the same

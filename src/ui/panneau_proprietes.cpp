@@ -3,22 +3,6 @@
 #include <QPixmap>
 #include <QSignalBlocker>
 
-QString Nombre::textFromValue(double valeur) const {
-    QString texte = QDoubleSpinBox::textFromValue(valeur);
-    if (decimals() == 0)
-        return texte;
-    while (texte.endsWith('0'))
-        texte.chop(1);
-    if (texte.endsWith(locale().decimalPoint()))
-        texte.chop(1);
-    return texte;
-}
-
-QValidator::State Nombre::validate(QString& texte, int& position) const {
-    texte.replace('.', locale().decimalPoint());
-    return QDoubleSpinBox::validate(texte, position);
-}
-
 PanneauProprietes::PanneauProprietes(QWidget* parent)
     : QGroupBox(parent), lignes_(new QFormLayout(this)) {
     setObjectName("proprietes");
@@ -98,7 +82,6 @@ void PanneauProprietes::ajouter_champ(const Champ& champ, std::size_t i) {
     nombre->setRange(champ.mini, champ.maxi);
     nombre->setValue(champ.valeur);
     nombre->setSuffix(champ.unite);
-    nombre->setKeyboardTracking(false); // a number counts when it is complete
     connect(nombre, &QDoubleSpinBox::valueChanged, this,
             [this, i](double valeur) { au_nombre(i, valeur); });
     lignes_->addRow(champ.texte, nombre);

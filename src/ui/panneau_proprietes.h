@@ -1,8 +1,9 @@
 #pragma once
 
+#include "ui/nombre.h"
+
 #include <QColor>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -10,13 +11,6 @@
 
 #include <functional>
 #include <vector>
-
-/// A number without idle zeros; a point is taken for the decimal comma too.
-class Nombre final : public QDoubleSpinBox {
-protected:
-    QString textFromValue(double valeur) const override;
-    QValidator::State validate(QString& texte, int& position) const override;
-};
 
 /// The exact numbers of what is chosen.
 class PanneauProprietes final : public QGroupBox {

@@ -99,6 +99,8 @@ void Sim1::proposer_reprise() {
         Dessine_Table();
         Dessine_Robot();
     }
+    if (!terminee_ && RepriseDessin::en_attente(projet_.dossier_configuration()))
+        editeurs().proposer_reprises();
 }
 
 // The bare caption is the default project's.
@@ -283,6 +285,17 @@ bool Sim1::peut_partir() {
     return !editeurs_ || editeurs_->peut_partir();
 }
 
+void Sim1::partir() {
+    if (editeurs_)
+        editeurs_->partir();
+}
+
+void Sim1::ecrire_reprises() {
+    reprise_.ecrire_ou_prevenir(*this);
+    if (editeurs_)
+        editeurs_->ecrire_reprises();
+}
+
 void Sim1::terminer(int code_de_sortie) {
     if (terminee_)
         return;
@@ -360,6 +373,6 @@ void Sim1::keyPressEvent(QKeyEvent* evenement) {
 // What the write after the last action could not keep may find room now.
 void Sim1::fin_du_programme() {
     if (!terminee_)
-        reprise_.ecrire_ou_prevenir(*this);
+        ecrire_reprises();
     terminer(3);
 }

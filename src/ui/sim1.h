@@ -70,6 +70,10 @@ public:
     Editeurs& editeurs();
     /// Asks about unsaved drawings. @returns false when the user does not want to leave
     bool peut_partir();
+    /// The user leaves: the drawings that are not saved go.
+    void partir();
+    /// Writes what the next start would take up: the program may end at once.
+    void ecrire_reprises();
     /// Ends the program; nothing of it runs any more afterwards.
     void terminer(int code_de_sortie);
     bool terminee() const { return terminee_; }

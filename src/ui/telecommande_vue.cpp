@@ -1,13 +1,13 @@
 // How the console looks: names, captions, keys and places of its controls.
 #include "ui/boites.h"
+#include "ui/nombre.h"
 #include "ui/telecommande.h"
+#include "ui/touches_annulation.h"
 
 #include <QAction>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QRegularExpressionValidator>
-#include <QToolTip>
 #include <QVBoxLayout>
 
 namespace {
@@ -50,15 +50,6 @@ QFrame* separateur() {
     auto* trait = new QFrame;
     trait->setFrameStyle(int(QFrame::HLine) | int(QFrame::Sunken));
     return trait;
-}
-
-// Only whole numbers can be typed; what is refused says why.
-void n_accepter_que_des_entiers(QLineEdit& champ) {
-    champ.setValidator(new QRegularExpressionValidator(QRegularExpression("-?[0-9]{0,5}"), &champ));
-    QObject::connect(&champ, &QLineEdit::inputRejected, &champ, [&champ] {
-        QToolTip::showText(champ.mapToGlobal(champ.rect().bottomLeft()),
-                           "Un nombre entier, sans lettre ni virgule", &champ);
-    });
 }
 
 } // namespace
@@ -254,4 +245,5 @@ void Télécommande::connecter_touches() {
     }
     relier(Command9, QKeySequence(int(Qt::ALT) | int(Qt::Key_E)));
     relier(annuler_, QKeySequence(QKeySequence::Undo));
+    annuler_de_partout(*this);
 }

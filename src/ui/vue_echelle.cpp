@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -81,7 +82,7 @@ QRectF VueEchelle::en_pixels(QRectF cm) const {
 }
 
 QPointF VueEchelle::aimanter(QPointF cm, Qt::KeyboardModifiers touches) const {
-    const double pas = touches.testFlag(Qt::AltModifier) ? 1 : grille_;
+    const double pas = sans_grille(touches) ? 1 : grille_;
     return {std::round(cm.x() / pas) * pas, std::round(cm.y() / pas) * pas};
 }
 
@@ -199,28 +200,34 @@ void VueEchelle::resizeEvent(QResizeEvent*) {
         cadrer();
 }
 
+// A gesture belongs to the button that began it; another one gives it up.
 void VueEchelle::mousePressEvent(QMouseEvent* evenement) {
+    if (bouton_ != Qt::NoButton)
+        return couper_le_geste();
     dernier_ = evenement->position();
-    if (evenement->button() == Qt::MiddleButton ||
-        (espace_ && evenement->button() == Qt::LeftButton)) {
-        panoramique_ = true;
+    const Qt::MouseButton bouton = evenement->button();
+    panoramique_ = bouton == Qt::MiddleButton || (espace_ && bouton == Qt::LeftButton);
+    if (!panoramique_ && bouton != Qt::LeftButton)
+        return;
+    bouton_ = bouton;
+    if (panoramique_)
         setCursor(Qt::ClosedHandCursor);
-    } else if (evenement->button() == Qt::LeftButton && !panoramique_) {
-        geste_ = true;
+    else
         presser(dernier_, evenement->modifiers());
-    }
 }
 
 void VueEchelle::mouseMoveEvent(QMouseEvent* evenement) {
     const QPointF ici = evenement->position();
-    if (panoramique_) {
+    if (bouton_ != Qt::NoButton && !evenement->buttons().testFlag(bouton_))
+        couper_le_geste(); // released where nobody told us
+    if (bouton_ == Qt::NoButton) {
+        survoler(ici);
+    } else if (panoramique_) {
         const QPointF ecart = (ici - dernier_) / echelle_;
         centre_ += QPointF(-ecart.x(), ecart.y());
         ajuste_ = false;
-    } else if (geste_) {
-        glisser(ici, evenement->modifiers());
     } else {
-        survoler(ici);
+        glisser(ici, evenement->modifiers());
     }
     dernier_ = ici;
     if (au_deplacement)
@@ -229,13 +236,27 @@ void VueEchelle::mouseMoveEvent(QMouseEvent* evenement) {
 }
 
 void VueEchelle::mouseReleaseEvent(QMouseEvent* evenement) {
-    if (panoramique_) {
-        panoramique_ = false;
+    if (bouton_ == Qt::NoButton || evenement->button() != bouton_)
+        return;
+    bouton_ = Qt::NoButton;
+    if (panoramique_)
         unsetCursor();
-    } else if (geste_ && evenement->button() == Qt::LeftButton) {
-        geste_ = false;
+    else
         relacher(evenement->position(), evenement->modifiers());
-    }
+}
+
+void VueEchelle::couper_le_geste() {
+    const bool du_dessin = std::exchange(bouton_, Qt::NoButton) != Qt::NoButton && !panoramique_;
+    unsetCursor();
+    if (du_dessin)
+        abandonner();
+}
+
+void VueEchelle::focusOutEvent(QFocusEvent* evenement) {
+    espace_ = false;
+    if (bouton_ != Qt::NoButton)
+        couper_le_geste();
+    QWidget::focusOutEvent(evenement);
 }
 
 void VueEchelle::wheelEvent(QWheelEvent* evenement) {
@@ -247,7 +268,7 @@ void VueEchelle::keyPressEvent(QKeyEvent* evenement) {
     if (evenement->key() == Qt::Key_Space) {
         espace_ = true;
     } else if (evenement->key() == Qt::Key_Escape) {
-        geste_ = false;
+        couper_le_geste();
         abandonner();
     } else {
         QWidget::keyPressEvent(evenement);

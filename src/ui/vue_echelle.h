@@ -29,8 +29,13 @@ public:
     QPointF en_pixels(QPointF cm) const;
     QRectF en_pixels(QRectF cm) const;
     double pixels_par_cm() const { return echelle_; }
-    /// The nearest point of the grid; with Alt the nearest whole centimetre.
+    /// The nearest point of the grid; without it the nearest whole centimetre.
     QPointF aimanter(QPointF cm, Qt::KeyboardModifiers touches) const;
+    /// Alt or Ctrl held suspends the grid: many window managers keep Alt and the mouse to
+    /// themselves.
+    static bool sans_grille(Qt::KeyboardModifiers touches) {
+        return (touches & (Qt::AltModifier | Qt::ControlModifier)) != 0;
+    }
 
 protected:
     /// What "fit" shows (cm).
@@ -41,7 +46,7 @@ protected:
     virtual void glisser(QPointF pixels, Qt::KeyboardModifiers touches) = 0;
     virtual void relacher(QPointF pixels, Qt::KeyboardModifiers touches) = 0;
     virtual void survoler(QPointF) {}
-    virtual void abandonner() = 0; ///< Escape
+    virtual void abandonner() = 0; ///< Escape, or a gesture that was cut short
 
     /// Sets a surface to this view's coordinates.
     void orienter(SurfaceQt& surface) const;
@@ -54,6 +59,7 @@ protected:
     void wheelEvent(QWheelEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
     void keyReleaseEvent(QKeyEvent* evenement) override;
+    void focusOutEvent(QFocusEvent* evenement) override;
 
 private:
     /// What the grid and the rulers depend on.
@@ -71,15 +77,16 @@ private:
     void peindre_regles(QPainter& peintre) const;
     void peindre_curseur(QPainter& peintre) const;
     void cadrer();
+    void couper_le_geste();
 
     QPointF centre_{100, 160}; ///< cm, in the middle of the view
     double echelle_ = 2;       ///< logical pixels per cm
     int grille_ = 5;
     bool ajuste_ = true;
-    bool espace_ = false; ///< the space bar is held
-    bool panoramique_ = false;
-    bool geste_ = false; ///< the left button is held
-    QPointF dernier_;    ///< last position of the cursor (pixels)
+    bool espace_ = false;                   ///< the space bar is held
+    Qt::MouseButton bouton_ = Qt::NoButton; ///< that holds the present gesture
+    bool panoramique_ = false;              ///< it moves the view
+    QPointF dernier_;                       ///< last position of the cursor (pixels)
     // Painted once a framing: their many translucent lines cost more than the whole drawing.
     Cadrage cadrage_;
     QPixmap fond_grille_, fond_regles_;

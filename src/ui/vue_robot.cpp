@@ -205,7 +205,8 @@ void VueRobot::glisser(QPointF pixels, Qt::KeyboardModifiers touches) {
         f.v[2 * bout_] = x;
         f.v[2 * bout_ + 1] = y;
         d.remplacer(pris_, f);
-        provisoire_ = std::move(d);
+        if (!formes::sans_etendue(f)) // pulled to nothing, it stays as it was before
+            provisoire_ = std::move(d);
     } else if (geste_ == Geste::reference) {
         d.regler("A", {x, y, d.valeurs("A")[2], 0});
         provisoire_ = std::move(d);
@@ -254,24 +255,31 @@ QString VueRobot::nom_du_geste(Geste geste) const {
 void VueRobot::relacher(QPointF pixels, Qt::KeyboardModifiers touches) {
     const Geste geste = std::exchange(geste_, Geste::aucun);
     const Outil& outil = outils_.en_main();
+    const bool en_plus = (touches & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
     if (geste == Geste::placer) {
         const auto ebauche = std::exchange(ebauche_, std::nullopt);
-        ajouter(ebauche ? *ebauche : outils_.creer(outil, aimanter(en_cm(pixels), touches)));
+        const QPointF fin = aimanter(en_cm(pixels), touches);
+        const bool trace = ebauche && fin != aimanter(en_cm(depart_), touches);
+        ajouter(trace ? *ebauche : outils_.creer(outil, fin));
         if (!touches.testFlag(Qt::ShiftModifier))
             outils_.reposer();
     } else if (geste == Geste::cadre) {
         const QRectF r = QRectF(en_cm(depart_), en_cm(pixels)).normalized();
-        Selection s;
+        Selection s = en_plus ? h_.selection() : Selection{};
         for (std::size_t i = 0; i < h_.doc().nombre(); ++i)
             if (h_.doc()[i].cle == "R" && r.contains(bout(h_.doc()[i], 0)) &&
                 r.contains(bout(h_.doc()[i], 1)))
                 s.push_back(i);
+        std::sort(s.begin(), s.end());
+        s.erase(std::unique(s.begin(), s.end()), s.end());
         h_.choisir(s);
     } else if (provisoire_) {
         DocumentRobot d = std::move(*provisoire_);
         provisoire_.reset();
         const bool ajoute = d.nombre() != h_.doc().nombre();
         h_.changer(nom_du_geste(geste), std::move(d), ajoute ? Selection{} : h_.selection());
+    } else if (geste == Geste::deplacer && !en_plus) { // a click on one of several
+        h_.choisir({pris_});
     }
 }
 
@@ -279,6 +287,9 @@ void VueRobot::ajouter(Fiche segment) {
     segment.cle = "R";
     DocumentRobot d = h_.doc();
     try {
+        if (formes::sans_etendue(segment))
+            throw ErreurExecution(
+                "Un segment sans longueur ne se verrait pas : tracez-le plus grand");
         const std::size_t i = d.ajouter(std::move(segment));
         h_.changer("Ajouter un segment", std::move(d), {i});
     } catch (const ErreurExecution& erreur) {

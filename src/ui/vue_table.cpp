@@ -106,14 +106,14 @@ std::optional<std::size_t> VueTable::objet_sous(QPointF cm) const {
     const auto& sortes = sortes_table();
     for (std::size_t s = sortes.size(); s-- > 0;)
         for (std::size_t i = d.nombre(); i-- > 0;)
-            if (sorte_table(d[i].cle) == &sortes[s] &&
+            if (sorte_table(d[i].cle) == &sortes[s] && !verrouille(d[i]) &&
                 formes::touchee(d[i], cm, prise / pixels_par_cm()))
                 return i;
     return std::nullopt;
 }
 
 std::optional<std::size_t> VueTable::poignee_sous(QPointF pixels) const {
-    if (h_.selection().size() != 1)
+    if (h_.selection().size() != 1 || verrouille(h_.doc()[h_.selection().front()]))
         return std::nullopt;
     const std::vector<QPointF> points = formes::poignees(h_.doc()[h_.selection().front()]);
     for (std::size_t k = 0; k < points.size(); ++k)
@@ -122,31 +122,34 @@ std::optional<std::size_t> VueTable::poignee_sous(QPointF pixels) const {
     return std::nullopt;
 }
 
-void VueTable::presser(QPointF pixels, Qt::KeyboardModifiers touches) {
+bool VueTable::verrouille(const Fiche& e) const {
+    const SorteTable* sorte = sorte_table(e.cle);
+    return zones_verrouillees_ && sorte != nullptr && sorte->nom == "zones";
+}
+
+bool VueTable::choisi(std::size_t i) const {
+    return std::binary_search(h_.selection().begin(), h_.selection().end(), i);
+}
+
+// Only what is chosen is moved: a rectangle may begin anywhere, on a floor of one zone too.
+void VueTable::presser(QPointF pixels, Qt::KeyboardModifiers) {
     depart_ = ici_ = pixels;
-    const bool en_plus = (touches & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
+    sous_ = objet_sous(en_cm(pixels));
     if (outils_.en_main().forme != Outil::Forme::selection) {
         geste_ = Geste::placer;
     } else if (const auto k = poignee_sous(pixels)) {
         geste_ = Geste::tirer;
         poignee_ = *k;
         pris_ = h_.selection().front();
-    } else if (const auto i = objet_sous(en_cm(pixels))) {
+    } else if (sous_ && choisi(*sous_)) {
         geste_ = Geste::deplacer;
-        pris_ = *i;
-        const Selection avant = h_.selection();
-        const bool choisi = std::find(avant.begin(), avant.end(), *i) != avant.end();
-        if (en_plus || !choisi)
-            choisir_sous(*i, en_plus);
-        geste_ = Geste::deplacer; // choosing refreshes the view
+        pris_ = *sous_;
     } else {
-        if (!en_plus)
-            h_.choisir({});
         geste_ = Geste::cadre;
     }
 }
 
-void VueTable::choisir_sous(std::size_t i, bool en_plus) {
+void VueTable::choisir_un(std::size_t i, bool en_plus) {
     Selection s = en_plus ? h_.selection() : Selection{};
     const auto place = std::lower_bound(s.begin(), s.end(), i);
     if (place != s.end() && *place == i)
@@ -165,14 +168,21 @@ void VueTable::glisser(QPointF pixels, Qt::KeyboardModifiers touches) {
         ebauche_ = Foutil::tracer(outil, aimanter(en_cm(depart_), touches),
                                   aimanter(en_cm(pixels), touches));
     } else if (geste_ == Geste::tirer) {
-        provisoire_ = h_.doc();
-        provisoire_->remplacer(
-            pris_, formes::tiree(h_.doc()[pris_], poignee_, aimanter(en_cm(pixels), touches)));
-        provisoire_->remplir(*e_);
+        changer_forme(aimanter(en_cm(pixels), touches));
     } else if (geste_ == Geste::deplacer) {
         deplacer(en_cm(pixels), touches);
     }
     update();
+}
+
+// Pulled to nothing, it stays as it was before.
+void VueTable::changer_forme(QPointF cm) {
+    const Fiche tiree = formes::tiree(h_.doc()[pris_], poignee_, cm);
+    if (formes::sans_etendue(tiree))
+        return;
+    provisoire_ = h_.doc();
+    provisoire_->remplacer(pris_, tiree);
+    provisoire_->remplir(*e_);
 }
 
 void VueTable::deplacer(QPointF cm, Qt::KeyboardModifiers touches) {
@@ -196,23 +206,30 @@ void VueTable::relacher(QPointF pixels, Qt::KeyboardModifiers touches) {
     const Outil outil = outils_.en_main();
     if (geste == Geste::placer) {
         const auto ebauche = std::exchange(ebauche_, std::nullopt);
-        if (ebauche)
+        const QPointF fin = aimanter(en_cm(pixels), touches);
+        if (ebauche && fin != aimanter(en_cm(depart_), touches)) // else a click that slipped
             ajouter(*ebauche, QString("Ajouter : ") + formes::nom(outil.cle));
         else
-            poser(outil, aimanter(en_cm(pixels), touches));
+            poser(outil, fin);
         if (!touches.testFlag(Qt::ShiftModifier))
             outils_.reposer();
-    } else if (geste == Geste::cadre) {
-        if (loin(pixels))
-            choisir_dans(QRectF(en_cm(depart_), en_cm(pixels)).normalized(),
-                         (touches & (Qt::ShiftModifier | Qt::ControlModifier)) != 0);
-        update();
-    } else if (provisoire_) {
+        return;
+    }
+    const bool en_plus = (touches & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
+    if (provisoire_) {
         DocumentTable d = std::move(*provisoire_);
         provisoire_.reset();
         h_.changer(geste == Geste::tirer ? "Redimensionner" : "Déplacer", std::move(d),
                    h_.selection());
+    } else if (geste == Geste::cadre && loin(pixels)) {
+        choisir_dans(QRectF(en_cm(depart_), en_cm(pixels)).normalized(), en_plus);
+    } else if (geste != Geste::tirer && !loin(pixels)) { // a click
+        if (sous_)
+            choisir_un(*sous_, en_plus);
+        else if (!en_plus)
+            h_.choisir({});
     }
+    update();
 }
 
 void VueTable::choisir_dans(const QRectF& cm, bool en_plus) {
@@ -220,8 +237,8 @@ void VueTable::choisir_dans(const QRectF& cm, bool en_plus) {
     const DocumentTable& d = h_.doc();
     for (std::size_t i = 0; i < d.nombre(); ++i) {
         const QRectF r = formes::cadre(d[i]);
-        if (d[i].cle != "M" && cm.left() <= r.left() && cm.right() >= r.right() &&
-            cm.top() <= r.top() && cm.bottom() >= r.bottom())
+        if (d[i].cle != "M" && !verrouille(d[i]) && cm.left() <= r.left() &&
+            cm.right() >= r.right() && cm.top() <= r.top() && cm.bottom() >= r.bottom())
             s.push_back(i);
     }
     std::sort(s.begin(), s.end());
@@ -239,6 +256,8 @@ void VueTable::poser(const Outil& outil, QPointF cm) {
 void VueTable::ajouter(Fiche e, const QString& nom) {
     DocumentTable d = h_.doc();
     try {
+        if (formes::sans_etendue(e))
+            throw ErreurExecution("Un objet sans étendue ne se verrait pas : tracez-le plus grand");
         const std::size_t i = d.ajouter(std::move(e));
         h_.changer(nom, std::move(d), {i});
     } catch (const ErreurExecution& erreur) {

@@ -19,6 +19,9 @@ public:
 
     /// The document or the selection changed.
     void rafraichir();
+    /// The mouse passes over the zones of the floor.
+    void verrouiller_les_zones(bool oui) { zones_verrouillees_ = oui; }
+    bool verrouille(const Fiche& e) const;
     /// Places a tool's record about a point (cm).
     void poser(const Outil& outil, QPointF cm);
 
@@ -41,18 +44,22 @@ private:
     std::optional<std::size_t> objet_sous(QPointF cm) const;
     std::optional<std::size_t> poignee_sous(QPointF pixels) const;
     void peindre_legende(QPainter& peintre) const;
-    void choisir_sous(std::size_t i, bool en_plus);
+    void choisir_un(std::size_t i, bool en_plus);
+    bool choisi(std::size_t i) const;
     void deplacer(QPointF cm, Qt::KeyboardModifiers touches);
     void ajouter(Fiche e, const QString& nom);
+    void changer_forme(QPointF cm);
     void choisir_dans(const QRectF& cm, bool en_plus);
     bool loin(QPointF pixels) const { return (pixels - depart_).manhattanLength() > 3; }
 
     Historique<DocumentTable>& h_;
     Foutil& outils_;
     std::unique_ptr<Etat> e_; ///< what the drawing paints
+    bool zones_verrouillees_ = false;
     Geste geste_ = Geste::aucun;
-    QPointF depart_, ici_; ///< pixels
-    std::size_t pris_ = 0; ///< the record under the mouse when it was pressed
+    QPointF depart_, ici_;            ///< pixels
+    std::optional<std::size_t> sous_; ///< the record under the mouse when it was pressed
+    std::size_t pris_ = 0;            ///< the one that a move or a pull is measured on
     std::size_t poignee_ = 0;
     std::optional<DocumentTable> provisoire_; ///< the document as a drag shows it
     std::optional<Fiche> ebauche_;            ///< what the tool in hand is drawing

@@ -96,7 +96,7 @@ TEST_F(EditeurRobot, reperes_tires_a_la_souris_ou_donnes_en_nombres) {
     EXPECT_EQ(A1.text(), "12 cm");
     A1.selectAll();
     QTest::keyClicks(&A1, "9.5\r"); // whatever the language's own sign
-    EXPECT_EQ(A1.text(), "9" + QString(A1.locale().decimalPoint()) + "5 cm");
+    EXPECT_EQ(A1.text(), "9,5 cm");
     EXPECT_NE(doc().ecrire().find("A , 9.5, 16, 16\r\n"), std::string::npos);
     trouver<QDoubleSpinBox>("V2").setValue(45);
     EXPECT_EQ(nombres("V"), "100 45");
@@ -163,6 +163,69 @@ TEST_F(EditeurRobot, enregistre_et_charge_le_projet) {
     EXPECT_EQ(e().NomProjet, "Essai");
     EXPECT_FLOAT_EQ(e().VitesseLin(2), 0.8F);
     EXPECT_FALSE(editeur().isWindowModified());
+}
+
+TEST_F(EditeurRobot, la_liste_montre_les_segments_et_se_parcourt_au_clavier) {
+    commande("miroir"); // a third one
+    auto& liste = trouver<QListWidget>("listeSegments");
+    const auto lignes = [&](const QList<QListWidgetItem*>& items) {
+        QStringList textes;
+        for (const QListWidgetItem* item : items)
+            textes += item->text();
+        return textes.join(" | ").toStdString();
+    };
+    EXPECT_EQ(lignes(liste.findItems("*", Qt::MatchWildcard)),
+              "0, 0 – 0, 34 | 0, 0 – 20, 0 | 20, 0 – 20, 34");
+    liste.clearSelection();
+    liste.setCurrentRow(0);
+    EXPECT_EQ(trouver<QDoubleSpinBox>("Y2").value(), 34);
+    for (const char* suivant : {"0, 0 – 20, 0", "20, 0 – 20, 34"}) {
+        QTest::keyClick(&liste, Qt::Key_Down);
+        EXPECT_EQ(lignes(liste.selectedItems()), suivant);
+    }
+    QTest::keyClick(&liste, Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(liste.selectedItems().size(), 2);
+    clic(10, 0); // the keys go on from what the mouse has chosen
+    QTest::keyClick(&liste, Qt::Key_Up);
+    EXPECT_EQ(lignes(liste.selectedItems()), "0, 0 – 0, 34");
+}
+
+TEST_F(EditeurRobot, un_rectangle_choisit_les_segments_qu_il_contient) {
+    commande("miroir");
+    auto& liste = trouver<QListWidget>("listeSegments");
+    const auto choisis = [&] {
+        QStringList textes;
+        for (const QListWidgetItem* item : liste.selectedItems())
+            textes += item->text();
+        return textes.join(" | ").toStdString();
+    };
+    tirer(vue(), {-3, -2}, {22, 3});
+    EXPECT_EQ(choisis(), "0, 0 – 20, 0") << "not what only begins in it";
+    tirer(vue(), {-3, -2}, {3, 36}, Qt::ShiftModifier);
+    EXPECT_EQ(choisis(), "0, 0 – 0, 34 | 0, 0 – 20, 0");
+    clic(0, 25); // a click on one of them
+    EXPECT_EQ(choisis(), "0, 0 – 0, 34");
+    tirer(vue(), {-3, -2}, {24, 36});
+    EXPECT_EQ(liste.selectedItems().size(), 3);
+    clic(4, 25);
+    EXPECT_EQ(choisis(), "") << "nothing lies there";
+}
+
+TEST_F(EditeurRobot, un_depart_que_le_trajet_remplace_est_dit) {
+    auto& avis = trouver<QLabel>("avisInit");
+    EXPECT_TRUE(avis.isHidden()) << "no trajectory of that robot";
+    dossier.ecrire("Configuration/Essai Trajet2.ini", "Init,100,60,90\r\nFIN\r\n");
+    editeur().ouvrir(dossier / "Configuration/Essai Robot2.ini");
+    EXPECT_FALSE(avis.isHidden());
+    EXPECT_EQ(avis.text(), "Ce départ ne sert pas : « Init » de Essai Trajet2.ini place le robot à "
+                           "x = 100, y = 60, cap 90°.");
+    trouver<QDoubleSpinBox>("I3").setValue(90);
+    EXPECT_TRUE(avis.isHidden()) << "the same pose";
+    trouver<QDoubleSpinBox>("I1").setValue(20);
+    EXPECT_FALSE(avis.isHidden());
+    dossier.ecrire("Configuration/Essai Trajet2.ini", "Pause,1\r\nFIN\r\n");
+    editeur().ouvrir(dossier / "Configuration/Essai Robot2.ini");
+    EXPECT_TRUE(avis.isHidden()) << "a trajectory without a pose of its own";
 }
 
 } // namespace

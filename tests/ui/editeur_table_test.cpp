@@ -1,106 +1,10 @@
-#include "ui/editeurs.h"
+#include "ui/banc_table.h"
 
-#include "ui/banc.h"
-
-#include <QAction>
 #include <QDropEvent>
-#include <QListWidget>
 #include <QMimeData>
 #include <QPlainTextEdit>
 
 namespace {
-
-constexpr std::string_view fichier = "# essai\r\nM,,Table\r\nU,0,0,100,100 # sol\r\n"
-                                     "\r\nPB,50,50,5\r\npas compris 1\r\nLN,10,80,90,80\r\n";
-
-/// The table editor on a file of its own, driven by the mouse. Three-way questions are answered
-/// from `reponses_fichier` ("Annuler" when it is empty), the name dialog from `noms`.
-class EditeurTable : public Banc {
-protected:
-    EditeurTable() {
-        QObject::connect(&veilleur_fichier_, &QTimer::timeout, [this] { repondre_fichier(); });
-        veilleur_fichier_.start(1);
-        demarrer();
-        cliquer("dessinAire");
-    }
-
-    dessinTable& editeur() { return trouver<dessinTable>("dessinTable"); }
-    VueTable& vue() { return trouver<VueTable>("vueTable"); }
-    const DocumentTable& doc() { return editeur().document(); }
-    bool ouvrir(std::string_view octets = fichier) {
-        const auto chemin = dossier.ecrire("Configuration/Essai Table.ini", octets);
-        const bool ouvert = editeur().ouvrir(chemin);
-        vue().resize(600, 500);
-        vue().ajuster();
-        return ouvert;
-    }
-    std::string sur_le_disque() { return dossier.lire("Configuration/Essai Table.ini"); }
-    void commande(const char* nom) {
-        editeur().findChild<QAction*>(nom)->trigger();
-        QCoreApplication::sendPostedEvents(&editeur(), QEvent::MetaCall);
-    }
-    QPoint en(double x, double y) { return vue().en_pixels(QPointF(x, y)).toPoint(); }
-    void clic(double x, double y, Qt::KeyboardModifiers touches = {}) {
-        QTest::mouseClick(&vue(), Qt::LeftButton, touches, en(x, y));
-    }
-    void tirer(QPointF a, QPointF b, Qt::KeyboardModifiers touches = {}) {
-        QTest::mousePress(&vue(), Qt::LeftButton, touches, en(a.x(), a.y()));
-        for (const QPointF& p : {(a + b) / 2, b}) {
-            QMouseEvent e(QEvent::MouseMove, en(p.x(), p.y()), vue().mapToGlobal(en(p.x(), p.y())),
-                          Qt::NoButton, Qt::LeftButton, touches);
-            QApplication::sendEvent(&vue(), &e);
-        }
-        QTest::mouseRelease(&vue(), Qt::LeftButton, touches, en(b.x(), b.y()));
-    }
-    /// "PB 50 50 5" for the last record of the document with that key.
-    std::string dernier(std::string_view cle) {
-        for (std::size_t i = doc().nombre(); i-- > 0;)
-            if (doc()[i].cle == cle)
-                return texte(doc()[i]);
-        return "";
-    }
-    static std::string texte(const Fiche& f) {
-        std::string t = f.cle;
-        for (std::size_t i = 0; i < nombre_de_champs(f.cle); ++i)
-            t += " " + std::to_string(f.entier(i));
-        return t;
-    }
-
-    std::deque<QMessageBox::StandardButton> reponses_fichier;
-    std::deque<QString> noms;
-    std::string avis;
-
-private:
-    void repondre_fichier() {
-        QWidget* fenetre = QApplication::activeModalWidget();
-        if (fenetre == nullptr)
-            return;
-        if (auto* boite = dynamic_cast<QMessageBox*>(fenetre);
-            boite != nullptr && boite->objectName() == "enregistrer") {
-            const auto choix =
-                reponses_fichier.empty() ? QMessageBox::Cancel : reponses_fichier.front();
-            if (!reponses_fichier.empty())
-                reponses_fichier.pop_front();
-            messages.emplace_back("enregistrer");
-            boite->button(choix)->click();
-        } else if (fenetre->objectName() == "nouveauProjet") {
-            repondre_nom(*fenetre);
-        }
-    }
-    void repondre_nom(QWidget& dialogue) {
-        auto& ok = *dialogue.findChild<QPushButton*>("OKButton");
-        if (noms.empty())
-            return dialogue.findChild<QPushButton*>("CancelButton")->click();
-        dialogue.findChild<QLineEdit*>("nomProjet")->setText(noms.front());
-        noms.pop_front();
-        avis = dialogue.findChild<QLabel*>("avis")->text().toStdString();
-        if (!ok.isEnabled())
-            dialogue.findChild<QPushButton*>("corriger")->click();
-        ok.click();
-    }
-
-    QTimer veilleur_fichier_;
-};
 
 TEST_F(EditeurTable, chaque_outil_place_son_objet_d_un_clic_et_d_un_trace) {
     ASSERT_TRUE(ouvrir());
@@ -151,7 +55,7 @@ TEST_F(EditeurTable, un_outil_tire_de_la_palette_se_pose_ou_il_est_lache) {
 
 TEST_F(EditeurTable, deplacer_redimensionner_et_suspendre_la_grille) {
     ouvrir();
-    tirer({50, 50}, {62, 58});
+    deplacer({50, 50}, {62, 58});
     EXPECT_EQ(dernier("PB"), "PB 60 60 5");
     tirer({60, 60}, {63, 61}, Qt::AltModifier);
     EXPECT_EQ(dernier("PB"), "PB 63 61 5");
@@ -166,7 +70,7 @@ TEST_F(EditeurTable, deplacer_redimensionner_et_suspendre_la_grille) {
     for (int i = 0; i < 5; ++i)
         commande("annuler");
     EXPECT_EQ(doc().ecrire(), fichier);
-    tirer({50, 50}, {62, 58});
+    deplacer({50, 50}, {62, 58});
     QTest::keyClick(&vue(), Qt::Key_Escape);
     EXPECT_EQ(dernier("PB"), "PB 60 60 5");
 }
@@ -233,7 +137,7 @@ TEST_F(EditeurTable, une_capacite_depassee_est_dite) {
 
 TEST_F(EditeurTable, enregistrer_demande_garde_la_version_d_avant_et_propose_de_charger) {
     ouvrir();
-    tirer({50, 50}, {60, 60});
+    deplacer({50, 50}, {60, 60});
     messages.clear();
     reponses = {true, true, true}; // not understood, replace, load
     commande("enregistrer");
@@ -269,7 +173,7 @@ TEST_F(EditeurTable, un_fichier_change_ailleurs_est_relu_sans_perdre_le_dessin) 
     ASSERT_TRUE(QTest::qWaitFor([&] { return doc().nombre() == 1; }));
     EXPECT_EQ(vue().pixels_par_cm(), echelle);
     EXPECT_FALSE(editeur().isWindowModified());
-    tirer({5, 5}, {15, 5});
+    deplacer({5, 5}, {15, 5});
     messages.clear();
     dossier.ecrire("Configuration/Essai Table.ini", "L,0,0,50,50\r\n"); // in place
     ASSERT_TRUE(QTest::qWaitFor([&] { return !messages.empty(); }));
@@ -293,6 +197,7 @@ TEST_F(EditeurTable, un_disque_qui_refuse_ne_coute_pas_le_dessin) {
     });
     commande("enregistrer");
     ASSERT_FALSE(messages.empty());
+    EXPECT_EQ(messages[0].find("message: Le dessin n'a pas été enregistré : "), 0U) << messages[0];
     EXPECT_NE(messages[0].find("Configuration"), std::string::npos) << messages[0];
     EXPECT_TRUE(editeur().isWindowModified());
     reponses_fichier = {QMessageBox::Save};
@@ -303,7 +208,7 @@ TEST_F(EditeurTable, un_disque_qui_refuse_ne_coute_pas_le_dessin) {
 
 TEST_F(EditeurTable, ce_que_le_simulateur_ne_dessinerait_pas_est_dit_avant_d_ecrire) {
     ouvrir("L,0,0,90,90\nLE,50,20,50,60\n"); // the reader takes it, the drawing stops
-    tirer({20, 20}, {30, 20});
+    deplacer({20, 20}, {30, 20});
     messages.clear();
     commande("enregistrer");
     ASSERT_EQ(messages.size(), 1U); // "Non"
@@ -344,7 +249,7 @@ TEST_F(EditeurTable, nouveau_projet_explique_et_corrige_les_noms) {
 
 TEST_F(EditeurTable, rien_n_est_perdu_en_partant) {
     ouvrir();
-    tirer({50, 50}, {60, 60});
+    deplacer({50, 50}, {60, 60});
     EXPECT_TRUE(editeur().isWindowModified());
     editeur().close(); // "Annuler"
     EXPECT_TRUE(editeur().isVisible());
@@ -356,7 +261,7 @@ TEST_F(EditeurTable, rien_n_est_perdu_en_partant) {
     EXPECT_FALSE(editeur().isVisible());
     EXPECT_NE(sur_le_disque().find("PB , 60, 60, 5"), std::string::npos);
     cliquer("dessinAire");
-    tirer({60, 60}, {40, 40});
+    deplacer({60, 60}, {40, 40});
     reponses_fichier = {QMessageBox::Discard};
     cliquer("Command4");
     EXPECT_EQ(fins, std::vector<int>{0});

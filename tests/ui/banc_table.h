@@ -1,0 +1,104 @@
+#pragma once
+
+#include "ui/banc.h"
+#include "ui/editeurs.h"
+
+#include <QAction>
+#include <QListWidget>
+
+inline constexpr std::string_view fichier = "# essai\r\nM,,Table\r\nU,0,0,100,100 # sol\r\n"
+                                            "\r\nPB,50,50,5\r\npas compris 1\r\nLN,10,80,90,80\r\n";
+
+/// The table editor on a file of its own, driven by the mouse. Three-way questions are answered
+/// from `reponses_fichier` ("Annuler" when it is empty), the name dialog from `noms`.
+class EditeurTable : public Banc {
+protected:
+    EditeurTable() {
+        QObject::connect(&veilleur_fichier_, &QTimer::timeout, [this] { repondre_fichier(); });
+        veilleur_fichier_.start(1);
+        demarrer();
+        cliquer("dessinAire");
+    }
+
+    dessinTable& editeur() { return trouver<dessinTable>("dessinTable"); }
+    VueTable& vue() { return trouver<VueTable>("vueTable"); }
+    const DocumentTable& doc() { return editeur().document(); }
+    bool ouvrir(std::string_view octets = fichier) {
+        const auto chemin = dossier.ecrire("Configuration/Essai Table.ini", octets);
+        const bool ouvert = editeur().ouvrir(chemin);
+        vue().resize(600, 500);
+        vue().ajuster();
+        return ouvert;
+    }
+    std::string sur_le_disque() { return dossier.lire("Configuration/Essai Table.ini"); }
+    void commande(const char* nom) {
+        editeur().findChild<QAction*>(nom)->trigger();
+        QCoreApplication::sendPostedEvents(&editeur(), QEvent::MetaCall);
+    }
+    QPoint en(double x, double y) { return vue().en_pixels(QPointF(x, y)).toPoint(); }
+    void clic(double x, double y, Qt::KeyboardModifiers touches = {}) {
+        QTest::mouseClick(&vue(), Qt::LeftButton, touches, en(x, y));
+    }
+    void tirer(QPointF a, QPointF b, Qt::KeyboardModifiers touches = {}) {
+        QTest::mousePress(&vue(), Qt::LeftButton, touches, en(a.x(), a.y()));
+        for (const QPointF& p : {(a + b) / 2, b}) {
+            QMouseEvent e(QEvent::MouseMove, en(p.x(), p.y()), vue().mapToGlobal(en(p.x(), p.y())),
+                          Qt::NoButton, Qt::LeftButton, touches);
+            QApplication::sendEvent(&vue(), &e);
+        }
+        QTest::mouseRelease(&vue(), Qt::LeftButton, touches, en(b.x(), b.y()));
+    }
+    /// Chooses what is there and moves it.
+    void deplacer(QPointF a, QPointF b, Qt::KeyboardModifiers touches = {}) {
+        clic(a.x(), a.y());
+        tirer(a, b, touches);
+    }
+    /// "PB 50 50 5" for the last record of the document with that key.
+    std::string dernier(std::string_view cle) {
+        for (std::size_t i = doc().nombre(); i-- > 0;)
+            if (doc()[i].cle == cle)
+                return texte(doc()[i]);
+        return "";
+    }
+    static std::string texte(const Fiche& f) {
+        std::string t = f.cle;
+        for (std::size_t i = 0; i < nombre_de_champs(f.cle); ++i)
+            t += " " + std::to_string(f.entier(i));
+        return t;
+    }
+
+    std::deque<QMessageBox::StandardButton> reponses_fichier;
+    std::deque<QString> noms;
+    std::string avis;
+
+private:
+    void repondre_fichier() {
+        QWidget* fenetre = QApplication::activeModalWidget();
+        if (fenetre == nullptr)
+            return;
+        if (auto* boite = dynamic_cast<QMessageBox*>(fenetre);
+            boite != nullptr && boite->objectName() == "enregistrer") {
+            const auto choix =
+                reponses_fichier.empty() ? QMessageBox::Cancel : reponses_fichier.front();
+            if (!reponses_fichier.empty())
+                reponses_fichier.pop_front();
+            messages.emplace_back("enregistrer");
+            boite->button(choix)->click();
+        } else if (fenetre->objectName() == "nouveauProjet") {
+            repondre_nom(*fenetre);
+        }
+    }
+    void repondre_nom(QWidget& dialogue) {
+        auto& ok = *dialogue.findChild<QPushButton*>("OKButton");
+        if (noms.empty())
+            return dialogue.findChild<QPushButton*>("CancelButton")->click();
+        dialogue.findChild<QLineEdit*>("nomProjet")->setText(noms.front());
+        noms.pop_front();
+        avis = dialogue.findChild<QLabel*>("avis")->text().toStdString();
+        if (!ok.isEnabled())
+            dialogue.findChild<QPushButton*>("corriger")->click();
+        ok.click();
+    }
+
+    QTimer veilleur_fichier_;
+};

@@ -1,0 +1,271 @@
+// How the table editor's mouse, keys and fields take, move and measure what is drawn.
+#include "ui/banc_table.h"
+#include "ui/formes.h"
+
+#include <QFileDialog>
+#include <QPlainTextEdit>
+#include <QStatusBar>
+#include <QTreeView>
+
+#include <algorithm>
+
+namespace {
+
+/// A floor of one zone under everything, as most tables have.
+constexpr std::string_view sol = "L,0,0,200,200\nO,20,20,40,40\nT,60,60,90,80\nPB,120,120,10\n";
+
+class GestesTable : public EditeurTable {
+protected:
+    std::string choisis() {
+        std::string textes;
+        for (const QListWidgetItem* item : trouver<QListWidget>("listeObjets").selectedItems())
+            textes += item->text().section(' ', 1, 1).toStdString() + " ";
+        return textes;
+    }
+    /// Types over a field's number.
+    void taper(const char* champ, const char* texte) {
+        auto& nombre = trouver<QDoubleSpinBox>(champ);
+        nombre.selectAll();
+        QTest::keyClicks(&nombre, texte);
+        QTest::keyClick(&nombre, Qt::Key_Return);
+    }
+};
+
+TEST_F(GestesTable, sur_un_sol_d_une_zone_un_rectangle_choisit_et_rien_ne_bouge) {
+    ouvrir(sol);
+    tirer({10, 10}, {100, 100});
+    EXPECT_EQ(choisis(), "O T ");
+    tirer({30, 30}, {40, 35}); // what is chosen moves together
+    EXPECT_EQ(dernier("O") + dernier("T"), "O 30 25 50 45T 70 65 100 85");
+    clic(80, 70);
+    EXPECT_EQ(choisis(), "T ") << "a click on one of several";
+    tirer({107, 107}, {135, 135}, Qt::ShiftModifier);
+    EXPECT_EQ(choisis(), "T PB ");
+    tirer({170, 170}, {180, 185});
+    EXPECT_EQ(dernier("L"), "L 0 0 200 200") << "not chosen";
+    clic(170, 170);
+    tirer({170, 170}, {180, 180});
+    EXPECT_EQ(dernier("L"), "L 10 10 210 210") << "chosen";
+}
+
+TEST_F(GestesTable, les_zones_verrouillees_laissent_passer_la_souris) {
+    ouvrir(sol);
+    clic(30, 30);
+    commande("verrouiller");
+    EXPECT_EQ(choisis(), "");
+    clic(30, 30);
+    tirer({5, 5}, {195, 195});
+    EXPECT_EQ(choisis(), "PB ");
+    commande("tout");
+    EXPECT_EQ(choisis(), "PB ");
+    trouver<QListWidget>("listeObjets").clearSelection();
+    trouver<QListWidget>("listeObjets").setCurrentRow(1);
+    EXPECT_EQ(choisis(), "O ") << "the list still chooses";
+    tirer({40, 40}, {50, 50}); // no handle there
+    EXPECT_EQ(dernier("O"), "O 20 20 40 40");
+    commande("verrouiller");
+    clic(30, 30);
+    EXPECT_EQ(choisis(), "O ");
+}
+
+TEST_F(GestesTable, un_objet_pose_passe_au_dessus_de_sa_famille) {
+    ouvrir("L,0,0,200,200\nO,20,20,180,180\nPB,50,50,5\nX,60,60,5\n");
+    cliquer("outil_L");
+    clic(100, 100);
+    cliquer("outil_PB");
+    clic(55, 55);
+    EXPECT_NE(doc().ecrire().find("O,20,20,180,180\nL , "), std::string::npos) << doc().ecrire();
+    EXPECT_NE(doc().ecrire().find("X,60,60,5\nPB , "), std::string::npos) << doc().ecrire();
+}
+
+TEST_F(GestesTable, rien_sans_etendue_n_est_pose_ni_tire_ni_tape) {
+    ouvrir(sol);
+    cliquer("outil_V");
+    tirer({100, 20}, {100, 60}); // no width
+    cliquer("outil_Verticale");
+    tirer({100, 20}, {140, 20}); // no length
+    EXPECT_EQ(messages.size(), 2U);
+    EXPECT_EQ(doc().nombre(), 4U);
+    cliquer("outil_PN");
+    tirer({150, 20}, {151, 21}); // a click that slipped
+    EXPECT_EQ(dernier("PN"), "PN 150 20 5");
+    clic(30, 30);
+    tirer({40, 30}, {20, 30}); // a handle onto the other side: as far as there was a width
+    EXPECT_EQ(dernier("O"), "O 20 20 30 40");
+    clic(120, 120);
+    taper("Rayon", "0");
+    EXPECT_EQ(dernier("PB"), "PB 120 120 10");
+    const Fiche minimal = formes::tiree({"DR", {50, 50, 9, 0}, ""}, 0, {50, 50});
+    EXPECT_EQ(minimal.v[2], 1) << "a radius pulled to nothing";
+    EXPECT_EQ(Foutil::tracer(*Foutil::outil("outil_DR"), {9, 9}, {9, 9}).v[2], 1);
+}
+
+TEST_F(GestesTable, les_deux_bouts_d_une_boite_se_tapent_dans_n_importe_quel_ordre) {
+    for (const bool x1_d_abord : {true, false}) {
+        ouvrir(sol);
+        clic(30, 30);
+        taper(x1_d_abord ? "X1" : "X2", x1_d_abord ? "90" : "120");
+        taper(x1_d_abord ? "X2" : "X1", x1_d_abord ? "120" : "90");
+        EXPECT_EQ(dernier("O"), "O 90 20 120 40");
+    }
+    taper("X1", "120"); // for a moment without width
+    EXPECT_EQ(dernier("O"), "O 90 20 120 40");
+    messages.clear();
+    commande("enregistrer");
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_NE(messages[0].find("n'a pas été enregistré"), std::string::npos) << messages[0];
+    taper("X2", "150");
+    EXPECT_EQ(dernier("O"), "O 120 20 150 40");
+}
+
+TEST_F(GestesTable, un_angle_garde_la_longueur_ou_est_refuse) {
+    ouvrir("L,0,0,200,200\nLN,10,80,90,80\nLN,100,100,130,140\n");
+    clic(115, 120);
+    EXPECT_NEAR(trouver<QDoubleSpinBox>("Incidence").value(), 53.1, 0.01);
+    for (const char* angle : {"33", "61", "7", "0"}) // rounded each time
+        taper("Incidence", angle);
+    EXPECT_EQ(dernier("LN"), "LN 100 100 150 100");
+    taper("Incidence", "-90");
+    EXPECT_EQ(dernier("LN"), "LN 100 100 100 50");
+    commande("annuler");
+    clic(30, 80);
+    taper("Incidence", "180"); // would leave the table at x = 0
+    EXPECT_EQ(texte(doc()[1]), "LN 10 80 90 80");
+    EXPECT_EQ(trouver<QDoubleSpinBox>("Incidence").value(), 0);
+    EXPECT_TRUE(editeur().statusBar()->currentMessage().startsWith("Refusé"));
+}
+
+TEST_F(GestesTable, un_geste_finit_avec_son_bouton) {
+    ouvrir(sol);
+    const auto presser = [&] {
+        clic(30, 30);
+        QTest::mousePress(&vue(), Qt::LeftButton, {}, en(30, 30));
+        QMouseEvent e(QEvent::MouseMove, en(60, 60), vue().mapToGlobal(en(60, 60)), Qt::NoButton,
+                      Qt::LeftButton, {});
+        QApplication::sendEvent(&vue(), &e);
+    };
+    const std::vector<std::function<void()>> coupures{
+        [&] { QTest::mousePress(&vue(), Qt::RightButton, {}, en(60, 60)); },
+        [&] { QTest::mousePress(&vue(), Qt::MiddleButton, {}, en(60, 60)); },
+        [&] {
+            QFocusEvent part(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+            QApplication::sendEvent(&vue(), &part);
+        },
+        [&] { // released outside, where nobody told us
+            QMouseEvent e(QEvent::MouseMove, en(70, 70), vue().mapToGlobal(en(70, 70)),
+                          Qt::NoButton, Qt::NoButton, {});
+            QApplication::sendEvent(&vue(), &e);
+        }};
+    for (const auto& couper : coupures) {
+        presser();
+        couper();
+        QTest::mouseRelease(&vue(), Qt::LeftButton, {}, en(60, 60));
+        EXPECT_EQ(dernier("O"), "O 20 20 40 40");
+    }
+    presser();
+    QTest::mouseRelease(&vue(), Qt::RightButton, {}, en(60, 60)); // not its own
+    QTest::mouseRelease(&vue(), Qt::LeftButton, {}, en(60, 60));
+    EXPECT_EQ(dernier("O"), "O 50 50 70 70");
+}
+
+TEST_F(GestesTable, ctrl_suspend_la_grille_comme_alt) {
+    ouvrir(sol);
+    deplacer({30, 30}, {43, 41});
+    EXPECT_EQ(dernier("O"), "O 35 30 55 50");
+    clic(45, 40);
+    tirer({45, 40}, {47, 41}, Qt::ControlModifier);
+    EXPECT_EQ(dernier("O"), "O 37 31 57 51");
+    EXPECT_EQ(choisis(), "O ") << "moving does not drop it from what is chosen";
+}
+
+TEST_F(GestesTable, la_legende_garde_son_curseur_ou_l_on_tape) {
+    ouvrir("M,abc\nL,0,0,50,50\n");
+    auto& legende = trouver<QPlainTextEdit>("legende");
+    QTextCursor curseur = legende.textCursor();
+    curseur.setPosition(1);
+    legende.setTextCursor(curseur);
+    QTest::keyClicks(&legende, "x,#y"); // the comma breaks the line, the sign is not kept
+    EXPECT_EQ(legende.toPlainText(), "ax\nybc");
+    EXPECT_EQ(legende.textCursor().position(), 4);
+}
+
+TEST_F(GestesTable, la_grille_du_menu_est_celle_de_la_vue) {
+    for (const int cm : {10, 1, 5}) {
+        commande(qPrintable(QString("grille_%1").arg(cm)));
+        EXPECT_EQ(vue().grille(), cm);
+        for (const int autre : {1, 5, 10})
+            EXPECT_EQ(editeur().findChild<QAction*>(QString("grille_%1").arg(autre))->isChecked(),
+                      autre == cm);
+    }
+    EXPECT_TRUE(trouver<QMainWindow>("dessinRobot").findChild<QAction*>("grille_1")->isChecked())
+        << "the robot's own from the start";
+}
+
+// Corners and middles from the lower left on, anticlockwise; a circle has the middles alone.
+TEST(Poignees, nombre_place_et_effet) {
+    const Fiche zone{"L", {10, 20, 30, 60}, ""};
+    const std::vector<QPointF> points = formes::poignees(zone);
+    const std::vector<QPointF> voulus{{10, 20}, {20, 20}, {30, 20}, {30, 40},
+                                      {30, 60}, {20, 60}, {10, 60}, {10, 40}};
+    EXPECT_EQ(points, voulus);
+    struct Cas {
+        std::size_t poignee;
+        std::array<float, 4> apres; ///< pulled to (100, 5): the box is turned the right way round
+    };
+    for (const Cas& c :
+         {Cas{0, {30, 5, 100, 60}}, Cas{1, {10, 5, 30, 60}}, Cas{2, {10, 5, 100, 60}},
+          Cas{3, {10, 20, 100, 60}}, Cas{4, {10, 5, 100, 20}}, Cas{5, {10, 5, 30, 20}},
+          Cas{6, {30, 5, 100, 20}}, Cas{7, {30, 20, 100, 60}}})
+        EXPECT_EQ(formes::tiree(zone, c.poignee, {100, 5}).v, c.apres) << c.poignee;
+    const std::vector<QPointF> du_cercle{{50, 42}, {58, 50}, {50, 58}, {42, 50}};
+    EXPECT_EQ(formes::poignees({"PB", {50, 50, 8, 0}, ""}), du_cercle);
+    EXPECT_EQ(formes::poignees({"LN", {1, 2, 3, 4}, ""}), (std::vector<QPointF>{{1, 2}, {3, 4}}));
+    EXPECT_TRUE(formes::poignees({"M", {}, "x"}).empty());
+}
+
+TEST(Formes, la_zone_ou_la_souris_prend_un_objet) {
+    struct Cas {
+        Fiche objet;
+        QPointF dedans, dehors; ///< within and beyond 2 cm
+    };
+    for (const Cas& c : {Cas{{"L", {10, 10, 50, 50}, ""}, {30, 30}, {52, 30}},
+                         Cas{{"DC", {10, 10, 50, 50}, ""}, {51.5, 30}, {30, 30}},
+                         Cas{{"LE", {10, 10, 50, 30}, ""}, {30, 11}, {30, 20}},
+                         Cas{{"LE", {10, 10, 50, 30}, ""}, {11, 20}, {12, 12}},
+                         Cas{{"DR", {30, 30, 10, 0}, ""}, {30, 41}, {30, 33}},
+                         Cas{{"PB", {30, 30, 10, 0}, ""}, {30, 33}, {30, 41}},
+                         Cas{{"LN", {10, 10, 50, 50}, ""}, {31, 29.5}, {52, 52}}}) {
+        EXPECT_TRUE(formes::touchee(c.objet, c.dedans, 2)) << c.objet.cle;
+        EXPECT_FALSE(formes::touchee(c.objet, c.dehors, 2)) << c.objet.cle;
+    }
+}
+
+// Qt splits a filter's patterns at blanks: "* Table.ini" showed nothing but "Table.ini".
+TEST_F(GestesTable, le_filtre_d_ouverture_montre_les_fichiers_de_table) {
+    dossier.ecrire("Configuration/Essai Table.ini", "U,0,0,9,9");
+    dossier.ecrire("Configuration/essai2 table.INI", "U,0,0,9,9");
+    std::vector<std::string> vus;
+    QTimer guet;
+    QObject::connect(&guet, &QTimer::timeout, [&] {
+        auto* dialogue = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        auto* liste = dialogue == nullptr ? nullptr : dialogue->findChild<QTreeView*>("treeView");
+        if (liste == nullptr || liste->model()->rowCount(liste->rootIndex()) < 3)
+            return; // it reads the folder on a thread
+        for (int i = 0; i < liste->model()->rowCount(liste->rootIndex()); ++i)
+            vus.push_back(
+                liste->model()->index(i, 0, liste->rootIndex()).data().toString().toStdString());
+        dialogue->reject();
+    });
+    guet.start(10);
+    QTimer::singleShot(5000, &guet, [] { // whatever is shown by then
+        if (auto* dialogue = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            dialogue->reject();
+    });
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    commande("ouvrir");
+    std::sort(vus.begin(), vus.end());
+    EXPECT_EQ(
+        vus, (std::vector<std::string>{"Defaut Table.ini", "Essai Table.ini", "essai2 table.INI"}));
+}
+
+} // namespace
