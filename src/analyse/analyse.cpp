@@ -72,7 +72,7 @@ Analyse analyser(const Etat& etat, const Provenance& provenance) {
         .projet = etat.NomProjet, .match = calculer_match(*copie), .lignes = provenance.lignes};
     copie->PasTemps = etat.PasTemps == 1 ? 5 : 1;
     const MatchCalcule autre = calculer_match(*copie);
-    Releve releve = relever(etat, a.match);
+    const Releve releve = relever(etat, a.match);
     const Enquete q{etat, a.match, provenance, a.constats};
     for (int i = 1; i <= a.match.NbRobot; ++i) {
         a.robots.push_back(bilan_de(etat, a.match, i));
@@ -82,7 +82,6 @@ Analyse analyser(const Etat& etat, const Provenance& provenance) {
     constater_terrain(q, releve);
     constater_damier(q);
     constater_pas(q, releve, autre, relever(etat, autre));
-    a.ecarts = std::move(releve.ecarts);
     ranger(a.constats);
     return a;
 }

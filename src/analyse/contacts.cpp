@@ -213,6 +213,18 @@ private:
 
 } // namespace
 
+std::optional<std::size_t> premier_contact(const Parcours& a, const Parcours& b) {
+    if (a.sans_contour() || b.sans_contour())
+        return std::nullopt;
+    return Recherche<PaireDeRobots>(PaireDeRobots(a, b)).premier_contact();
+}
+
+std::optional<std::size_t> premier_contact(const Parcours& a, const Obstacle& o) {
+    if (a.sans_contour())
+        return std::nullopt;
+    return Recherche<RobotEtBloc>(RobotEtBloc(a, o)).premier_contact();
+}
+
 Rencontre rencontre(const Parcours& a, const Parcours& b) {
     if (a.sans_contour() || b.sans_contour())
         return {std::nullopt, INFINITY, 0};
@@ -222,11 +234,4 @@ Rencontre rencontre(const Parcours& a, const Parcours& b) {
     PlusPetitEcart plus_petit(recherche.paire());
     plus_petit.chercher(recherche.mesures());
     return {std::nullopt, plus_petit.ecart(), plus_petit.tick()};
-}
-
-Rencontre rencontre(const Parcours& a, const Obstacle& o) {
-    if (a.sans_contour())
-        return {std::nullopt, INFINITY, 0};
-    Recherche<RobotEtBloc> recherche(RobotEtBloc(a, o));
-    return {recherche.premier_contact(), 0, 0};
 }

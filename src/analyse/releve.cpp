@@ -18,29 +18,54 @@ std::vector<Obstacle> obstacles(const AireDeJeu& table) {
     return blocs;
 }
 
-Releve relever(const Etat& e, const MatchCalcule& m) {
+namespace {
+
+std::vector<Parcours> parcours_de_tous(const Etat& e, const MatchCalcule& m) {
     std::vector<Parcours> parcours;
     parcours.reserve(static_cast<std::size_t>(m.NbRobot));
     for (int i = 1; i <= m.NbRobot; ++i)
         parcours.emplace_back(e, m, i);
+    return parcours;
+}
+
+/// Calls `voir` with every pair of robots and their ways.
+template <typename Voir>
+void pour_chaque_paire(const std::vector<Parcours>& parcours, Voir voir) {
+    for (std::size_t i = 0; i < parcours.size(); ++i) {
+        for (std::size_t j = i + 1; j < parcours.size(); ++j)
+            voir(static_cast<int>(i) + 1, static_cast<int>(j) + 1, parcours[i], parcours[j]);
+    }
+}
+
+} // namespace
+
+Releve relever(const Etat& e, const MatchCalcule& m) {
+    const std::vector<Parcours> parcours = parcours_de_tous(e, m);
     const std::vector<Obstacle> blocs = obstacles(e);
     Releve r;
     for (int i = 1; i <= m.NbRobot; ++i) {
         const Parcours& a = parcours[static_cast<std::size_t>(i - 1)];
         r.sorties(i) = sortie_de_table(a, e.XMax, e.YMax);
-        for (int j = i + 1; j <= m.NbRobot; ++j) {
-            const Rencontre vue = rencontre(a, parcours[static_cast<std::size_t>(j - 1)]);
-            if (vue.contact)
-                r.robots.push_back({i, j, *vue.contact});
-            if (std::isfinite(vue.ecart))
-                r.ecarts.push_back({i, j, vue.ecart, m.temps(vue.tick_ecart)});
-        }
         for (std::size_t n = 0; n < blocs.size(); ++n) {
-            if (const auto contact = rencontre(a, blocs[n]).contact)
+            if (const auto contact = premier_contact(a, blocs[n]))
                 r.blocs.push_back({i, static_cast<int>(n) + 1, *contact});
         }
     }
+    pour_chaque_paire(parcours, [&r](int i, int j, const Parcours& a, const Parcours& b) {
+        if (const auto contact = premier_contact(a, b))
+            r.robots.push_back({i, j, *contact});
+    });
     return r;
+}
+
+void mesurer_ecarts(const Etat& etat, Analyse& a) {
+    a.ecarts.clear();
+    const auto mesurer = [&a](int i, int j, const Parcours& p, const Parcours& q) {
+        const Rencontre vue = rencontre(p, q);
+        if (std::isfinite(vue.ecart))
+            a.ecarts.push_back({i, j, vue.ecart, a.match.temps(vue.tick_ecart)});
+    };
+    pour_chaque_paire(parcours_de_tous(etat, a.match), mesurer);
 }
 
 void constater_terrain(const Enquete& q, const Releve& releve) {

@@ -15,7 +15,6 @@ struct Releve {
     };
     Tableau<std::optional<SortieDeTable>, robots_max> sorties;
     std::vector<Contact> robots, blocs; ///< in the order of robot, then autre
-    std::vector<EcartDeRobots> ecarts;  ///< every pair that has outlines
 };
 
 /// The blocks of the table, filled, in the file's order.

@@ -76,9 +76,11 @@ int verifier_match(const ChoixDeLigne& choix, bool json) {
     Analyse a = analyser(*etat, provenance_de(projet));
     a.constats.insert(a.constats.end(), constats.begin(), constats.end());
     ranger(a.constats);
-    if (json)
+    if (json) {
         std::cout << en_json(a) << std::flush;
-    else
+    } else {
+        mesurer_ecarts(*etat, a);
         montrer(a);
+    }
     return a.constats.empty() ? 0 : 1;
 }

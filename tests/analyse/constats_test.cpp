@@ -196,7 +196,8 @@ TEST(Analyser, l_ecart_le_plus_petit_de_chaque_paire_a_son_instant) {
     b.ajouter(2, actions::AVANCE, 25); // loaded at 103, over at 128: 15 cm above robot 1
     b.ajouter(2, actions::GAUCHE, 180);
     b.ajouter(2, actions::AVANCE, 60);
-    const Analyse a = b.analyser();
+    Analyse a = b.analyser();
+    mesurer_ecarts(b.e, a);
     ASSERT_EQ(a.ecarts.size(), 3U);
     EXPECT_NEAR(a.ecarts[0].ecart, 15 - 5 * (std::sqrt(2.0) - 1), 0.02) << "its corner, turning";
     const int tourne = a.ecarts[0].temps - 129; // one corner at 45 degrees, the next one at 135
