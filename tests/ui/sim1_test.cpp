@@ -73,9 +73,9 @@ TEST_F(Demarrage, une_table_impossible_a_dessiner_finit_le_programme) {
     EXPECT_EQ(fins, std::vector{3});
 }
 
-using Course = Banc;
+using CourseDeSim1 = Banc;
 
-TEST_F(Course, le_bouton_lance_puis_arrete_et_fige_les_options) {
+TEST_F(CourseDeSim1, le_bouton_lance_puis_arrete_et_fige_les_options) {
     demarrer();
     const auto etats = [this] {
         std::string s;
@@ -108,14 +108,14 @@ TEST_F(Course, le_bouton_lance_puis_arrete_et_fige_les_options) {
     EXPECT_FALSE(Timer.isActive());
 }
 
-TEST_F(Course, le_pas_allege_espace_les_ticks) {
+TEST_F(CourseDeSim1, le_pas_allege_espace_les_ticks) {
     demarrer();
     cocher("Check2", true);
     cliquer("Command1");
     EXPECT_EQ(sim->findChild<QTimer*>("Timer")->interval(), 50);
 }
 
-TEST_F(Course, toute_boite_ouverte_retient_l_horloge) {
+TEST_F(CourseDeSim1, toute_boite_ouverte_retient_l_horloge) {
     demarrer();
     cliquer("Command1");
     QDialog d_un_editeur;
@@ -154,7 +154,7 @@ TEST_F(Course, toute_boite_ouverte_retient_l_horloge) {
     }
 }
 
-TEST_F(Course, ce_que_le_systeme_retarde_est_rattrape_avec_peu_de_peintures) {
+TEST_F(CourseDeSim1, ce_que_le_systeme_retarde_est_rattrape_avec_peu_de_peintures) {
     struct Peintures : QObject {
         int nombre = 0;
         bool eventFilter(QObject*, QEvent* evenement) override {
@@ -182,7 +182,7 @@ TEST_F(Course, ce_que_le_systeme_retarde_est_rattrape_avec_peu_de_peintures) {
     EXPECT_LE(10 * e().TempsEcoule, montre.elapsed() + 20) << "never ahead";
 }
 
-TEST_F(Course, une_panne_dans_un_tick_finit_le_programme_une_seule_fois) {
+TEST_F(CourseDeSim1, une_panne_dans_un_tick_finit_le_programme_une_seule_fois) {
     demarrer();
     cliquer("Command1");
     e().NumAction(1) = 1000; // the next action would lie beyond the table
