@@ -34,10 +34,11 @@ std::vector<int> Document::incomprises() const {
     return numeros;
 }
 
-void Document::lire(std::string_view octets, const Analyse& analyse) {
+void Document::lire(std::string_view octets, const Analyse& analyse,
+                    bool (*compte)(std::string_view)) {
     encodage_ = encodage_de(octets);
     const std::string texte = en_utf8(std::string(octets));
-    if (encodage_ == Encodage::utf8 && octets.starts_with(marque_utf8)) {
+    if (octets.starts_with(marque_utf8)) { // every reader drops it, whatever follows
         prefixe_ = marque_utf8;
         octets.remove_prefix(marque_utf8.size());
     }
@@ -51,7 +52,7 @@ void Document::lire(std::string_view octets, const Analyse& analyse) {
         Entree e;
         e.octets = *ligne;
         const std::string_view utile = sans_commentaire(lisibles.suivante().value_or(""));
-        e.compte = contient_capitale_ou_chiffre(utile);
+        e.compte = compte(utile);
         if (e.compte)
             e.objet = e.lu = analyse(utile);
         entrees_.push_back(std::move(e));
@@ -82,15 +83,46 @@ std::size_t Document::ajouter(Fiche e, const std::vector<std::string_view>& cles
     for (const std::size_t rang : rangs_)
         if (est_dans(entrees_[rang].objet->cle, cles))
             r = rang + 1;
+    Entree nouvelle;
+    nouvelle.objet = std::move(e);
+    inserer_entree(r, std::move(nouvelle));
+    return static_cast<std::size_t>(std::find(rangs_.begin(), rangs_.end(), r) - rangs_.begin());
+}
+
+void Document::inserer_entree(std::size_t r, Entree nouvelle) {
     if (r > 0 && entrees_[r - 1].fin.empty())
         entrees_[r - 1].fin = fin_usuelle_;
-    Entree nouvelle;
     nouvelle.fin = fin_usuelle_;
-    nouvelle.objet = std::move(e);
     nouvelle.compte = true;
     entrees_.insert(entrees_.begin() + static_cast<std::ptrdiff_t>(r), std::move(nouvelle));
     renumeroter();
-    return static_cast<std::size_t>(std::find(rangs_.begin(), rangs_.end(), r) - rangs_.begin());
+}
+
+std::size_t Document::rang_pour(std::size_t i) const {
+    if (i < rangs_.size())
+        return rangs_[i];
+    return rangs_.empty() ? entrees_.size() : rangs_.back() + 1;
+}
+
+void Document::inserer(std::size_t i, Fiche e) {
+    Entree nouvelle;
+    nouvelle.objet = std::move(e);
+    inserer_entree(rang_pour(i), std::move(nouvelle));
+}
+
+void Document::deplacer_vers(std::size_t i, std::size_t vers) {
+    const auto depart = entrees_.begin() + static_cast<std::ptrdiff_t>(rangs_[i]);
+    const auto arrivee = entrees_.begin() + static_cast<std::ptrdiff_t>(rangs_[vers]);
+    const bool derniere_sans_fin = entrees_.back().fin.empty();
+    if (derniere_sans_fin)
+        entrees_.back().fin = fin_usuelle_;
+    if (i < vers)
+        std::rotate(depart, depart + 1, arrivee + 1);
+    else
+        std::rotate(arrivee, depart, depart + 1);
+    if (derniere_sans_fin)
+        entrees_.back().fin.clear();
+    renumeroter();
 }
 
 void Document::echanger(std::size_t i, std::size_t j) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/erreurs.h"
 #include "base/texte.h"
 
 #include <array>
@@ -23,6 +24,24 @@ struct Fiche {
 /// Every number fits in 16 bits.
 bool en_16_bits(const Fiche& f);
 
+/// What a file's reader would say of its text: the line that stops it and why.
+struct RefusLecture {
+    int ligne;
+    std::string raison;
+};
+
+/// A line of a file or of a text pasted into one that cannot be taken. what() is "Ligne 3 : " and
+/// the reason.
+class LigneRefusee : public ErreurExecution {
+public:
+    LigneRefusee(int ligne, const std::string& raison)
+        : ErreurExecution("Ligne " + std::to_string(ligne) + " : " + raison), ligne_(ligne) {}
+    int ligne() const { return ligne_; }
+
+private:
+    int ligne_;
+};
+
 /// A configuration file under edit: its records in order, and every other line (comments, blank
 /// lines, lines that are not understood) in its place. A line whose record is not changed keeps its
 /// bytes. A value: an earlier state is a copy of it.
@@ -42,6 +61,11 @@ public:
     /// Puts a record on a line of its own behind the last one with one of these keys, else at the
     /// end. @returns its index
     std::size_t ajouter(Fiche e, const std::vector<std::string_view>& cles);
+    /// Puts a record on a line of its own: record i from then on. The one past the last goes behind
+    /// the last one's line.
+    void inserer(std::size_t i, Fiche e);
+    /// Takes a record with its line to where it is record `vers`.
+    void deplacer_vers(std::size_t i, std::size_t vers);
     /// Swaps two records with their lines.
     void echanger(std::size_t i, std::size_t j);
 
@@ -61,11 +85,17 @@ protected:
     /// The record of one line (UTF-8, without its comment); none when it holds no proper one.
     using Analyse = std::function<std::optional<Fiche>(std::string_view)>;
 
-    void lire(std::string_view octets, const Analyse& analyse);
+    /// @param compte  tells whether a reader looks at a line
+    void lire(std::string_view octets, const Analyse& analyse,
+              bool (*compte)(std::string_view) = contient_capitale_ou_chiffre);
     /// Takes back what figer() gave. @throws ErreurExecution for other bytes, or when a record is
     /// not `possible`
     void relever(std::string_view fige, const std::function<bool(const Fiche&)>& possible);
     void renumeroter();
+    /// The line in front of which a new record i goes.
+    std::size_t rang_pour(std::size_t i) const;
+    /// Puts a line that counts, with the file's usual end, in front of line r (from 0).
+    void inserer_entree(std::size_t r, Entree nouvelle);
     /// The comment at the end of a line, with a blank before it; "" without one.
     static std::string commentaire(const Entree& e);
     /// The line of a changed record: key, numbers, and the comment that it had.

@@ -3,12 +3,6 @@
 #include "config/document.h"
 #include "sim/etat.h"
 
-/// What a file's reader would say of its text: the line that stops it and why.
-struct RefusLecture {
-    int ligne;
-    std::string raison;
-};
-
 /// A kind of the table's records: what shares a capacity.
 struct SorteTable {
     std::string_view nom;               ///< plural, for the user: "zones"

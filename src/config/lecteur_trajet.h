@@ -24,7 +24,6 @@ public:
 
 private:
     void lire_ligne(std::string_view ligne, Entier16 n);
-    void lire_pose(Champs& champs, Entier16 n);
     void ajouter(const Nom10& action, Entier16 n);
 
     Etat& e;

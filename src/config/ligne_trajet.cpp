@@ -1,0 +1,70 @@
+#include "config/ligne_trajet.h"
+
+#include "config/ligne.h"
+#include "sim/actions.h"
+
+#include <algorithm>
+
+namespace {
+
+struct Action {
+    Nom10 code;
+    int parametres;
+};
+constexpr std::array<Action, 13> connues{{{actions::AVANCE, 1},
+                                          {actions::VIRAVDR, 2},
+                                          {actions::VIRAVGA, 2},
+                                          {actions::PAUSE, 1},
+                                          {actions::RECULE, 1},
+                                          {actions::DROITE, 1},
+                                          {actions::GAUCHE, 1},
+                                          {actions::VIRARDR, 2},
+                                          {actions::VIRARGA, 2},
+                                          {actions::INIT, 3},
+                                          {actions::FIN, 0},
+                                          {actions::BALISE_DRO, 0},
+                                          {actions::BALISE_GAU, 0}}};
+
+} // namespace
+
+// Unlike in the other files, the line is upper-cased as a whole first: any ASCII letter counts.
+bool compte_dans_un_trajet(std::string_view ligne) {
+    return std::any_of(ligne.begin(), ligne.end(), [](char c) {
+        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
+    });
+}
+
+// Not trimmed. All known codes are ASCII, so bytes will do.
+Nom10 code_de_trajet(std::string_view ligne) {
+    const std::string_view texte = ligne.substr(0, ligne.find(','));
+    std::array<char, 10> octets{};
+    const std::size_t n = std::min(texte.size(), octets.size());
+    std::transform(texte.begin(), texte.begin() + static_cast<std::ptrdiff_t>(n), octets.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
+    return std::string_view(octets.data(), n);
+}
+
+std::optional<int> parametres_de_trajet(const Nom10& code) {
+    for (const Action& action : connues) {
+        if (action.code == code)
+            return action.parametres;
+    }
+    return std::nullopt;
+}
+
+LigneTrajet lire_ligne_trajet(std::string_view ligne) {
+    LigneTrajet lue;
+    lue.code = code_de_trajet(ligne);
+    const auto parametres = parametres_de_trajet(lue.code);
+    if (!parametres)
+        refuser_cle(lue.code.vue());
+    lue.parametres = *parametres;
+    // A line without a comma is its own code and its own first field.
+    const std::size_t virgule = ligne.find(',');
+    Champs champs(ligne.substr(virgule == std::string_view::npos ? 0 : virgule + 1));
+    for (int i = 0; i < lue.parametres; ++i) {
+        const bool dernier = i + 1 == lue.parametres;
+        lue.v[static_cast<std::size_t>(i)] = dernier ? champs.dernier_entier() : champs.entier();
+    }
+    return lue;
+}
