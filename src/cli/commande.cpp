@@ -2,7 +2,10 @@
 
 #include "base/texte.h"
 #include "base/visible.h"
+#include "config/ligne.h"
+#include "config/ligne_trajet.h"
 #include "record/actions_console.h"
+#include "record/appuis.h"
 #include "record/champs.h"
 
 #include <vector>
@@ -54,9 +57,46 @@ const ActionConsole* reconnaitre(const std::vector<std::string_view>& mots, std:
     return action_de_nom(nom);
 }
 
+Commande commande_de(const Fiche& fiche) {
+    Commande commande;
+    const auto nombre = [&](std::size_t i) { return std::string(texte_entier(fiche.entier(i))); };
+    commande.fin = fiche.cle == "FIN";
+    if (fiche.cle == "INIT")
+        commande.depart = ChampsPose{nombre(0), nombre(1), nombre(2)};
+    if (const auto appui = appui_de(fiche)) {
+        commande.legende = appui->legende;
+        commande.Text1 = appui->Text1;
+        commande.Text4 = appui->Text4;
+    }
+    return commande;
+}
+
+bool contient_chiffre(std::string_view texte) {
+    return texte.find_first_of("0123456789") != std::string_view::npos;
+}
+
+// A line of a trajectory file, the recorder's own included. A beacon with numbers is none: that is
+// a command with a value too many.
+std::optional<Commande> lire_ligne_de_fichier(std::string_view ligne) {
+    const std::string_view utile = rogner(sans_commentaire(ligne.substr(0, ligne.find('\r'))));
+    if (utile.find(',') == std::string_view::npos) {
+        const auto fiche = DocumentTrajet::fiche_de(utile);
+        const bool sans_nombre = fiche && !contient_chiffre(utile);
+        return sans_nombre ? std::optional(commande_de(*fiche)) : std::nullopt;
+    }
+    if (!parametres_de_trajet(code_de_trajet(utile)))
+        return std::nullopt;
+    lire_ligne_trajet(utile); // says what is wrong with its numbers
+    return commande_de(*DocumentTrajet::fiche_de(utile));
+}
+
 } // namespace
 
 std::optional<Commande> lire_commande(std::string_view ligne) {
+    if (!compte_dans_un_trajet(sans_commentaire(ligne)))
+        return std::nullopt; // "-----", or the byte-order mark in front of a comment
+    if (auto commande = lire_ligne_de_fichier(ligne))
+        return commande;
     const std::vector<std::string_view> mots = mots_de(ligne.substr(0, ligne.find('#')));
     if (mots.empty())
         return std::nullopt;

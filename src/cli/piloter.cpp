@@ -2,6 +2,7 @@
 
 #include "cli/choix.h"
 #include "cli/commande.h"
+#include "cli/fenetres_pilotees.h"
 #include "cli/flux.h"
 #include "cli/sortie.h"
 #include "record/console.h"
@@ -29,12 +30,11 @@ public:
 };
 
 // The outlet of the console: its questions go to whoever sits at the terminal, or have one answer.
-class FenetresPiloter final : public FenetresTerminal {
+class FenetresPiloter final : public FenetresPilotees {
 public:
     FenetresPiloter(Etat& etat, std::string reponse)
-        : FenetresTerminal(etat, std::cerr), reponse_(std::move(reponse)) {}
+        : FenetresPilotees(etat, std::cerr), reponse_(std::move(reponse)) {}
 
-    void suivre(Console& console) { console_ = &console; }
     bool interactif() const { return ::isatty(STDIN_FILENO) != 0; }
 
     bool question(std::string_view texte, std::string_view explication = {}) override {
@@ -50,19 +50,9 @@ public:
             throw SansReponse();
         return minuscules(rogner(*reponse)).starts_with('o');
     }
-    void Active_Desactive(bool Status) override {
-        if (Status && console_ != nullptr)
-            console_->action_finie();
-    }
-    void montrer_course(bool en_cours) override {
-        FenetresTerminal::montrer_course(en_cours);
-        if (!en_cours && console_ != nullptr)
-            console_->action_finie();
-    }
 
 private:
     std::string reponse_;
-    Console* console_ = nullptr;
 };
 
 // "X,Y,CAP" as the three fields.
@@ -176,6 +166,13 @@ private:
         const auto commande = lire_commande(ligne);
         if (!commande)
             return;
+        if (fini_)
+            throw ErreurExecution("rien ne peut suivre « FIN »");
+        fini_ = commande->fin;
+        if (commande->depart)
+            return repartir(*commande->depart, numero);
+        if (commande->fin)
+            return;
         try {
             console_.Command4_Click(commande->legende, commande->Text1, commande->Text4);
         } catch (const ErreurExecution& erreur) {
@@ -187,6 +184,20 @@ private:
             fenetres_.message("Ligne " + std::to_string(numero) +
                               " : le match de 90 s est fini, la prochaine action repart de la "
                               "position initiale et recommence le trajet");
+    }
+
+    // A trajectory file begins with its start pose; --position comes before it.
+    void repartir(const ChampsPose& depart, int numero) {
+        if (!console_.etapes().empty())
+            throw ErreurExecution("la position initiale se donne avant la première action");
+        if (!options_.position.empty()) {
+            ecrire_ligne(std::cerr, "Ligne " + std::to_string(numero) +
+                                        " : --position remplace cette position");
+            return;
+        }
+        console_.Command9_Click({});
+        console_.Command9_Click(depart);
+        laisser_tourner();
     }
 
     std::string pose() const {
@@ -221,6 +232,7 @@ private:
     // A recording left by the window is its business: neither taken up nor replaced here.
     bool tient_la_reprise_;
     Console console_;
+    bool fini_ = false; ///< "FIN" was read
 };
 
 } // namespace
@@ -230,6 +242,7 @@ void declarer_piloter(CLI::App& app, int& code_de_sortie) {
     CLI::App* verbe =
         app.add_subcommand("piloter", "Pilote un robot action par action et enregistre son trajet");
     verbe->footer("Commandes, une par ligne sur l'entrée standard :\n" + aide_des_commandes() +
+                  "ou les lignes d'un fichier Trajet : « Avance,50 », « Init,100,30,0 », « FIN ».\n"
                   "« # » commence un commentaire.");
     ajouter_dossier(*verbe, options->choix);
     verbe->add_option("--robot", options->robot, "Numéro du robot")

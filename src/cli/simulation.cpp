@@ -31,6 +31,8 @@ Simulation::Simulation(Etat& etat, FenetresTerminal& fenetres, const ChoixDeLign
 void Simulation::demarrer(const ChoixDeLigne& choix) {
     if (choix.projet)
         projet_.imposer_projet(*choix.projet);
+    if (choix.avant_lecture)
+        choix.avant_lecture(projet_);
     projet_.Installe();
     projet_.LoadGeneral();
     projet_.LoadTable();

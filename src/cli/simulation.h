@@ -6,6 +6,7 @@
 #include "sim/moteur.h"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -17,6 +18,8 @@ struct ChoixDeLigne {
     std::optional<int> robots; ///< 1..9
     bool allege = false;
     bool horizontale = false;
+    /// Called before the first file is read.
+    std::function<void(Projet&)> avant_lecture{};
 };
 
 /// Applies the settings read into `Options`, or what stands in their place, as the start-up does:
@@ -53,6 +56,7 @@ public:
     Etat& etat() { return e; }
     Moteur& moteur() { return moteur_; }
     Projet& projet() { return projet_; }
+    const Projet& projet() const { return projet_; }
     Image image() const { return image_; }
 
 private:

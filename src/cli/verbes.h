@@ -13,6 +13,14 @@ void declarer_dessiner(CLI::App& app, int& code_de_sortie);
 /// else as for the other verbs.
 void declarer_piloter(CLI::App& app, int& code_de_sortie);
 
+/// Writes the generation input that driving a robot's trajectory on the console would have
+/// recorded; exit code 0 when it was written.
+void declarer_preparer(CLI::App& app, int& code_de_sortie);
+
+/// Mirrors a robot's trajectory or turns it by half a turn, in its own file or another robot's;
+/// exit code 0 when it was written.
+void declarer_miroir(CLI::App& app, int& code_de_sortie);
+
 /// Generates a subroutine into a target as the generation window does; exit code 0 when the target
 /// was written, 1 when a check refuses it.
 void declarer_generer(CLI::App& app, int& code_de_sortie);

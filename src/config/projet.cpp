@@ -83,6 +83,11 @@ void Projet::imposer_projet(std::string nom) {
     projet_impose_ = std::move(nom);
 }
 
+void Projet::lire_trajet_autrement(int n, std::function<std::string(std::string_view)> texte) {
+    autre_trajet_ = n;
+    autre_texte_ = std::move(texte);
+}
+
 void Projet::Installe() {
     std::error_code ignoree;
     // Deliberate: created where the process stands, while the files go below the application
@@ -167,9 +172,11 @@ void Projet::LoadTrajet() {
     LecteurTrajet lecteur(e);
     Entier16 NoLigne; // deliberately counts over all nine files
     for (int n = 1; n <= robots_des_fichiers; ++n) {
-        if (!lire(
-                e.NomProjet + suite_trajet(n), NoLigne,
-                [&](std::string_view texte) { lecteur.lire(texte, n, NoLigne); }, n)) {
+        const auto lire_le_texte = [&](std::string_view texte) {
+            const bool autre = n == autre_trajet_;
+            lecteur.lire(autre ? autre_texte_(texte) : texte, n, NoLigne);
+        };
+        if (!lire(e.NomProjet + suite_trajet(n), NoLigne, lire_le_texte, n)) {
             lignes_trajet_.remplir({});
             return Init_Jeu_Old(e);
         }

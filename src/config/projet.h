@@ -4,6 +4,7 @@
 #include "sim/fenetres.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -61,6 +62,8 @@ public:
 
     /// From now on `nom` takes the place of the project name that LoadGeneral reads.
     void imposer_projet(std::string nom);
+    /// From now on LoadTrajet takes robot n's trajectory from what `texte` makes of its file's.
+    void lire_trajet_autrement(int n, std::function<std::string(std::string_view)> texte);
     /// Reads every file of the project as the start-up does, into the Etat, but installs and writes
     /// nothing. What is wrong comes out as messages.
     void verifier();
@@ -81,6 +84,8 @@ private:
     std::filesystem::path dossier_;
     std::string configuration_; ///< the directory Configuration, with a separator behind
     std::optional<std::string> projet_impose_;
+    int autre_trajet_ = 0; ///< robot whose file is read otherwise
+    std::function<std::string(std::string_view)> autre_texte_;
     bool installation_ = true; ///< LoadGeneral may create files
     std::vector<ErreurDeLecture> erreurs_;
     Tableau<std::vector<int>, robots_max> lignes_trajet_;

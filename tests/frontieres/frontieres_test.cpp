@@ -17,12 +17,13 @@ const std::map<std::string, Dossiers> permis{
     {"base", {}},
     {"sim", {"base"}},
     {"config", {"base", "sim"}},
+    {"edition", {"base", "sim", "config"}},
     {"draw", {"base", "sim"}},
     {"record", {"base", "sim", "config"}},
     {"codegen", {"base", "config"}},
     {"analyse", {"base", "sim", "config", "draw", "codegen"}},
-    {"cli", {"base", "sim", "config", "draw", "record", "codegen", "analyse"}},
-    {"ui", {"base", "sim", "config", "draw", "record", "codegen", "analyse"}},
+    {"cli", {"base", "sim", "config", "edition", "draw", "record", "codegen", "analyse"}},
+    {"ui", {"base", "sim", "config", "edition", "draw", "record", "codegen", "analyse"}},
 };
 
 /// The faults of one file's #include lines, a line each; empty when there is none.

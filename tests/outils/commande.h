@@ -1,9 +1,12 @@
 #pragma once
 
 #include "cli/ligne_de_commande.h"
+#include "outils/dossier_temporaire.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <iostream>
 #include <string>
 #include <vector>
 
@@ -24,4 +27,13 @@ inline Resultat lancer(std::vector<std::string> arguments) {
     testing::internal::CaptureStderr();
     const int code = executer_ligne_de_commande(static_cast<int>(argv.size()), argv.data());
     return {code, testing::internal::GetCapturedStdout(), testing::internal::GetCapturedStderr()};
+}
+
+/// The same with a text on standard input; `d` keeps it meanwhile.
+inline Resultat lancer_avec_entree(const DossierTemporaire& d, std::vector<std::string> arguments,
+                                   std::string_view entree) {
+    const std::filesystem::path fichier = d.ecrire("entree.txt", entree);
+    EXPECT_NE(std::freopen(fichier.c_str(), "r", stdin), nullptr);
+    std::cin.clear();
+    return lancer(std::move(arguments));
 }

@@ -1,0 +1,192 @@
+#include "outils/commande.h"
+#include "outils/dossier_temporaire.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <random>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* generation = "Configuration/Defaut PourGenerer10.ini";
+
+std::string trajet(int robot) {
+    return "Configuration/Defaut Trajet" + std::to_string(robot) + ".ini";
+}
+
+Resultat piloter(const DossierTemporaire& d, std::vector<std::string> options,
+                 std::string_view commandes) {
+    options.insert(options.begin(), {"piloter", "--dossier", d.chemin(), "--sauver", "oui"});
+    return lancer_avec_entree(d, std::move(options), commandes);
+}
+
+Resultat preparer(const DossierTemporaire& d, std::vector<std::string> options) {
+    options.insert(options.begin(), {"preparer", "--dossier", d.chemin()});
+    return lancer(std::move(options));
+}
+
+/// Actions that mostly end before the match does.
+std::string actions_au_hasard(std::mt19937& hasard, bool balises) {
+    const auto n = [&](std::uint_fast32_t limite) { return std::to_string(hasard() % limite); };
+    std::string texte;
+    for (auto k = hasard() % 25 + 1; k > 0; --k) {
+        const char* const arcs[] = {"VirAvDr ", "VirAvGa ", "VirArDr ", "VirArGa "};
+        const auto sorte = hasard() % 8;
+        if (sorte < 2)
+            texte += (sorte == 0 ? "Avance " : "Recule ") + n(90);
+        else if (sorte < 4)
+            texte += (sorte == 2 ? "Droite " : "Gauche ") + n(200);
+        else if (sorte < 6)
+            texte += arcs[hasard() % 4] + n(120) + " " + n(40);
+        else if (sorte == 7 && balises)
+            texte += hasard() % 2 == 0 ? "Balise Droite" : "Balise Gauche";
+        else
+            texte += "Pause " + n(256);
+        texte += "\n";
+    }
+    return texte;
+}
+
+// Whatever "piloter" has just saved, beacons in the recorder's own short spelling included: the
+// trajectory is enough to write the very bytes of its generation input again.
+TEST(Preparer, apres_piloter_les_memes_octets_que_piloter) {
+    std::mt19937 hasard(20);
+    for (int essai = 0; essai < 24; ++essai) {
+        const DossierTemporaire d;
+        const int robot = essai % 3 == 2 ? 2 : 1;
+        d.ecrire("Configuration/Tavolmex.ini", "NbRobot, " + std::to_string(essai % 4 + 1) +
+                                                   "\nHorizontale, " +
+                                                   std::to_string(essai / 2 % 2) + "\n");
+        d.ecrire("Configuration/Defaut Table.ini",
+                 "U,0,0,210,300\nX,190,250,3\nY,20,30,3\n"); // the beacons of most searches
+        std::vector<std::string> options = {"--robot", std::to_string(robot)};
+        if (essai % 2 == 0)
+            options.emplace_back("--damier");
+        std::vector<std::string> depart = options;
+        depart.insert(depart.end(), {"--position", std::to_string(hasard() % 200) + "," +
+                                                       std::to_string(hasard() % 300) + "," +
+                                                       std::to_string(hasard() % 720)});
+        const Resultat pilote = piloter(d, depart, actions_au_hasard(hasard, essai % 5 == 0));
+        const std::string attendu = d.lire(generation);
+        ASSERT_FALSE(attendu.empty()) << pilote.erreurs;
+        // A match that ended begins the trajectory anew; the generation input keeps it all.
+        if (pilote.erreurs.find("90 s est fini") != std::string::npos)
+            continue;
+        fs::remove(d / generation);
+        const Resultat r = preparer(d, options);
+        EXPECT_EQ(r.code, 0) << r.erreurs;
+        EXPECT_EQ(d.lire(generation), attendu) << essai << r.erreurs << d.lire(trajet(robot));
+    }
+}
+
+// What is written by hand drives like the same commands, and the file itself is what "piloter"
+// reads.
+TEST(Preparer, un_fichier_ecrit_a_la_main_se_pilote_aussi) {
+    const std::string fichier = "# à la main\r\n-----\r\n"
+                                "init, 60 ,40, 90 # départ\r\n"
+                                "avance , 80\r\n"
+                                "VirAvDr,90,10 # 3e virage\r\n"
+                                "Balise droite en bas\r\n"
+                                "DROITE    ,90\r\n"
+                                "Pause, 40 \r\n"
+                                "Fin\r\n";
+    for (const char* damier : {"", "--damier"}) {
+        std::vector<std::string> options = {"--robot", "1"};
+        if (*damier != 0)
+            options.emplace_back(damier);
+        const DossierTemporaire d;
+        d.ecrire("Configuration/Defaut Table.ini", "U,0,0,210,300\nY,190,30,3\n");
+        const DossierTemporaire pilote;
+        fs::copy(d / "Configuration", pilote / "Configuration");
+        d.ecrire(trajet(1), fichier);
+        const Resultat r = preparer(d, options);
+        EXPECT_EQ(r.code, 0) << r.erreurs;
+        EXPECT_EQ(piloter(pilote, options, fichier).code, 0);
+        EXPECT_EQ(d.lire(generation), pilote.lire(generation));
+        EXPECT_NE(d.lire(generation).find("AVANCE:80\r\n"), std::string::npos);
+        EXPECT_EQ(d.lire(generation).find("CARREAUX:") != std::string::npos, *damier != 0);
+        EXPECT_NE(pilote.lire(trajet(1)).find("Init,60,40,90\r\nAVANCE    ,80\r\n"
+                                              "VIRAVDR   ,90,10\r\nBALISE DRO\r\n"),
+                  std::string::npos);
+    }
+}
+
+TEST(Preparer, un_refus_nomme_fichier_et_ligne_et_n_ecrit_rien) {
+    const std::pair<const char*, const char*> cas[] = {
+        {"Init,1,2,3\nAvance,256\n", "Ligne 2 : champ « Distance, durée ou rayon » : « 256 »"},
+        {"Pause,5\nVirAvDr,90,-1\n", "Ligne 2 : champ « Distance, durée ou rayon » : « -1 »"},
+        {"Pause,5\nDroite,360\n", "Ligne 2 : champ « Angle » : « 360 »"},
+        {"Init,1,2,3\n\nTourne,5\n", "Ligne 3 : enregistrement inconnu : TOURNE"},
+        {"Avance\n", "Ligne 1 : "},
+        {"FIN\nAvance,5\n", "Ligne 2 : cette action suit « FIN »"},
+    };
+    for (const auto& [contenu, message] : cas) {
+        const DossierTemporaire d;
+        d.ecrire(trajet(1), contenu);
+        d.ecrire(generation, "l'ancienne");
+        const Resultat r = preparer(d, {"--robot", "1", "--damier"});
+        EXPECT_EQ(r.code, 1);
+        EXPECT_NE(r.erreurs.find("Defaut Trajet1.ini " + std::string(message)), std::string::npos)
+            << r.erreurs;
+        EXPECT_EQ(d.lire(generation), "l'ancienne");
+        EXPECT_FALSE(fs::exists(d / "Configuration/Sauvegardes"));
+    }
+    const DossierTemporaire d;
+    // The table holds 1001 rows: with tile counts, less than 501 actions.
+    std::string long_trajet;
+    for (int k = 0; k < 501; ++k)
+        long_trajet += "Droite,0\n";
+    d.ecrire(trajet(1), long_trajet);
+    EXPECT_EQ(preparer(d, {"--robot", "1"}).code, 0);
+    EXPECT_EQ(d.lire(generation).find("CARREAUX"), std::string::npos);
+    const std::string avant = d.lire(generation);
+    const Resultat r = preparer(d, {"--robot", "1", "--damier"});
+    EXPECT_EQ(r.code, 1);
+    EXPECT_NE(r.erreurs.find("Ligne 501 : le tableau à générer est plein"), std::string::npos)
+        << r.erreurs;
+    EXPECT_EQ(d.lire(generation), avant);
+    EXPECT_EQ(preparer(d, {}).code, 2);
+    EXPECT_EQ(preparer(d, {"--robot", "0"}).code, 2);
+}
+
+TEST(Preparer, les_balises_courtes_sont_dites_et_l_ancienne_version_gardee) {
+    const DossierTemporaire d;
+    d.ecrire(trajet(1), "Init,50,60,90\nAvance,5\nBD        \n");
+    d.ecrire("Configuration/Defaut Table.ini", "U,0,0,210,300\nY,190,30,3\n");
+    d.ecrire(generation, "l'ancienne");
+    const Resultat r = preparer(d, {"--robot", "1"});
+    EXPECT_EQ(r.code, 0);
+    EXPECT_NE(r.erreurs.find("Defaut Trajet1.ini Ligne 3 : « BD » n'est pas lu par le simulateur"),
+              std::string::npos);
+    EXPECT_TRUE(d.lire(generation).ends_with("AVANCE:5\r\nBALDROITE\r\n"));
+    const auto copie = fs::directory_iterator(d / "Configuration/Sauvegardes")->path();
+    EXPECT_EQ(d.lire("Configuration/Sauvegardes/" + copie.filename().string()), "l'ancienne");
+}
+
+TEST(Piloter, apres_fin_ou_une_action_certaines_lignes_n_ont_plus_de_place) {
+    const std::tuple<const char*, const char*, const char*> cas[] = {
+        {"Avance,5\nFIN\nRecule 3\n", "Ligne 3 : rien ne peut suivre « FIN »",
+         "AVANCE    ,5\r\nFIN"},
+        {"Avance 5\nInit,1,2,3\n", "Ligne 2 : la position initiale se donne avant",
+         "AVANCE    ,5\r\nFIN"},
+        {"Avance,5\nAvance,x\n", "Ligne 2 : « x » n'est pas un nombre entier",
+         "AVANCE    ,5\r\nFIN"},
+        {"BD\nBalise gauche,2\nVirAvDr,90\n", "Ligne 3 : il manque une virgule : 90", "BALISE GAU"},
+    };
+    for (const auto& [commandes, message, ecrit] : cas) {
+        const DossierTemporaire d;
+        d.ecrire("Configuration/Defaut Table.ini", "U,0,0,210,300\nY,190,30,3\nX,20,250,3\n");
+        const Resultat r = piloter(d, {"--robot", "1"}, commandes);
+        EXPECT_EQ(r.code, 2);
+        EXPECT_NE(r.erreurs.find(message), std::string::npos) << r.erreurs;
+        EXPECT_NE(d.lire(trajet(1)).find(ecrit), std::string::npos) << d.lire(trajet(1));
+    }
+    const DossierTemporaire d; // --position comes before the file's
+    const Resultat r = piloter(d, {"--position", "7,8,9"}, "Init,1,2,3\nAvance,5\n");
+    EXPECT_NE(r.erreurs.find("Ligne 1 : --position remplace cette position"), std::string::npos);
+    EXPECT_NE(d.lire(trajet(1)).find("Init,7,8,9"), std::string::npos);
+}
+
+} // namespace
