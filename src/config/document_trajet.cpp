@@ -122,7 +122,7 @@ std::string DocumentTrajet::texte_de(std::size_t i) const {
 std::string DocumentTrajet::style_et_texte(std::size_t i, const Fiche& fiche) const {
     std::optional<StyleTrajet> autre;
     const auto essayer = [&](std::size_t k) -> std::optional<StyleTrajet> {
-        const auto style = StyleTrajet::de(texte_de(k), (*this)[k]);
+        auto style = StyleTrajet::de(texte_de(k), (*this)[k]);
         if (style && est_action((*this)[k]) == est_action(fiche))
             return style;
         if (style && !autre)
