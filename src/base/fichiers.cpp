@@ -1,5 +1,6 @@
 #include "base/fichiers.h"
 
+#include "base/brouillon.h"
 #include "base/texte.h"
 
 #include <fcntl.h>
@@ -168,16 +169,19 @@ std::string lire_debut(const fs::path& chemin, std::size_t maximum) {
 void remplacer_fichier(const fs::path& chemin, std::string_view octets) {
     const fs::path cible = cible_reelle(chemin);
     refuser_si_intouchable(chemin, cible);
-    std::string modele = (cible.parent_path() / ".tavolmex-XXXXXX").string();
-    Descripteur d(::mkstemp(modele.data()));
+    retirer_brouillons(cible.parent_path());
+    std::string brouillon;
+    Descripteur d(creer_brouillon(cible.parent_path(), brouillon));
     if (!d.ouvert())
         throw ErreurFichier(chemin, errno);
+    // Keeps the draft locked, and so from being removed, between the closing and the renaming.
+    const Descripteur verrou(::fcntl(d.numero(), F_DUPFD_CLOEXEC, 0));
     const bool ecrit =
         ecrire_tout(d.numero(), octets) && ::fchmod(d.numero(), droits_voulus(cible)) == 0 &&
-        ::fsync(d.numero()) == 0 && d.fermer() && ::rename(modele.c_str(), cible.c_str()) == 0;
+        ::fsync(d.numero()) == 0 && d.fermer() && ::rename(brouillon.c_str(), cible.c_str()) == 0;
     if (!ecrit) {
         const int erreur = errno;
-        ::unlink(modele.c_str());
+        ::unlink(brouillon.c_str());
         throw ErreurFichier(chemin, erreur);
     }
     vider_dossier_sur_disque(cible.parent_path());

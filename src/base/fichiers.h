@@ -20,8 +20,9 @@ std::string lire_octets_natif(const char* chemin, std::size_t maximum = taille_m
 std::string lire_debut(const std::filesystem::path& chemin, std::size_t maximum);
 
 /// Replaces (or creates) a file as a whole: written beside, flushed to the disk, renamed. Whatever
-/// happens, the file is either the old or the new one, and nothing is left beside it; a symbolic
-/// link stays one; an existing file keeps its permissions. A write-protected file, a directory or a
+/// happens, the file is either the old or the new one, and nothing is left beside it (what a killed
+/// program left there is removed at the next replacement); a symbolic link stays one; an existing
+/// file keeps its permissions. A write-protected file, a directory or a
 /// device is refused.
 /// @throws ErreurFichier
 void remplacer_fichier(const std::filesystem::path& chemin, std::string_view octets);
@@ -29,6 +30,9 @@ void remplacer_fichier(const std::filesystem::path& chemin, std::string_view oct
 /// `dossier`/`nom` if it exists; else the entry of `dossier` whose name differs from it in upper
 /// and lower case only, the first in alphabetical order; else `dossier`/`nom` all the same.
 std::filesystem::path trouver_fichier(const std::filesystem::path& dossier, std::string_view nom);
+
+/// What the name of a version kept is longer than the file's, at most.
+inline constexpr std::size_t octets_de_version = 40;
 
 /// Keeps the present version of a file before it is replaced: copies it to
 /// `dossier`/<name>.<date>_<time>.<folder>.<n>, where <folder> tells files of the same name in

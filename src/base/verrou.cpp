@@ -60,6 +60,9 @@ Verrou::~Verrou() {
 void Verrou::rendre() {
     if (numero_ < 0)
         return;
-    ::unlink(fichier_.c_str()); // while it is held: nobody else's
+    struct stat etat {};
+    // While it is held: nobody else's. A file that holds something was not made here.
+    if (::fstat(numero_, &etat) == 0 && etat.st_size == 0)
+        ::unlink(fichier_.c_str());
     ::close(std::exchange(numero_, -1));
 }

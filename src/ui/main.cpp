@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <csignal>
 #include <cstdlib>
 #include <iostream>
 
@@ -48,6 +49,7 @@ int executer(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    std::signal(SIGXFSZ, SIG_IGN); // a file that grows past its limit is an error, not the end
     try {
         return executer(argc, argv);
     } catch (const std::exception& erreur) {

@@ -1,11 +1,14 @@
 #include "base/fichiers.h"
 
+#include "base/brouillon.h"
+
 #include "outils/dossier_temporaire.h"
 
 #include <gtest/gtest.h>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -110,6 +113,38 @@ TEST(RemplacerFichier, une_ecriture_interrompue_laisse_l_ancien_fichier_seul) {
     EXPECT_EQ(pourquoi, "le fichier est trop grand");
     EXPECT_EQ(d.lire("f"), "ancien");
     EXPECT_EQ(entrees(d.chemin()), 1);
+}
+
+// A program that dies in the middle of a write leaves its draft, the next write removes it; the
+// draft of a program that lives stays, and so does a file that is none.
+TEST(RemplacerFichier, retire_ce_qu_un_programme_tue_a_laisse_et_rien_d_autre) {
+    const DossierTemporaire d;
+    d.ecrire("f", "ancien");
+    d.ecrire(".tavolmex-notes", "à l'équipe");
+    d.ecrire(".tavolmex-abcdef", "de la version d'avant");
+    const pid_t enfant = ::fork();
+    if (enfant == 0) {
+        const rlimit petit{4096, RLIM_INFINITY};
+        ::setrlimit(RLIMIT_FSIZE, &petit);
+        std::signal(SIGXFSZ, SIG_DFL); // kills in the middle
+        remplacer_fichier(d / "f", std::string(100000, 'x'));
+        ::_exit(0);
+    }
+    int etat = 0;
+    ASSERT_EQ(::waitpid(enfant, &etat, 0), enfant);
+    ASSERT_TRUE(WIFSIGNALED(etat));
+    ASSERT_EQ(entrees(d.chemin()), 3) << "f, the notes and the child's draft";
+    std::string vivant;
+    const int ouvert = creer_brouillon(d.chemin(), vivant);
+    EXPECT_EQ(d.lire("f"), "ancien");
+    remplacer_fichier(d / "f", "nouveau");
+    EXPECT_EQ(d.lire("f"), "nouveau");
+    EXPECT_EQ(entrees(d.chemin()), 3);
+    EXPECT_TRUE(fs::exists(vivant));
+    ::close(ouvert);
+    retirer_brouillons(d.chemin());
+    EXPECT_FALSE(fs::exists(vivant));
+    EXPECT_EQ(d.lire(".tavolmex-notes"), "à l'équipe");
 }
 
 TEST(RemplacerFichier, respecte_la_protection_en_ecriture) {
