@@ -1,5 +1,7 @@
 #include "cli/choix.h"
 
+#include "config/nom_projet.h"
+
 void ajouter_dossier(CLI::App& verbe, ChoixDeLigne& choix) {
     verbe
         .add_option("--dossier", choix.dossier,
@@ -9,6 +11,7 @@ void ajouter_dossier(CLI::App& verbe, ChoixDeLigne& choix) {
 
 void ajouter_projet(CLI::App& verbe, ChoixDeLigne& choix) {
     verbe.add_option("--projet", choix.projet, "Nom du projet, à la place de celui des réglages")
+        ->check(raison_projet_impossible, "")
         ->type_name("NOM");
 }
 

@@ -3,6 +3,7 @@
 #include "base/chemins.h"
 #include "base/erreurs.h"
 #include "base/texte.h"
+#include "config/nom_projet.h"
 
 namespace fs = std::filesystem;
 
@@ -36,5 +37,5 @@ bool cible_est_l_entree(const Demande& demande) {
 }
 
 fs::path cible_par_defaut(const fs::path& dossier_configuration, const std::string& NomProjet) {
-    return dossier_configuration / (NomProjet + "GENERE.BAS");
+    return chemin_de_projet(dossier_configuration, NomProjet, "GENERE.BAS");
 }

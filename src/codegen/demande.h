@@ -29,5 +29,6 @@ Refus verifier(const Demande& demande);
 bool cible_est_l_entree(const Demande& demande);
 
 /// The default target: <application>/Configuration/<project>GENERE.BAS.
+/// @throws ErreurExecution when no project can bear the name
 std::filesystem::path cible_par_defaut(const std::filesystem::path& dossier_configuration,
                                        const std::string& NomProjet);

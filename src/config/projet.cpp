@@ -1,5 +1,6 @@
 #include "config/projet.h"
 
+#include "base/brouillon.h"
 #include "base/fichiers.h"
 #include "config/defauts.h"
 #include "config/ecriture.h"
@@ -7,9 +8,9 @@
 #include "config/lecteur_robot.h"
 #include "config/lecteur_table.h"
 #include "config/lecteur_trajet.h"
+#include "config/nom_projet.h"
 #include "sim/secours.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace fs = std::filesystem;
@@ -28,17 +29,13 @@ std::string suite_trajet(int n) {
     return " Trajet" + std::to_string(n) + ".ini";
 }
 
-/// Writes a default file unless something of that name is there. A name that would lead out of the
-/// configuration directory is left alone, as one that cannot be written.
+/// Writes a default file unless something of that name is there.
 template <typename Contenu>
 void creer_si_absent(const fs::path& chemin, Contenu contenu) {
     std::error_code erreur;
     if (fs::symlink_status(chemin, erreur).type() != fs::file_type::not_found)
         return;
     const std::string octets = contenu();
-    if (std::find(chemin.begin(), chemin.end(), "..") != chemin.end() ||
-        chemin.native().find('\0') != std::string::npos)
-        return;
     try {
         remplacer_fichier(chemin, octets);
     } catch (const ErreurFichier&) { // NOLINT(bugprone-empty-catch)
@@ -60,14 +57,11 @@ const fs::path& Projet::dossier_application() const {
 fs::path Projet::dossier_configuration() const {
     return dossier_ / "Configuration";
 }
-fs::path Projet::trouver(const std::string& nom) const {
-    return trouver_fichier(dossier_configuration(), nom);
-}
 fs::path Projet::chemin_general() const {
-    return trouver(nom_general);
+    return trouver_fichier(dossier_configuration(), nom_general);
 }
 fs::path Projet::chemin(std::string_view suite) const {
-    return trouver(e.NomProjet + std::string(suite));
+    return fichier_de_projet(dossier_configuration(), e.NomProjet, suite);
 }
 fs::path Projet::chemin_table() const {
     return chemin(suite_table);
@@ -80,6 +74,7 @@ fs::path Projet::chemin_trajet(int n) const {
 }
 
 void Projet::imposer_projet(std::string nom) {
+    exiger_projet_possible(nom);
     projet_impose_ = std::move(nom);
 }
 
@@ -93,7 +88,12 @@ void Projet::Installe() {
     // Deliberate: created where the process stands, while the files go below the application
     // directory.
     fs::create_directory("Configuration", ignoree);
+    for (const fs::path& dossier :
+         {dossier_configuration(), dossier_configuration() / "Sauvegardes"})
+        retirer_brouillons(dossier);
     creer_si_absent(chemin_general(), general_par_defaut);
+    if (!raison_projet_impossible(e.NomProjet).empty())
+        return;
     creer_si_absent(chemin_table(), [this] {
         Init_Table_Old(e);
         return table_par_defaut();
@@ -108,16 +108,18 @@ void Projet::Installe() {
 }
 
 template <typename Lecteur>
-bool Projet::lire(const std::string& nom, const Entier16& NoLigne, Lecteur lecteur, int robot) {
+bool Projet::lire(std::string_view projet, std::string_view suite, const Entier16& NoLigne,
+                  Lecteur lecteur, int robot) {
     const int ligne_avant = NoLigne; // trajectories count on from one file to the next
     // Other spellings are looked for only when there is no such file: looking takes longer than
     // reading.
-    std::string chemin = configuration_ + nom;
+    std::string chemin = (configuration_ + std::string(projet)).append(suite);
     const auto contenu = [&] {
+        exiger_projet_possible(projet);
         try {
             return lire_octets_natif(chemin.c_str(), taille_lisible);
         } catch (const ErreurFichier&) {
-            chemin = trouver(nom).native();
+            chemin = fichier_de_projet(dossier_configuration(), projet, suite).native();
             return lire_octets_natif(chemin.c_str(), taille_lisible);
         }
     };
@@ -140,7 +142,8 @@ void Projet::LoadGeneral() {
     erreurs_.clear();
     const std::string ancien = std::exchange(e.NomProjet, "Defaut");
     Entier16 NoLigne;
-    lire(nom_general, NoLigne, [&](std::string_view texte) { lire_general(texte, e, NoLigne); });
+    lire("", nom_general, NoLigne,
+         [&](std::string_view texte) { lire_general(texte, e, NoLigne); });
     if (projet_impose_)
         e.NomProjet = *projet_impose_;
     if (e.NomProjet != ancien && installation_)
@@ -152,7 +155,7 @@ void Projet::LoadTable() {
     vider_table(e);
     f.ecrire_LNom("");
     const auto nommer = [this](std::string_view nom) { f.ecrire_LNom(nom); };
-    if (!lire(e.NomProjet + suite_table, NoLigne,
+    if (!lire(e.NomProjet, suite_table, NoLigne,
               [&](std::string_view texte) { lire_table(texte, e, nommer, NoLigne); }))
         Init_Table_Old(e);
 }
@@ -162,7 +165,7 @@ void Projet::LoadRobot() {
     for (int n = 1; n <= robots_des_fichiers; ++n) {
         Entier16 NoLigne;
         if (!lire(
-                e.NomProjet + suite_robot(n), NoLigne,
+                e.NomProjet, suite_robot(n), NoLigne,
                 [&](std::string_view texte) { lecteur.lire(texte, n, NoLigne); }, n))
             return Init_Robot_Old(e, n);
     }
@@ -176,7 +179,7 @@ void Projet::LoadTrajet() {
             const bool autre = n == autre_trajet_;
             lecteur.lire(autre ? autre_texte_(texte) : texte, n, NoLigne);
         };
-        if (!lire(e.NomProjet + suite_trajet(n), NoLigne, lire_le_texte, n)) {
+        if (!lire(e.NomProjet, suite_trajet(n), NoLigne, lire_le_texte, n)) {
             lignes_trajet_.remplir({});
             return Init_Jeu_Old(e);
         }
@@ -209,8 +212,9 @@ void Projet::verifier() {
 
 void Projet::SaveGeneral(std::string_view nom, const ReglagesGeneraux& reglages) {
     try {
+        exiger_projet_possible(nom);
         remplacer_fichier(chemin_general(), general_en_texte(nom, reglages));
-    } catch (const ErreurFichier&) { // NOLINT(bugprone-empty-catch)
+    } catch (const ErreurExecution&) { // NOLINT(bugprone-empty-catch)
         // The settings of the last successful writing stay.
     }
 }

@@ -42,6 +42,7 @@ public:
     std::filesystem::path chemin_robot(int n) const;
     std::filesystem::path chemin_trajet(int n) const;
     /// The file whose name is the project's name and `suite`: " Table.ini".
+    /// @throws ErreurExecution, like the others, when no project can bear the name
     std::filesystem::path chemin(std::string_view suite) const;
 
     /// Creates whichever of the present project's 20 files are missing, with the default content.
@@ -61,6 +62,7 @@ public:
     void SaveGeneral(std::string_view nom, const ReglagesGeneraux& reglages);
 
     /// From now on `nom` takes the place of the project name that LoadGeneral reads.
+    /// @throws ErreurExecution when no project can bear it
     void imposer_projet(std::string nom);
     /// From now on LoadTrajet takes robot n's trajectory from what `texte` makes of its file's.
     void lire_trajet_autrement(int n, std::function<std::string(std::string_view)> texte);
@@ -76,8 +78,8 @@ public:
 
 private:
     template <typename Lecteur>
-    bool lire(const std::string& nom, const Entier16& NoLigne, Lecteur lecteur, int robot = 0);
-    std::filesystem::path trouver(const std::string& nom) const;
+    bool lire(std::string_view projet, std::string_view suite, const Entier16& NoLigne,
+              Lecteur lecteur, int robot = 0);
 
     Etat& e;
     Fenetres& f;

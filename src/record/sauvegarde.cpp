@@ -1,6 +1,7 @@
 #include "record/sauvegarde.h"
 
 #include "base/fichiers.h"
+#include "config/nom_projet.h"
 #include "record/generation.h"
 #include "record/trajet.h"
 #include "sim/orientation.h"
@@ -20,7 +21,7 @@ public:
         : e(etat), dossier_(std::move(dossier)), ecrit_(ecrit) {}
 
     std::string nom(const char* sorte, int i) const {
-        return e.NomProjet + sorte + std::to_string(i) + ".ini";
+        return nom_de_fichier(e.NomProjet, sorte + std::to_string(i) + ".ini");
     }
     fs::path chemin(const std::string& nom) const { return trouver_fichier(dossier_, nom); }
 
@@ -87,6 +88,8 @@ void Set_Sauv_Robot(Etat& e, Entier16 I) {
 
 std::vector<EchecEcriture> SauvRobot(Etat& e, Fenetres& f, const fs::path& dossier_configuration,
                                      const Ecrit& ecrit) {
+    if (const std::string raison = raison_projet_impossible(e.NomProjet); !raison.empty())
+        return {EchecEcriture{dossier_configuration, raison}};
     Ecriture ecriture(e, dossier_configuration, ecrit);
     const bool tournee = redresser(e, ecriture, dossier_configuration);
     bool oui = false; // the last answer decides about the generation input file

@@ -1,6 +1,5 @@
 #include "ui/nouveau_projet.h"
 
-#include "base/fichiers.h"
 #include "ui/boites.h"
 #include "ui/foutil.h"
 
@@ -80,7 +79,7 @@ void nouveauProjet::nomProjet_Change() {
 
 void nouveauProjet::OKButton_Click() {
     const std::filesystem::path chemin =
-        trouver_fichier(configuration_, nomProjet.text().toStdString() + ".ini");
+        fichier_d_editeur(configuration_, nomProjet.text().toStdString());
     bool ecrit = true;
     if (palette_.chx_dessinTable.isChecked())
         ecrit = table && table(chemin);

@@ -1,6 +1,7 @@
 #include "ui/ouvrir.h"
 
 #include "base/texte.h"
+#include "config/nom_projet.h"
 #include "config/projets.h"
 #include "ui/boites.h"
 #include "ui/place.h"
@@ -81,8 +82,14 @@ void Ouvrir::Form_Load() {
 // An empty list makes the empty name the current project: the loading then says what is missing.
 void Ouvrir::Command1_Click() {
     const int choix = Combo1.currentIndex();
+    const std::string nom = choix >= 0 ? projets_.at(static_cast<std::size_t>(choix)) : "";
+    try {
+        exiger_projet_possible(nom);
+    } catch (const ErreurExecution& erreur) {
+        return sim_.message("Ce projet ne peut pas être chargé.", erreur.what());
+    }
     sim_.options().projet_choisi = true;
-    sim_.etat().NomProjet = choix >= 0 ? projets_.at(static_cast<std::size_t>(choix)) : "";
+    sim_.etat().NomProjet = nom;
     sim_.SaveGeneral();
     accept();
 }

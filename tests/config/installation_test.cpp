@@ -77,7 +77,15 @@ TEST_F(Installation, un_nom_de_projet_ne_sort_pas_de_la_configuration) {
         EXPECT_FALSE(fs::exists(d / "x Table.ini")) << nom;
         EXPECT_FALSE(fs::exists("/x Table.ini")) << nom;
         EXPECT_FALSE(fs::exists(d / "Configuration/x")) << nom;
+        EXPECT_EQ(fichiers(), 1) << "the settings alone";
     }
+}
+
+TEST_F(Installation, seul_le_nom_est_juge_pas_le_dossier_devant_lui) {
+    fs::create_directory(d / "a");
+    Projet par_un_detour(e, f, d / "a" / "..");
+    par_un_detour.Installe();
+    EXPECT_EQ(fichiers(), 20);
 }
 
 TEST_F(Installation, dossier_relatif_au_dossier_courant_fichiers_sous_l_application) {

@@ -35,6 +35,20 @@ TEST_F(LireProjet, un_autre_projet_est_installe_un_seul_nom_apres_l_autre) {
     EXPECT_EQ(e.NomProjet, "Defaut");
 }
 
+TEST_F(LireProjet, un_nom_refuse_donne_le_message_sa_ligne_et_sa_raison) {
+    e.NomProjet = "Essai";
+    ecrire("Tavolmex.ini", "Rapide, 0\nDéfaut , ../../.bashrc\nAllege, 1");
+    projet.LoadGeneral();
+    EXPECT_EQ(f.messages, std::vector{message("Tavolmex.ini", 2)});
+    EXPECT_EQ(f.explications[0],
+              "Raison : « ../../.bashrc » ne peut pas être celui d'un projet : il "
+              "contient un séparateur de dossiers, / ou \\");
+    EXPECT_EQ(e.NomProjet, "Defaut");
+    EXPECT_EQ(e.Options(1), 0);
+    EXPECT_EQ(e.Options(2), 0);
+    EXPECT_THROW(projet.imposer_projet("A#B"), ErreurExecution);
+}
+
 TEST_F(LireProjet, le_projet_impose_remplace_celui_du_fichier) {
     ecrire("Tavolmex.ini", "Défaut, Essai\nNbRobot, 4");
     projet.imposer_projet("Autre");

@@ -108,6 +108,23 @@ TEST_F(Charger, une_liste_vide_donne_le_projet_sans_nom) {
     EXPECT_TRUE(std::filesystem::exists(dossier / "Configuration/ Table.ini"));
 }
 
+TEST_F(Charger, un_nom_qui_ne_se_relirait_pas_est_refuse_et_la_liste_reste) {
+    dossier.ecrire("Configuration/Essai #2 Table.ini", "L,0,0,90,50\r\n");
+    demarrer();
+    QString raison;
+    avant_de_repondre = [&](QMessageBox& boite) { raison = boite.informativeText(); };
+    charger([this](Ouvrir& o) {
+        choisir(o, "Essai #2");
+        EXPECT_EQ(messages,
+                  std::vector<std::string>{"message: Ce projet ne peut pas être chargé."});
+        EXPECT_TRUE(o.isVisible());
+        QTest::keyClick(&o, Qt::Key_Escape);
+    });
+    EXPECT_TRUE(raison.startsWith("« Essai #2 » ne peut pas")) << raison.toStdString();
+    EXPECT_EQ(e().NomProjet, "Defaut");
+    EXPECT_FALSE(std::filesystem::exists(dossier / "Configuration/Essai #2 Robot1.ini"));
+}
+
 TEST_F(Charger, le_trajet_enregistre_est_propose_avant_la_liste) {
     demarrer();
     e().TrajetModifie(1) = true;
