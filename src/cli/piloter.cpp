@@ -74,13 +74,9 @@ public:
           fenetres_(*etat_, options.sauver),
           simulation_(*etat_, fenetres_, options.choix),
           reprise_(*etat_, simulation_.projet().dossier_configuration()),
-          tient_la_reprise_(!std::filesystem::exists(reprise_.chemin())),
-          console_(*etat_, fenetres_, simulation_.moteur(),
-                   tient_la_reprise_ ? &reprise_ : nullptr) {
+          console_(*etat_, fenetres_, simulation_.moteur(), &reprise_) {
         fenetres_.suivre(console_);
-        if (!tient_la_reprise_)
-            ecrire_ligne(std::cerr, "Un trajet enregistré attend dans " +
-                                        reprise_.chemin().string() + " : la fenêtre le proposera.");
+        prendre_le_projet();
     }
 
     int jouer() {
@@ -110,10 +106,22 @@ private:
 
     std::string ou_est_l_enregistrement() const {
         std::error_code erreur;
-        if (!tient_la_reprise_ || !std::filesystem::exists(reprise_.chemin(), erreur))
+        if (!std::filesystem::exists(reprise_.chemin(), erreur))
             return "rien n'a été enregistré";
         return "l'enregistrement est gardé dans " + reprise_.chemin().string() +
                ", il sera proposé au prochain démarrage de la fenêtre";
+    }
+
+    // A recording left by the window is its business: neither taken up nor replaced here.
+    void prendre_le_projet() {
+        const std::filesystem::path de_la_fenetre = reprise_.chemin();
+        const AvisPartage avis = reprise_.prendre_projet(true);
+        if (!avis.texte.empty())
+            for (const std::string& ligne : {avis.texte, avis.explication})
+                ecrire_ligne(std::cerr, ligne);
+        else if (reprise_.chemin() != de_la_fenetre)
+            ecrire_ligne(std::cerr, "Un trajet enregistré attend dans " + de_la_fenetre.string() +
+                                        " : la fenêtre le proposera.");
     }
 
     int commencer() {
@@ -211,17 +219,10 @@ private:
     bool finir() {
         if (console_.phase() != Console::Phase::arret)
             console_.Command9_Click({});
-        const BilanSauvegarde bilan = sauver();
+        const BilanSauvegarde bilan = reprise_.sauver(fenetres_);
         if (!bilan.complete())
             fenetres_.message(bilan.message());
         return bilan.complete();
-    }
-
-    BilanSauvegarde sauver() {
-        if (tient_la_reprise_)
-            return reprise_.sauver(fenetres_);
-        const std::filesystem::path dossier = simulation_.projet().dossier_configuration();
-        return {SauvRobot(*etat_, fenetres_, dossier), {}, "un autre trajet attend déjà"};
     }
 
     OptionsPiloter options_;
@@ -229,8 +230,6 @@ private:
     FenetresPiloter fenetres_;
     Simulation simulation_;
     Reprise reprise_;
-    // A recording left by the window is its business: neither taken up nor replaced here.
-    bool tient_la_reprise_;
     Console console_;
     bool fini_ = false; ///< "FIN" was read
 };

@@ -2,13 +2,11 @@
 
 #include "base/fichiers.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr std::string_view suffixe = " Reprise.ini";
 
 Robots robots_modifies(const Etat& e) {
     Robots robots;
@@ -48,13 +46,18 @@ std::string BilanSauvegarde::message() const {
     return texte + "L'enregistrement n'est gardé nulle part ailleurs (" + echec_reprise + ").";
 }
 
-fs::path Reprise::chemin_de(const std::string& projet) const {
-    // Put together as text: a name that begins with a separator stays below the directory.
-    return {dossier_.native() + "/" + projet + std::string(suffixe)};
+AvisPartage Reprise::prendre_projet(bool vierge) {
+    if (!place_.prendre(e.NomProjet, vierge))
+        return {};
+    return {
+        "Le projet « " + e.NomProjet + " » est déjà ouvert dans un autre programme Tavolmex.",
+        "Les deux écrivent les mêmes fichiers : le dernier qui sauvegarde l'emporte, la version "
+        "précédente reste dans Sauvegardes. Chacun garde l'enregistrement qu'il n'a pas encore "
+        "sauvegardé dans un fichier de reprise à lui."};
 }
 
 fs::path Reprise::chemin() const {
-    return chemin_de(e.NomProjet);
+    return place_.fichier(e.NomProjet);
 }
 
 void Reprise::ecrire() {
@@ -92,25 +95,6 @@ BilanSauvegarde Reprise::sauver(Fenetres& f, const Ecrit& ecrit) {
     return bilan;
 }
 
-std::optional<std::string> Reprise::projet_a_reprendre(bool tous) const {
-    std::error_code erreur;
-    if (fs::exists(chemin(), erreur))
-        return e.NomProjet;
-    std::optional<std::string> trouve;
-    if (!tous)
-        return trouve;
-    for (fs::directory_iterator i(dossier_, erreur), fin; !erreur && i != fin;
-         i.increment(erreur)) {
-        const std::string nom = i->path().filename().string();
-        if (!nom.ends_with(suffixe) || nom.size() == suffixe.size())
-            continue;
-        const std::string projet = nom.substr(0, nom.size() - suffixe.size());
-        if (!trouve || projet < *trouve)
-            trouve = projet;
-    }
-    return trouve;
-}
-
 void Reprise::mettre_de_cote(Fenetres& f, const fs::path& fichier,
                              const std::string& raison) const {
     const fs::path a_cote = fichier.string() + ".illisible";
@@ -122,19 +106,21 @@ void Reprise::mettre_de_cote(Fenetres& f, const fs::path& fichier,
 
 bool Reprise::proposer(Fenetres& f, const std::function<void(const std::string&)>& charger_projet) {
     en_attente_.reset();
-    const auto projet = projet_a_reprendre(charger_projet != nullptr);
-    if (!projet)
+    auto attente = place_.en_attente(e.NomProjet, charger_projet != nullptr);
+    if (!attente)
         return false;
-    const fs::path fichier = chemin_de(*projet);
+    const fs::path fichier = attente->fichier;
+    const std::string projet = attente->projet;
     int ligne = 0;
     try {
         const Enregistrement lu = lire_enregistrement(en_utf8(lire_octets(fichier)), ligne);
-        if (!f.question(question_de_reprise(*projet, lu))) {
+        if (!f.question(question_de_reprise(projet, lu))) {
             supprimer(fichier);
             return false;
         }
-        if (*projet != e.NomProjet)
-            charger_projet(*projet);
+        place_.adopter(std::move(*attente));
+        if (projet != e.NomProjet)
+            charger_projet(projet);
         restaurer_enregistrement(e, lu);
         for (const Enregistrement::Robot& robot : lu.robots)
             en_attente_.set(static_cast<std::size_t>(robot.numero));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "record/enregistrement.h"
+#include "record/place_reprise.h"
 #include "record/sauvegarde.h"
 
 #include <filesystem>
@@ -20,13 +21,24 @@ struct BilanSauvegarde {
     std::string message() const;
 };
 
+/// What to say when another program has the same project open; both texts are empty when none has.
+struct AvisPartage {
+    std::string texte;
+    std::string explication;
+};
+
 /// The recovery file, "Configuration/<project> Reprise.ini": what was recorded and is not saved
 /// yet, replaced as a whole after each action. It survives a crash, a kill and a power cut; the
-/// next start offers it.
+/// next start offers it. Programs that share a project have one each.
 class Reprise {
 public:
     Reprise(Etat& etat, std::filesystem::path dossier_configuration)
-        : e(etat), dossier_(std::move(dossier_configuration)) {}
+        : e(etat), dossier_(std::move(dossier_configuration)), place_(dossier_) {}
+
+    /// Makes the present project's recovery file this program's own, as long as no other project is
+    /// taken in its place.
+    /// @param vierge  leaves one alone that waits for being offered
+    AvisPartage prendre_projet(bool vierge = false);
 
     /// The present project's recovery file.
     std::filesystem::path chemin() const;
@@ -49,13 +61,12 @@ public:
     bool proposer(Fenetres& f, const std::function<void(const std::string&)>& charger_projet = {});
 
 private:
-    std::optional<std::string> projet_a_reprendre(bool tous) const;
-    std::filesystem::path chemin_de(const std::string& projet) const;
     void mettre_de_cote(Fenetres& f, const std::filesystem::path& fichier,
                         const std::string& raison) const;
 
     Etat& e;
     std::filesystem::path dossier_;
+    PlaceReprise place_;
     Robots en_attente_; ///< recorded and not saved, asked about or not
     bool prevenu_ = false;
 };

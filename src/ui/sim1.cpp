@@ -86,7 +86,16 @@ void Sim1::Form_Load() {
         return;
     show();
     Table_Click();
-    garde(*this, [this] { proposer_reprise(); });
+    garde(*this, [this] {
+        prendre_projet();
+        proposer_reprise();
+    });
+}
+
+// Says so when another program has it open too.
+void Sim1::prendre_projet() {
+    if (const AvisPartage avis = reprise_.prendre_projet(); !avis.texte.empty())
+        message(avis.texte, avis.explication);
 }
 
 // What a crash, a kill or a power cut left unsaved.
@@ -124,6 +133,7 @@ void Sim1::recharger_projet() {
     Dessine_Table();
     Dessine_Robot();
     options_.modifie = true;
+    prendre_projet();
 }
 
 void Sim1::charger_projet_choisi() {

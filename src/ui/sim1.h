@@ -115,6 +115,7 @@ private:
     void placer_options();
     struct MesuresEcran mesures(int largeur_lignes) const;
     void charger_projet();
+    void prendre_projet();
     void proposer_reprise();
     void Timer_Timer();
     void montrer_titre();

@@ -95,4 +95,13 @@ TEST(Flux, deux_resultats_ne_vont_pas_dans_un_fichier) {
     EXPECT_EQ(d.lire("e.bas"), "#\r\nAVANCE:1\r\n");
 }
 
+TEST(Flux, une_limite_de_taille_est_une_erreur_et_pas_la_fin) {
+    const DossierTemporaire d;
+    const Fin fin = shell(d, "ulimit -f 1; tcli installer");
+    EXPECT_EQ(fin.code, 1);
+    EXPECT_NE(fin.erreurs.find("Defaut Trajet1.ini n'a pas pu être écrit"), std::string::npos);
+    for (const auto& entree : std::filesystem::directory_iterator(d / "Configuration"))
+        EXPECT_EQ(entree.path().extension(), ".ini") << entree.path();
+}
+
 } // namespace

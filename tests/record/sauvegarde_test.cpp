@@ -1,5 +1,6 @@
 #include "banc_console.h"
 
+#include "base/brouillon.h"
 #include "record/generation.h"
 #include "sim/orientation.h"
 
@@ -325,6 +326,9 @@ TEST(Sauver, tue_a_tout_instant_chaque_fichier_est_l_ancien_ou_le_nouveau) {
         const bool garde = std::filesystem::exists(b.d / "Defaut Reprise.ini");
         EXPECT_TRUE(ecrits == 2 || garde) << pas;
         EXPECT_TRUE(!finie || !garde);
+        retirer_brouillons(b.d.chemin());
+        for (const auto& entree : std::filesystem::directory_iterator(b.d.chemin()))
+            EXPECT_FALSE(entree.path().filename().string().starts_with('.')) << entree.path();
     }
     EXPECT_NE(nouveaux[0].find("AVANCE    ,10"), std::string::npos);
     EXPECT_GT(pas, 40);

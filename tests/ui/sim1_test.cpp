@@ -17,7 +17,8 @@ TEST_F(Demarrage, le_premier_demarrage_ecrit_le_projet_et_montre_les_deux_fenetr
     EXPECT_TRUE(messages.empty());
     EXPECT_TRUE(std::filesystem::exists(dossier / "Configuration/Defaut Table.ini"));
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dossier / "Configuration"), {}),
-              20);
+              20 + 1)
+        << "and the project's lock";
     EXPECT_TRUE(sim->isVisible());
     EXPECT_TRUE(sim->options().isVisible());
     EXPECT_EQ(sim->pos(), sim->screen()->availableGeometry().topLeft());
@@ -61,6 +62,32 @@ TEST_F(Demarrage, les_reglages_du_fichier_atteignent_l_etat) {
         EXPECT_EQ(e().XMax, r.x_max) << r.lignes; // turned once, not twice
         EXPECT_FALSE(sim->options().modifie) << r.lignes;
     }
+}
+
+TEST_F(Demarrage, un_nom_de_projet_qui_sort_du_dossier_est_refuse_a_sa_ligne) {
+    dossier.ecrire("Configuration/Tavolmex.ini",
+                   std::string("NbRobot, 3\nDéfaut , ../../.bashrc\0", 34));
+    demarrer();
+    EXPECT_EQ(messages, std::vector<std::string>{"message: Erreur lors de la lecture du fichier " +
+                                                 (dossier / "Configuration/Tavolmex.ini").string() +
+                                                 " Ligne 2"});
+    EXPECT_EQ(e().NomProjet, "Defaut");
+    EXPECT_EQ(e().NbRobot, 3);
+}
+
+TEST_F(Demarrage, un_second_programme_sur_le_meme_projet_le_dit_et_continue) {
+    demarrer();
+    Sim1 second(dossier.chemin(), [](int) {});
+    second.Form_Load();
+    const std::vector<std::string> avis{
+        "message: Le projet « Defaut » est déjà ouvert dans un autre programme Tavolmex."};
+    EXPECT_EQ(messages, avis);
+    EXPECT_TRUE(second.isVisible());
+    // The lock follows the project.
+    sim->etat().NomProjet = "Finale";
+    sim->recharger_projet();
+    second.recharger_projet();
+    EXPECT_EQ(messages, avis);
 }
 
 TEST_F(Demarrage, une_table_impossible_a_dessiner_finit_le_programme) {
