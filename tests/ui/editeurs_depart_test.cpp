@@ -33,7 +33,7 @@ protected:
     }
     void taper(const char* champ, const char* texte) {
         auto& nombre = trouver<QDoubleSpinBox>(champ);
-        QTest::qWaitFor([&] { return nombre.isVisible(); });
+        EXPECT_TRUE(QTest::qWaitFor([&] { return nombre.isVisible(); }));
         nombre.setFocus();
         nombre.selectAll();
         QTest::keyClicks(&nombre, texte);
@@ -187,16 +187,17 @@ TEST_F(Depart, un_second_programme_ne_prend_pas_le_dessin_du_premier) {
     const auto premier = std::move(sim);
     messages.clear();
     demarrer();
-    EXPECT_TRUE(messages.empty());
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_NE(messages[0].find("déjà ouvert"), std::string::npos) << messages[0];
     cliquer("dessinAire");
     cliquer("outil_L");
     clic(50, 50);
     editeur().ecrire_reprise();
     EXPECT_TRUE(fs::exists(reprise(1)));
     EXPECT_TRUE(fs::exists(reprise(2)));
-    recommencer({true}); // the second's own is still offered
-    ASSERT_EQ(messages.size(), 1U);
-    EXPECT_NE(messages[0].find("sans nom"), std::string::npos) << messages[0];
+    recommencer({true, true}); // the second's own is still offered, after the notice
+    ASSERT_EQ(messages.size(), 2U);
+    EXPECT_NE(messages[1].find("sans nom"), std::string::npos) << messages[1];
 }
 
 TEST_F(Depart, une_reprise_illisible_est_dite_et_mise_de_cote) {
