@@ -123,14 +123,14 @@ TEST(Partage, le_verrou_suit_le_projet_et_celui_d_un_tue_ne_tient_plus) {
 
 TEST(Partage, un_dossier_ou_rien_ne_s_ecrit_n_arrete_personne) {
     const DossierTemporaire d;
-    Etat& e = *std::make_unique<Etat>().release();
+    const auto etat = std::make_unique<Etat>();
+    Etat& e = *etat;
     Reprise reprise(e, d / "absent");
     EXPECT_EQ(reprise.prendre_projet().texte, "");
     EXPECT_EQ(reprise.chemin(), d / "absent/Defaut Reprise.ini");
     e.NomProjet = "../x";
     EXPECT_EQ(reprise.prendre_projet().texte, "");
     EXPECT_THROW(reprise.chemin(), ErreurExecution);
-    delete &e;
 }
 
 TEST(Partage, piloter_le_dit_et_garde_a_part_ce_qu_il_n_a_pas_pu_sauver) {
