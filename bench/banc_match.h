@@ -17,6 +17,7 @@ public:
     void message(std::string_view texte, std::string_view) override {
         std::fprintf(stderr, "%.*s\n", static_cast<int>(texte.size()), texte.data());
     }
+    void information(std::string_view) override {}
     bool question(std::string_view, std::string_view) override { return false; }
     void regler_Timer(Entier16 ms) override { intervalle = ms; }
     void ecrire_Mess(const LigneMess&) override {}

@@ -65,6 +65,7 @@ public:
 private:
     struct Muettes final : Fenetres {
         void message(std::string_view, std::string_view) override {}
+        void information(std::string_view) override {}
         bool question(std::string_view, std::string_view) override { return false; }
         void regler_Timer(Entier16) override {}
         void ecrire_Mess(const LigneMess&) override {}

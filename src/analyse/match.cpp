@@ -2,6 +2,7 @@
 
 #include "draw/a_vide.h"
 #include "sim/actions.h"
+#include "sim/fenetres_muettes.h"
 #include "sim/moteur.h"
 
 #include <algorithm>
@@ -18,7 +19,7 @@ std::string_view raison_seule(std::string_view texte) {
 }
 
 /// Nobody looks: the drawing's arithmetic is done for its errors, messages end the match.
-class FenetresAbsentes final : public Fenetres {
+class FenetresAbsentes final : public FenetresMuettes {
 public:
     explicit FenetresAbsentes(Etat& etat) : e(etat) {}
 
@@ -26,19 +27,8 @@ public:
         raison = raison_seule(explication.empty() ? texte : explication);
         arrete = true;
     }
-    bool question(std::string_view, std::string_view) override { return false; }
-    void regler_Timer(Entier16) override {}
-    void ecrire_Mess(const LigneMess&) override {}
-    void ecrire_texte_Mess(std::string_view) override {}
-    void ecrire_Info(const LigneInfo&) override {}
-    void ecrire_LNom(std::string_view) override {}
-    void ecrire_nbre_carreaux(std::string_view) override {}
-    void Active_Desactive(bool) override {}
     void Dessine_Table() override { dessin_.table(e, *this); }
     void Dessine_Robot() override { dessin_.robots(e, *this); }
-    void apres_actions() override {}
-    void montrer_course(bool) override {}
-    void montrer_logo(bool) override {}
     void fin_du_programme() override { arrete = true; }
 
     bool arrete = false;

@@ -122,6 +122,22 @@ std::string prendre_dernier(std::string& reste) {
 
 enum class TropGrand { refuse, coupe };
 
+// The versions of `chemin` in `dossier` with their numbers, newest first.
+std::vector<std::pair<long, fs::path>> versions_numerotees(const fs::path& chemin,
+                                                           const fs::path& dossier) {
+    const std::string nom = chemin.filename().string();
+    const std::string cle = cle_du_dossier(chemin);
+    std::vector<std::pair<long, fs::path>> versions;
+    std::error_code erreur;
+    for (fs::directory_iterator i(dossier, erreur), fin; !erreur && i != fin; i.increment(erreur)) {
+        const auto version = lire_nom_de_version(i->path().filename().string());
+        if (version && version->fichier == nom && version->dossier == cle)
+            versions.emplace_back(version->numero, i->path());
+    }
+    std::sort(versions.rbegin(), versions.rend());
+    return versions;
+}
+
 std::string lire(const char* chemin, std::size_t maximum, TropGrand trop_grand) {
     // Non-blocking, so that a FIFO in place of the file cannot hold the program up.
     const Descripteur d(::open(chemin, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
@@ -231,31 +247,33 @@ std::string cle_du_dossier(const fs::path& chemin) {
 }
 
 fs::path sauvegarder_version(const fs::path& chemin, const fs::path& dossier) {
-    constexpr std::size_t gardees = 10;
     std::error_code erreur;
     if (!fs::exists(chemin, erreur))
         return {};
+    return garder_version(chemin, lire_octets(chemin), dossier);
+}
+
+fs::path garder_version(const fs::path& chemin, std::string_view octets, const fs::path& dossier) {
+    constexpr std::size_t gardees = 10;
+    std::error_code erreur;
     fs::create_directories(dossier, erreur);
     if (erreur)
         throw ErreurFichier(dossier, erreur.value());
-
-    const std::string nom = chemin.filename().string();
-    const std::string cle = cle_du_dossier(chemin);
-    std::vector<std::pair<long, fs::path>> versions;
-    for (fs::directory_iterator i(dossier, erreur), fin; !erreur && i != fin; i.increment(erreur)) {
-        const auto version = lire_nom_de_version(i->path().filename().string());
-        if (version && version->fichier == nom && version->dossier == cle)
-            versions.emplace_back(version->numero, i->path());
-    }
-    std::sort(versions.begin(), versions.end());
-    const long suivant = versions.empty() ? 1 : versions.back().first + 1;
-    fs::path copie =
-        dossier / (nom + "." + date_et_heure() + "." + cle + "." + std::to_string(suivant));
-    remplacer_fichier(copie, lire_octets(chemin));
-    versions.emplace_back(suivant, copie);
-    for (std::size_t i = 0; i + gardees < versions.size(); ++i)
+    const auto versions = versions_numerotees(chemin, dossier);
+    const long suivant = versions.empty() ? 1 : versions.front().first + 1;
+    fs::path copie = dossier / (chemin.filename().string() + "." + date_et_heure() + "." +
+                                cle_du_dossier(chemin) + "." + std::to_string(suivant));
+    remplacer_fichier(copie, octets);
+    for (std::size_t i = gardees - 1; i < versions.size(); ++i)
         fs::remove(versions[i].second, erreur);
     return copie;
+}
+
+std::vector<fs::path> versions_gardees(const fs::path& chemin, const fs::path& dossier) {
+    std::vector<fs::path> chemins;
+    for (const auto& [numero, version] : versions_numerotees(chemin, dossier))
+        chemins.push_back(version);
+    return chemins;
 }
 
 fs::path restaurer_version(const fs::path& version, const fs::path& chemin,

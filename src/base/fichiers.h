@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Largest configuration or program file that is read whole; a larger one is refused at once.
 inline constexpr std::size_t taille_maximale = std::size_t{32} << 20;
@@ -41,6 +42,12 @@ inline constexpr std::size_t octets_de_version = 40;
 /// @throws ErreurFichier
 std::filesystem::path sauvegarder_version(const std::filesystem::path& chemin,
                                           const std::filesystem::path& dossier);
+/// The same for content that is in no file (yet): `octets` becomes the newest version of `chemin`.
+std::filesystem::path garder_version(const std::filesystem::path& chemin, std::string_view octets,
+                                     const std::filesystem::path& dossier);
+/// The versions of `chemin` that `dossier` keeps, newest first.
+std::vector<std::filesystem::path> versions_gardees(const std::filesystem::path& chemin,
+                                                    const std::filesystem::path& dossier);
 
 /// What the name of such a copy says: "<name>.<date>_<time>.<folder>.<n>".
 struct NomDeVersion {

@@ -4,13 +4,21 @@
 
 #include <string>
 
-void FenetresTerminal::message(std::string_view texte, std::string_view) {
+void FenetresTerminal::ecrire_en_une_ligne(std::string_view texte) {
     std::string ligne;
     Lignes lignes(texte);
     while (const auto suivante = lignes.suivante())
         ligne.append(ligne.empty() ? "" : " ").append(*suivante);
     ecrire_ligne(erreurs_, ligne);
+}
+
+void FenetresTerminal::message(std::string_view texte, std::string_view) {
+    ecrire_en_une_ligne(texte);
     ++nb_messages_;
+}
+
+void FenetresTerminal::information(std::string_view texte) {
+    ecrire_en_une_ligne(texte);
 }
 
 bool FenetresTerminal::question(std::string_view texte, std::string_view) {

@@ -13,6 +13,7 @@ public:
     virtual ~FenetresTerminal() = default;
 
     void message(std::string_view texte, std::string_view explication = {}) override;
+    void information(std::string_view texte) override;
     bool question(std::string_view texte, std::string_view explication = {}) override;
     void regler_Timer(Entier16 ms) override { intervalle_ = ms; }
     void ecrire_Mess(const LigneMess&) override {}
@@ -46,6 +47,8 @@ protected:
     Etat& e;
 
 private:
+    void ecrire_en_une_ligne(std::string_view texte);
+
     std::ostream& erreurs_;
     DessinAVide dessin_;
     Entier16 intervalle_;

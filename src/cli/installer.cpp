@@ -20,7 +20,7 @@ public:
     void message(std::string_view texte, std::string_view explication) override {
         FenetresTerminal::message(texte);
         if (!explication.empty())
-            ecrire_ligne(erreurs_, explication);
+            ecrire_lignes(erreurs_, explication);
     }
 
 private:

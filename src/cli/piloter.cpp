@@ -42,7 +42,7 @@ public:
         if (!reponse_.empty() || !interactif())
             return reponse_ == "oui";
         if (!explication.empty())
-            ecrire_ligne(std::cerr, explication);
+            ecrire_lignes(std::cerr, explication);
         std::cerr << "(oui/non) ? " << std::flush;
         std::clearerr(stdin); // after the commands' end-of-file key, a terminal still answers
         const auto reponse = lire_ligne();
@@ -188,10 +188,21 @@ private:
                               erreur.what());
         }
         laisser_tourner();
-        if (etat_->logo_visible && !fenetres_.terminee())
-            fenetres_.message("Ligne " + std::to_string(numero) +
-                              " : le match de 90 s est fini, la prochaine action repart de la "
-                              "position initiale et recommence le trajet");
+        if (!fenetres_.terminee())
+            dire_le_temps("Ligne " + std::to_string(numero) + " : ");
+    }
+
+    // The end counts as a message, its approach does not.
+    void dire_le_temps(const std::string& ligne) {
+        constexpr std::int32_t alerte = 8000;
+        if (etat_->logo_visible)
+            fenetres_.message(ligne +
+                              "le match de 90 s est fini, la prochaine action repart de la "
+                              "position initiale et recommence le trajet, le présent va dans "
+                              "Sauvegardes");
+        else if (etat_->TempsEcoule >= alerte)
+            ecrire_ligne(std::cerr, ligne + "temps du match " + texte_duree(etat_->TempsEcoule) +
+                                        " sur 90 s : après, le trajet recommence à l'action 1");
     }
 
     // A trajectory file begins with its start pose; --position comes before it.

@@ -1,6 +1,7 @@
 #include "cli/sortie.h"
 
 #include "base/fichiers.h"
+#include "base/texte.h"
 #include "base/visible.h"
 
 #include <unistd.h>
@@ -36,6 +37,12 @@ void ecrire_resultat(const std::filesystem::path& chemin, std::string_view octet
 
 void ecrire_ligne(std::ostream& flux, std::string_view texte) {
     flux << visible(texte) << '\n' << std::flush;
+}
+
+void ecrire_lignes(std::ostream& flux, std::string_view texte) {
+    Lignes lignes(texte);
+    while (const auto ligne = lignes.suivante())
+        ecrire_ligne(flux, *ligne);
 }
 
 SortieDeLignes::SortieDeLignes() : terminal_(::isatty(STDOUT_FILENO) == 1) {}

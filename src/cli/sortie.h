@@ -16,6 +16,9 @@ void ecrire_resultat(const std::filesystem::path& chemin, std::string_view octet
 /// A line for a person, whatever file or name it quotes: nothing in it commands the terminal.
 void ecrire_ligne(std::ostream& flux, std::string_view texte);
 
+/// The same for a text of several lines.
+void ecrire_lignes(std::ostream& flux, std::string_view texte);
+
 /// Lines that are a result: as they are for a file or a program, harmless for a terminal.
 class SortieDeLignes {
 public:

@@ -109,7 +109,7 @@ void Projet::Installe() {
 
 template <typename Lecteur>
 bool Projet::lire(std::string_view projet, std::string_view suite, const Entier16& NoLigne,
-                  Lecteur lecteur, int robot) {
+                  Lecteur lecteur, int robot, std::string_view consequence) {
     const int ligne_avant = NoLigne; // trajectories count on from one file to the next
     // Other spellings are looked for only when there is no such file: looking takes longer than
     // reading.
@@ -134,7 +134,7 @@ bool Projet::lire(std::string_view projet, std::string_view suite, const Entier1
     erreurs_.push_back({chemin, robot, NoLigne - ligne_avant, raison});
     f.message("Erreur lors de la lecture du fichier " + chemin + " Ligne " +
                   std::to_string(NoLigne),
-              "Raison : " + raison);
+              "Raison : " + raison + std::string(consequence));
     return false;
 }
 
@@ -172,6 +172,9 @@ void Projet::LoadRobot() {
 }
 
 void Projet::LoadTrajet() {
+    constexpr std::string_view sans_trajets = "\r\nTous les robots restent immobiles, ceux des "
+                                              "autres fichiers aussi, tant que ce fichier "
+                                              "n'est pas corrigé.";
     LecteurTrajet lecteur(e);
     Entier16 NoLigne; // deliberately counts over all nine files
     for (int n = 1; n <= robots_des_fichiers; ++n) {
@@ -179,7 +182,7 @@ void Projet::LoadTrajet() {
             const bool autre = n == autre_trajet_;
             lecteur.lire(autre ? autre_texte_(texte) : texte, n, NoLigne);
         };
-        if (!lire(e.NomProjet, suite_trajet(n), NoLigne, lire_le_texte, n)) {
+        if (!lire(e.NomProjet, suite_trajet(n), NoLigne, lire_le_texte, n, sans_trajets)) {
             lignes_trajet_.remplir({});
             return Init_Jeu_Old(e);
         }

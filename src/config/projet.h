@@ -79,7 +79,7 @@ public:
 private:
     template <typename Lecteur>
     bool lire(std::string_view projet, std::string_view suite, const Entier16& NoLigne,
-              Lecteur lecteur, int robot = 0);
+              Lecteur lecteur, int robot = 0, std::string_view consequence = {});
 
     Etat& e;
     Fenetres& f;

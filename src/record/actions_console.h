@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/texte.h"
+
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -56,3 +58,5 @@ inline constexpr std::array<ActionConsole, 11> actions_console{{
 
 /// The action of that name in capitals, all characters compared; null when there is none.
 const ActionConsole* action_de_nom(std::string_view nom);
+/// The action that the trajectory has under this name, cut to its ten characters; likewise.
+const ActionConsole* action_du_trajet(const Nom10& nom);

@@ -28,6 +28,9 @@ Instantane::Instantane(const Etat& e, Entier16 robot, Entier16 entree)
       logo_visible_(e.logo_visible),
       robot_(robot),
       entree_(entree),
+      XInit_(e.XInit(robot)),
+      YInit_(e.YInit(robot)),
+      CapInit_(e.CapInit(robot)),
       TrajNbActions_(e.TrajNbActions(robot)),
       nb_a_generer_(e.nb_a_generer) {
     if (entree <= actions_max) {
@@ -59,6 +62,9 @@ void Instantane::retablir(Etat& e, Moteur& moteur, Fenetres& f) const {
 }
 
 void Instantane::retablir_enregistrement(Etat& e) const {
+    e.XInit(robot_) = XInit_;
+    e.YInit(robot_) = YInit_;
+    e.CapInit(robot_) = CapInit_;
     e.TrajNbActions(robot_) = TrajNbActions_;
     if (entree_ <= actions_max) {
         e.TrajAction(robot_, entree_) = action_;

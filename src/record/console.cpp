@@ -1,11 +1,15 @@
 #include "record/console.h"
 
 #include "record/champs.h"
-#include "sim/actions.h"
+
+#include <utility>
 
 ChampsPose Console::VScroll1_Change(Entier16 numero) {
-    if (phase_ == Phase::arret)
+    if (phase_ == Phase::arret && numero != robot_) {
         robot_ = numero;
+        precedents_.clear();
+        debut_sans_action_ = false;
+    }
     return tele_get_xya(e, robot_);
 }
 
@@ -19,18 +23,32 @@ void Console::exiger_robot_sur_la_table() const {
 
 void Console::Command9_Click(const ChampsPose& champs) {
     if (phase_ != Phase::arret) {
-        action_finie();
         phase_ = Phase::arret;
         return;
     }
     exiger_robot_sur_la_table();
-    Entier16 x = lire_champ({"X", champs.TextX});
-    Entier16 y = lire_champ({"Y", champs.TextY});
-    Entier16 a = lire_champ({"Cap", champs.TextA});
+    const Entier16 x = lire_champ({"X", champs.TextX});
+    const Entier16 y = lire_champ({"Y", champs.TextY});
+    debuter(x, y, lire_champ({"Cap", champs.TextA}));
+}
+
+void Console::debuter(Entier16 x, Entier16 y, Entier16 a) {
+    // A start that nothing followed has taken no place.
+    if (!std::exchange(debut_sans_action_, true))
+        ceder_la_place();
+    etapes_.clear();
+    joue_ = false;
     tele_set_xya(e, moteur_, f, robot_, x, y, a);
     Set_Sauv_Robot(e, robot_);
-    etapes_.clear();
     phase_ = Phase::repos;
+}
+
+// The unsaved path of the robot is kept, and annuler() can bring it back.
+void Console::ceder_la_place() {
+    if (!e.TrajetModifie(robot_))
+        return precedents_.clear();
+    const bool garde = reprise_ != nullptr && reprise_->garder_ou_prevenir(f);
+    precedents_.push_back({Instantane(e, robot_, 1), std::move(etapes_), e.RobotTele, garde});
 }
 
 void Console::Command4_Click(std::string_view legende, const std::string& Text1,
@@ -55,35 +73,60 @@ void Console::Command4_Click(std::string_view legende, const std::string& Text1,
 }
 
 void Console::tele_action(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2) {
+    // The path that starts over would be lost.
+    if (e.logo_visible && e.TrajetModifie(I) && reprise_ != nullptr)
+        reprise_->garder_ou_prevenir(f);
+    lancer(I, action, p1, p2);
+    phase_ = Phase::action;
+    // What is recorded goes into the recovery file even if the rest of it is refused.
+    try {
+        inscrire(I, action, p1, p2);
+    } catch (const ErreurExecution&) {
+        ecrire_reprise();
+        throw;
+    }
+    ecrire_reprise();
+}
+
+void Console::lancer(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2) {
     memoriser(I, action, p1, p2);
     if (e.logo_visible)
         moteur_.Run_Jeu();
     else
         f.regler_Timer(e.PasTemps * 10);
-    phase_ = Phase::action;
+    joue_ = true;
     e.ActionEnCours(I) = Nom10(action);
     e.ParamEnCours(I) = p1;
     e.Param2EnCours(I) = p2;
     e.Progression(I) = 0;
     e.RobotTele = I;
     Set_Sauv_Robot(e, I); // again: it may have been saved since the recording began
-    // What is recorded goes into the recovery file even if the rest of it is refused.
+}
+
+void Console::inscrire(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2) {
+    ajouter_au_trajet(I, p1, p2);
+    if (e.utiliDamier)
+        moteur_.predire_carreaux(I);
+    const int lignes = e.nb_a_generer;
     try {
-        ajouter_au_trajet(I, p1, p2);
-        if (e.utiliDamier)
-            moteur_.predire_carreaux(I);
         remplir_TableauAGenerer(action);
-    } catch (const ErreurExecution&) {
-        if (reprise_ != nullptr)
-            reprise_->ecrire_ou_prevenir(f);
-        throw;
+    } catch (const ErreurExecution& erreur) {
+        etapes_.back().sans_code = true;
+        const char* const manque = e.nb_a_generer > lignes ? "son compte de carreaux" : "elle";
+        throw ErreurExecution(std::string(erreur.what()) +
+                              ". L'action est jouée et gardée dans le trajet, mais " + manque +
+                              " manquera dans le code généré");
     }
+}
+
+void Console::ecrire_reprise() {
     if (reprise_ != nullptr)
         reprise_->ecrire_ou_prevenir(f);
 }
 
 void Console::memoriser(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2) {
     // A run that has ended starts again from its first action, and so does the trajectory.
+    debut_sans_action_ = false;
     const bool recommence = e.logo_visible;
     const Entier16 numero = (recommence ? 0 : int{e.NumAction(I)}) + 1;
     const std::int32_t debut = recommence ? 0 : e.TempsEcoule;
@@ -136,31 +179,33 @@ void Console::ajouter_ligne(Code code, std::uint8_t p1, std::uint8_t p2) {
 }
 
 void Console::action_finie() {
-    if (phase_ != Phase::action)
+    if (!std::exchange(joue_, false))
         return;
-    phase_ = Phase::repos;
-    if (!etapes_.empty())
-        etapes_.back().fin = e.TempsEcoule;
-}
-
-void Console::arreter_action() {
+    etapes_.back().fin = e.TempsEcoule;
     if (phase_ == Phase::action)
-        e.ActionEnCours(robot_) = actions::AUCUNE;
+        phase_ = Phase::repos;
 }
 
-bool Console::annulation_possible() const {
-    const bool course_sans_console = !e.logo_visible && e.RobotTele == 0;
-    return phase_ == Phase::repos && !etapes_.empty() && !course_sans_console;
+bool Console::recommencera() const {
+    return phase_ == Phase::repos && e.logo_visible && !etapes_.empty();
 }
 
-void Console::annuler() {
-    if (!annulation_possible())
-        return;
-    const Etape derniere = std::move(etapes_.back());
-    etapes_.pop_back();
-    f.regler_Timer(0);
-    derniere.avant.retablir(e, moteur_, f);
-    Set_Sauv_Robot(e, robot_);
-    if (reprise_ != nullptr)
-        reprise_->ecrire_ou_prevenir(f);
+std::string Console::annonce_du_precedent() const {
+    if (precedents_.empty())
+        return {};
+    return precedents_.back().garde ? "(le trajet précédent est dans Sauvegardes ; Annuler le rend)"
+                                    : "(Annuler rend le trajet précédent)";
+}
+
+std::int32_t Console::temps_du_match() const {
+    if (joue_)
+        return e.TempsEcoule;
+    return etapes_.empty() ? 0 : etapes_.back().fin;
+}
+
+void Console::oublier() {
+    phase_ = Phase::arret;
+    joue_ = debut_sans_action_ = false;
+    etapes_.clear();
+    precedents_.clear();
 }

@@ -52,18 +52,38 @@ public:
 
     /// The engine's word that the action is over, or that the run has ended.
     void action_finie();
-    /// Ends the running action where the robot stands; the next tick gives the buttons back. What
-    /// was recorded stays recorded.
-    void arreter_action();
+    /// Ends the running action. The recording keeps what was driven of it, in whole centimetres,
+    /// degrees or hundredths of a second, and the robot stands where that ends; an action of which
+    /// nothing is left, or a beacon search, goes out of the recording. @returns false when no
+    /// action runs
+    bool arreter_action();
 
     /// "Annuler la dernière action" is possible: recording, and no robot moves.
     bool annulation_possible() const;
     /// Takes the last action back out of trajectory and generation table, both its rows where it
-    /// has a tile count, and puts the robots, the clock and the tile count back.
+    /// has a tile count, and puts the robots, the clock and the tile count back. Where there is no
+    /// action left, takes back the start of the recording: the unsaved one that it replaced is
+    /// there again, and not recording.
     void annuler();
+
+    /// The path of robot `numero` can be continued: it was recorded last.
+    bool continuation_possible(Entier16 numero) const;
+    /// Records on at the end of the robot's path: plays it at once, lists its actions, and the next
+    /// one follows them.
+    /// @throws ErreurExecution when the path cannot be played to its end; nothing is recorded then
+    void continuer(Entier16 numero);
+    /// Another project or other files were loaded: no recording goes on, nothing can be undone.
+    void oublier();
 
     /// The actions of this recording, oldest first.
     const std::vector<Etape>& etapes() const { return etapes_; }
+    /// This recording took the place of an unsaved one of the same robot, which annuler() brings
+    /// back: what the list says of it. Empty when there is none.
+    std::string annonce_du_precedent() const;
+    /// The next action starts the trajectory over: the match, or the run, has ended.
+    bool recommencera() const;
+    /// Time of the match at the end of the last action, or by now when one runs.
+    std::int32_t temps_du_match() const;
 
     /// Plays and records one action. The engine's clock runs after it, whatever is thrown.
     void tele_action(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2);
@@ -73,7 +93,22 @@ private:
         std::string Text1, Text4;
     };
 
+    /// What the start of a recording took the place of.
+    struct Precedent {
+        Instantane avant;
+        std::vector<Etape> etapes;
+        Entier16 RobotTele;
+        bool garde; ///< a copy is among the kept recordings
+    };
+
     void exiger_robot_sur_la_table() const;
+    void debuter(Entier16 x, Entier16 y, Entier16 a);
+    void ceder_la_place();
+    void lancer(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2);
+    void inscrire(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2);
+    void rejouer(const Etape& etape, Entier16 robot, Entier16 parcouru);
+    void rejouer_le_trajet(const struct LignesDuTrajet& lignes);
+    void ecrire_reprise();
     void memoriser(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2);
     void ajouter_au_trajet(Entier16 I, Entier16 p1, Entier16 p2);
     void remplir_TableauAGenerer(const std::string& action);
@@ -87,4 +122,7 @@ private:
     Entier16 robot_ = 1;
     Saisie saisie_;
     std::vector<Etape> etapes_;
+    std::vector<Precedent> precedents_;
+    bool debut_sans_action_ = false; ///< since the last start nothing was recorded
+    bool joue_ = false;              ///< an action runs, recording or not any more
 };

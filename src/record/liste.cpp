@@ -34,6 +34,7 @@ LigneListe ligne_de_liste(const Etape& etape) {
     const std::string texte =
         action == nullptr ? etape.nom : std::string(action->legende) + valeurs(etape, *action);
     return {std::to_string(etape.numero),
-            (etape.recommence ? "(le trajet recommence) " : "") + texte,
-            texte_duree(etape.fin - etape.debut), texte_duree(etape.fin)};
+            (etape.recommence ? "(le trajet recommence) " : "") + texte +
+                (etape.sans_code ? " (absente du code généré)" : ""),
+            texte_duree(etape.fin - etape.debut), texte_duree(etape.fin), etape.sans_code};
 }

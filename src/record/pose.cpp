@@ -39,6 +39,16 @@ void tele_set_xya(Etat& e, Moteur& moteur, Fenetres& f, Entier16 I, Entier16& X,
     f.Dessine_Robot();
 }
 
+LimitesPose limites_de_position(const Etat& e) {
+    if (e.TableHorizontale)
+        return {e.YMax, e.XMax};
+    return {e.XMax, e.YMax};
+}
+
+int ecart_de_relecture(const Etat& e) {
+    return e.TableHorizontale ? int{e.XMax} - int{e.YMax} : 0;
+}
+
 // In the turned frame YMax is the unturned width: x = YMax - y', y = x', and back.
 Pose pose_des_fichiers(const Etat& e, Entier16 I) {
     const Pose p{e.XInit(I), e.YInit(I), e.CapInit(I)};

@@ -21,6 +21,16 @@ ChampsPose tele_get_xya(const Etat& e, Entier16 I);
 void tele_set_xya(Etat& e, Moteur& moteur, Fenetres& f, Entier16 I, Entier16& X, Entier16& Y,
                   Entier16& A);
 
+/// The largest X and Y (cm) that put a robot on the displayed table when they are typed.
+struct LimitesPose {
+    Entier16 X, Y;
+};
+LimitesPose limites_de_position(const Etat& e);
+
+/// How much larger than what was typed the X is that tele_get_xya gives back, in cm: not 0 on a
+/// turned table that is no square.
+int ecart_de_relecture(const Etat& e);
+
 /// A pose in single precision (cm, cm, degrees).
 struct Pose {
     float x = 0;

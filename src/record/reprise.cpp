@@ -1,12 +1,15 @@
 #include "record/reprise.h"
 
 #include "base/fichiers.h"
+#include "config/nom_projet.h"
 
 #include <utility>
 
 namespace fs = std::filesystem;
 
 namespace {
+
+constexpr std::string_view nom_garde = " Reprise.ini"; ///< of which the kept ones are versions
 
 Robots robots_modifies(const Etat& e) {
     Robots robots;
@@ -18,6 +21,12 @@ Robots robots_modifies(const Etat& e) {
 void supprimer(const fs::path& fichier) {
     std::error_code erreur;
     fs::remove(fichier, erreur);
+}
+
+// A directory that has disappeared is made again; what cannot be made is told by what is written.
+void recreer(const fs::path& dossier) {
+    std::error_code erreur;
+    fs::create_directories(dossier, erreur);
 }
 
 std::string question_de_reprise(const std::string& projet, const Enregistrement& enregistrement) {
@@ -33,19 +42,6 @@ std::string question_de_reprise(const std::string& projet, const Enregistrement&
 
 } // namespace
 
-std::string BilanSauvegarde::message() const {
-    if (echecs.empty())
-        return {};
-    std::string texte = "Le trajet enregistré n'a pas pu être sauvegardé en entier :";
-    for (const EchecEcriture& echec : echecs)
-        texte.append(RetourLigne).append(echec.chemin.string() + " : " + echec.raison);
-    texte += RetourLigne;
-    if (echec_reprise.empty())
-        return texte + "L'enregistrement est gardé dans " + reprise.string() +
-               " : il sera proposé au prochain démarrage.";
-    return texte + "L'enregistrement n'est gardé nulle part ailleurs (" + echec_reprise + ").";
-}
-
 AvisPartage Reprise::prendre_projet(bool vierge) {
     if (!place_.prendre(e.NomProjet, vierge))
         return {};
@@ -60,11 +56,30 @@ fs::path Reprise::chemin() const {
     return place_.fichier(e.NomProjet);
 }
 
+std::string Reprise::texte(const Robots& robots) const {
+    return texte_enregistrement(prendre_enregistrement(e, robots));
+}
+
+bool Reprise::contient(const std::string& texte) const {
+    try {
+        return lire_octets(chemin()) == texte;
+    } catch (const ErreurFichier&) {
+        return false;
+    }
+}
+
 void Reprise::ecrire() {
     en_attente_ |= robots_modifies(e);
     if (en_attente_.none())
         return;
-    remplacer_fichier(chemin(), texte_enregistrement(prendre_enregistrement(e, en_attente_)));
+    const fs::path fichier = chemin();
+    recreer(dossier_);
+    // A recording that was there before and never came back is not ours to replace.
+    std::error_code erreur;
+    if (tenu_ != fichier && fs::exists(fichier, erreur))
+        garder_texte(e.NomProjet, lire_octets(fichier));
+    remplacer_fichier(fichier, texte(en_attente_));
+    tenu_ = fichier;
 }
 
 void Reprise::ecrire_ou_prevenir(Fenetres& f) {
@@ -78,21 +93,134 @@ void Reprise::ecrire_ou_prevenir(Fenetres& f) {
     }
 }
 
+std::string Reprise::ou_restent_les_refus() const {
+    return " Il reste dans " + dossier_gardes().string() +
+           " : « Reprendre un trajet » de la télécommande le rend.";
+}
+
 BilanSauvegarde Reprise::sauver(Fenetres& f, const Ecrit& ecrit) {
     const Robots demandes = robots_modifies(e); // SauvRobot forgets the flags
     en_attente_ |= demandes;
-    BilanSauvegarde bilan{SauvRobot(e, f, dossier_, ecrit), chemin(), {}};
+    if (demandes.any())
+        recreer(dossier_);
+    BilanSauvegarde bilan = SauvRobot(e, f, dossier_, ou_restent_les_refus(), ecrit);
+    bilan.reprise = chemin();
+    garder_les_refus(bilan);
     if (bilan.complete())
         en_attente_ &= ~demandes;
     try {
         if (en_attente_.any())
             ecrire();
-        else if (demandes.any())
-            supprimer(chemin());
+        else if (tenu_ == chemin())
+            supprimer(tenu_);
     } catch (const ErreurExecution& erreur) {
-        bilan.echec_reprise = erreur.what();
+        if (!contient(texte(en_attente_)))
+            bilan.echec_reprise = erreur.what();
     }
+    for (int i = 0; i <= robots_max && !bilan.en_surete(); ++i)
+        e.TrajetModifie(i) = en_attente_.test(static_cast<std::size_t>(i));
     return bilan;
+}
+
+// A refused path that cannot be kept waits in the recovery file instead.
+void Reprise::garder_les_refus(BilanSauvegarde& bilan) {
+    if (bilan.refuses.none())
+        return;
+    try {
+        garder(bilan.refuses);
+        en_attente_ &= ~bilan.refuses;
+    } catch (const ErreurFichier& erreur) {
+        bilan.echecs.push_back({erreur.chemin(), erreur.raison()});
+    } catch (const ErreurExecution& erreur) {
+        bilan.echecs.push_back({dossier_gardes(), erreur.what()});
+    }
+}
+
+std::vector<EchecEcriture> Reprise::sauver_ailleurs(const BilanSauvegarde& bilan,
+                                                    const fs::path& dossier) {
+    std::vector<EchecEcriture> echecs = ecrire_ailleurs(e, bilan, dossier);
+    const fs::path fichier = dossier / chemin().filename();
+    try {
+        if (bilan.refuses.any())
+            remplacer_fichier(fichier, texte(bilan.refuses));
+    } catch (const ErreurExecution& erreur) {
+        echecs.push_back({fichier, erreur.what()});
+    }
+    if (echecs.empty()) {
+        en_attente_.reset();
+        e.TrajetModifie.remplir(false);
+    }
+    return echecs;
+}
+
+void Reprise::garder(const Robots& robots) {
+    garder_texte(e.NomProjet, texte(robots));
+}
+
+// Whichever program's recovery file it was in: the kept ones are the project's.
+void Reprise::garder_texte(const std::string& projet, const std::string& contenu) const {
+    const fs::path fichier = chemin_de_projet(dossier_, projet, nom_garde);
+    const std::vector<fs::path> versions = versions_gardees(fichier, dossier_gardes());
+    try {
+        if (!versions.empty() && lire_octets(versions.front()) == contenu)
+            return;
+    } catch (const ErreurFichier&) { // NOLINT(bugprone-empty-catch)
+        // Not readable: not the same.
+    }
+    recreer(dossier_);
+    garder_version(fichier, contenu, dossier_gardes());
+}
+
+bool Reprise::garder_ou_prevenir(Fenetres& f) {
+    const Robots robots = en_attente_ | robots_modifies(e);
+    if (robots.none())
+        return false;
+    try {
+        garder(robots);
+        return true;
+    } catch (const ErreurExecution& erreur) {
+        f.message(std::string("Le trajet enregistré n'a pas pu être mis dans les sauvegardes : ") +
+                  erreur.what());
+        return false;
+    }
+}
+
+void Reprise::abandonner(Fenetres& f) {
+    const bool garde = garder_ou_prevenir(f);
+    e.TrajetModifie.remplir(false);
+    en_attente_.reset();
+    if (garde && tenu_ == chemin())
+        supprimer(tenu_);
+    tenu_.clear();
+}
+
+std::vector<EnregistrementGarde> Reprise::gardes() const {
+    std::vector<EnregistrementGarde> lus;
+    for (const fs::path& fichier :
+         versions_gardees(chemin_de_projet(dossier_, e.NomProjet, nom_garde), dossier_gardes())) {
+        try {
+            int ligne = 0;
+            lus.push_back({fichier, lire_enregistrement(en_utf8(lire_octets(fichier)), ligne)});
+        } catch (const ErreurExecution&) { // NOLINT(bugprone-empty-catch)
+            // What cannot be read is not offered.
+        }
+    }
+    return lus;
+}
+
+void Reprise::restaurer(const Enregistrement& enregistrement) {
+    restaurer_enregistrement(e, enregistrement);
+    for (const Enregistrement::Robot& robot : enregistrement.robots)
+        en_attente_.set(static_cast<std::size_t>(robot.numero));
+    tenu_ = chemin();
+}
+
+void Reprise::reprendre(Fenetres& f, const Enregistrement& enregistrement) {
+    garder_ou_prevenir(f);
+    e.TrajetModifie.remplir(false);
+    en_attente_.reset();
+    restaurer(enregistrement);
+    ecrire_ou_prevenir(f);
 }
 
 void Reprise::mettre_de_cote(Fenetres& f, const fs::path& fichier,
@@ -104,33 +232,54 @@ void Reprise::mettre_de_cote(Fenetres& f, const fs::path& fichier,
               (erreur ? "" : ". Le fichier est mis de côté : " + a_cote.string()));
 }
 
-bool Reprise::proposer(Fenetres& f, const std::function<void(const std::string&)>& charger_projet) {
-    en_attente_.reset();
-    auto attente = place_.en_attente(e.NomProjet, charger_projet != nullptr);
-    if (!attente)
-        return false;
-    const fs::path fichier = attente->fichier;
-    const std::string projet = attente->projet;
+int Reprise::dernier_robot() const {
+    int i = robots_max;
+    while (i > 0 && !en_attente_.test(static_cast<std::size_t>(i)))
+        --i;
+    return i;
+}
+
+std::optional<Enregistrement> Reprise::lire(Fenetres& f, const fs::path& fichier) const {
     int ligne = 0;
     try {
-        const Enregistrement lu = lire_enregistrement(en_utf8(lire_octets(fichier)), ligne);
-        if (!f.question(question_de_reprise(projet, lu))) {
-            supprimer(fichier);
-            return false;
-        }
-        place_.adopter(std::move(*attente));
-        if (projet != e.NomProjet)
-            charger_projet(projet);
-        restaurer_enregistrement(e, lu);
-        for (const Enregistrement::Robot& robot : lu.robots)
-            en_attente_.set(static_cast<std::size_t>(robot.numero));
-        return true;
+        return lire_enregistrement(en_utf8(lire_octets(fichier)), ligne);
     } catch (const ErreurFichier& erreur) {
         mettre_de_cote(f, fichier, erreur.what());
     } catch (const ErreurExecution& erreur) {
         mettre_de_cote(f, fichier,
                        fichier.string() + " Ligne " + std::to_string(ligne) + " : " +
                            erreur.what());
+    }
+    return {};
+}
+
+bool Reprise::proposer(Fenetres& f, const std::function<void(const std::string&)>& charger_projet) {
+    en_attente_.reset();
+    tenu_.clear();
+    auto attente = place_.en_attente(e.NomProjet, charger_projet != nullptr);
+    if (!attente)
+        return false;
+    const fs::path fichier = attente->fichier;
+    const std::string projet = attente->projet;
+    const std::optional<Enregistrement> lu = lire(f, fichier);
+    if (!lu)
+        return false;
+    try {
+        if (!f.question(question_de_reprise(projet, *lu),
+                        "Non : ce trajet ne sera plus proposé." + ou_restent_les_refus())) {
+            garder_texte(projet, texte_enregistrement(*lu));
+            supprimer(fichier);
+            return false;
+        }
+        place_.adopter(std::move(*attente));
+        if (projet != e.NomProjet)
+            charger_projet(projet);
+        restaurer(*lu);
+        return true;
+    } catch (const ErreurExecution& erreur) {
+        f.message("Le trajet enregistré n'a pas été repris : " + std::string(erreur.what()) +
+                  ". Il reste dans " + fichier.string() +
+                  " et sera proposé au prochain démarrage.");
     }
     return false;
 }

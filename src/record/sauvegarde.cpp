@@ -24,6 +24,11 @@ public:
         return nom_de_fichier(e.NomProjet, sorte + std::to_string(i) + ".ini");
     }
     fs::path chemin(const std::string& nom) const { return trouver_fichier(dossier_, nom); }
+    fs::path chemin_trajet(int i) const { return chemin(nom(" Trajet", i)); }
+    // Deliberate: its number is the robot counter's after the last robot.
+    fs::path chemin_generation() const {
+        return chemin(nom(" PourGenerer", dernier_robot_propose + 1));
+    }
 
     // Runs `action`; its error is kept, under the file that it was for, instead of going further.
     template <typename Action>
@@ -51,6 +56,24 @@ public:
         });
     }
 
+    void ecrire_trajet(int i) {
+        ecrire(chemin_trajet(i), [&] { return texte_trajet(e, i, nom(" Trajet", i)); });
+    }
+    void ecrire_generation() {
+        ecrire(chemin_generation(),
+               [&] { return texte_generation(e, nom(" PourGenerer", dernier_robot_propose + 1)); });
+    }
+
+    // Runs `action` with the table as the files have it; when a coordinate does not allow that,
+    // everything stays as it was.
+    template <typename Action>
+    void sur_la_table_droite(Action action) {
+        const bool tournee = e.TableHorizontale && essayer(dossier_, [&] { vertical(e); });
+        action();
+        if (tournee)
+            essayer(dossier_, [&] { horizontal(e); });
+    }
+
     std::vector<EchecEcriture> echecs() && { return std::move(echecs_); }
 
 private:
@@ -60,24 +83,23 @@ private:
     std::vector<EchecEcriture> echecs_;
 };
 
-// Turns the table as the files have it; when a coordinate does not allow it, everything stays as it
-// was.
-bool redresser(Etat& e, Ecriture& ecriture, const fs::path& dossier) {
-    if (!e.TableHorizontale)
-        return false;
-    return ecriture.essayer(dossier, [&] { vertical(e); });
-}
-
-bool demander(Etat& e, Fenetres& f, int i, const fs::path& chemin) {
+bool demander(Etat& e, Fenetres& f, int i, const fs::path& chemin, const std::string& explication) {
     std::string texte = "Vous avez modifié le trajet du robot " + std::to_string(i);
     texte += RetourLigne;
     texte += "Doit-on le sauvegarder ?";
     texte += RetourLigne;
     texte += "( Fichier : " + chemin.string();
     f.ecrire_texte_Mess(texte);
-    const bool oui = f.question(texte);
+    const bool oui = f.question(texte, explication);
     e.TrajetModifie(i) = false;
     return oui;
+}
+
+int dernier_modifie(const Etat& e) {
+    int i = dernier_robot_propose;
+    while (i >= 0 && !e.TrajetModifie(i))
+        --i;
+    return i;
 }
 
 } // namespace
@@ -86,30 +108,62 @@ void Set_Sauv_Robot(Etat& e, Entier16 I) {
     e.TrajetModifie(I) = true;
 }
 
-std::vector<EchecEcriture> SauvRobot(Etat& e, Fenetres& f, const fs::path& dossier_configuration,
-                                     const Ecrit& ecrit) {
-    if (const std::string raison = raison_projet_impossible(e.NomProjet); !raison.empty())
-        return {EchecEcriture{dossier_configuration, raison}};
+std::string BilanSauvegarde::message() const {
+    if (echecs.empty())
+        return {};
+    std::string texte = "Le trajet enregistré n'a pas pu être sauvegardé en entier :";
+    for (const EchecEcriture& echec : echecs)
+        texte.append(RetourLigne).append(echec.chemin.string() + " : " + echec.raison);
+    texte += RetourLigne;
+    if (en_surete())
+        return texte + "L'enregistrement est gardé dans " + reprise.string() +
+               " : il sera proposé au prochain démarrage.";
+    return texte + "L'enregistrement n'est gardé nulle part ailleurs (" + echec_reprise + ").";
+}
+
+BilanSauvegarde SauvRobot(Etat& e, Fenetres& f, const fs::path& dossier_configuration,
+                          std::string_view apres_un_refus, const Ecrit& ecrit) {
+    BilanSauvegarde bilan;
+    if (const std::string raison = raison_projet_impossible(e.NomProjet); !raison.empty()) {
+        bilan.echecs.push_back({dossier_configuration, raison});
+        return bilan;
+    }
     Ecriture ecriture(e, dossier_configuration, ecrit);
-    const bool tournee = redresser(e, ecriture, dossier_configuration);
-    bool oui = false; // the last answer decides about the generation input file
-    int i = 0;
-    for (; i <= dernier_robot_propose; ++i) {
-        if (!e.TrajetModifie(i))
-            continue;
-        const std::string nom = ecriture.nom(" Trajet", i);
-        const fs::path chemin = ecriture.chemin(nom);
-        oui = demander(e, f, i, chemin);
-        if (oui)
-            ecriture.ecrire(chemin, [&] { return texte_trajet(e, i, nom); });
-    }
-    if (oui) {
-        const std::string nom = ecriture.nom(" PourGenerer", i);
-        const fs::path chemin = ecriture.chemin(nom);
-        f.message(chemin.string());
-        ecriture.ecrire(chemin, [&] { return texte_generation(e, nom); });
-    }
-    if (tournee)
-        ecriture.essayer(dossier_configuration, [&] { horizontal(e); });
+    const int dernier = dernier_modifie(e);
+    ecriture.sur_la_table_droite([&] {
+        for (int i = 0; i <= dernier; ++i) {
+            if (!e.TrajetModifie(i))
+                continue;
+            std::string explication = "Non : ce trajet ne sera plus proposé.";
+            explication.append(apres_un_refus);
+            if (i == dernier)
+                explication.append(RetourLigne)
+                    .append("Cette réponse décide aussi du fichier de génération.");
+            bilan.generation = demander(e, f, i, ecriture.chemin_trajet(i), explication);
+            (bilan.generation ? bilan.acceptes : bilan.refuses).set(static_cast<std::size_t>(i));
+            if (bilan.generation)
+                ecriture.ecrire_trajet(i);
+        }
+        if (bilan.generation) {
+            f.information(ecriture.chemin_generation().string());
+            ecriture.ecrire_generation();
+        }
+    });
+    bilan.echecs = std::move(ecriture).echecs();
+    return bilan;
+}
+
+std::vector<EchecEcriture> ecrire_ailleurs(Etat& e, const BilanSauvegarde& reponses,
+                                           const fs::path& dossier) {
+    const Ecrit personne;
+    Ecriture ecriture(e, dossier, personne);
+    ecriture.sur_la_table_droite([&] {
+        for (int i = 0; i <= dernier_robot_propose; ++i) {
+            if (reponses.acceptes.test(static_cast<std::size_t>(i)))
+                ecriture.ecrire_trajet(i);
+        }
+        if (reponses.generation)
+            ecriture.ecrire_generation();
+    });
     return std::move(ecriture).echecs();
 }

@@ -12,6 +12,8 @@ public:
     /// Message box with an OK button; returns once it is closed. `explication` says more where
     /// there is more to say; a window shows it beneath the text, the command line leaves it out.
     virtual void message(std::string_view texte, std::string_view explication = {}) = 0;
+    /// The same for what is no fault: the name of the file about to be written.
+    virtual void information(std::string_view texte) = 0;
     /// Message box with Yes and No buttons; true = Yes. `explication` says what the answers lead
     /// to; a window shows it beneath the question, the command line behind it.
     virtual bool question(std::string_view texte, std::string_view explication = {}) = 0;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -44,6 +45,22 @@ void montrer_message(QWidget* fenetre, std::string_view texte, std::string_view 
 
 void Boites::message(std::string_view texte, std::string_view explication) {
     montrer_message(&fenetre_, texte, explication);
+}
+
+void Boites::information(std::string_view texte) {
+    QMessageBox boite(&fenetre_);
+    preparer(boite, "information", texte);
+    boite.setIcon(QMessageBox::Information);
+    boite.setStandardButtons(QMessageBox::Ok);
+    boite.exec();
+}
+
+QString Boites::choisir_dossier(const QString& titre) {
+    QFileDialog choix(&fenetre_, titre, QDir::homePath());
+    choix.setObjectName("choisir_dossier");
+    choix.setFileMode(QFileDialog::Directory);
+    choix.setOption(QFileDialog::ShowDirsOnly);
+    return choix.exec() == QDialog::Accepted ? choix.selectedFiles().value(0) : QString();
 }
 
 bool Boites::question(std::string_view texte, std::string_view explication) {

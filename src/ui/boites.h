@@ -13,6 +13,10 @@ public:
 
     /// A box with an OK button; returns once it is closed.
     void message(std::string_view texte, std::string_view explication = {});
+    /// The same for what is no fault.
+    void information(std::string_view texte);
+    /// Asks for a directory. @returns its path; empty when the user gives up
+    QString choisir_dossier(const QString& titre);
     /// A box with "Oui" and "Non", which alone answer: Escape and the frame do nothing.
     /// @param explication  what the answers lead to, beneath the question
     /// @returns true for "Oui"

@@ -79,6 +79,8 @@ void FOption::Check3_Click(bool coche) {
     if (!e.AffichageLent)
         e.persistant = false;
     sim_.Dessine_Robot();
+    sim_.table_tournee();
+    avertir_du_damier();
     modifie = true;
 }
 
@@ -102,6 +104,12 @@ void FOption::utiliDamier_Click(bool coche) {
         initDamier(sim_.etat());
     lb_utilcarreaux.setVisible(coche);
     nbre_carreaux.setVisible(coche);
+    avertir_du_damier();
+}
+
+// The chequerboard stays where it is when the table is turned.
+void FOption::avertir_du_damier() {
+    damier_tourne_.setVisible(utiliDamier.isChecked() && Check3.isChecked());
 }
 
 void FOption::Command1_Click() {
@@ -114,7 +122,8 @@ void FOption::Command1_Click() {
 }
 
 void FOption::Command2_Click() {
-    sim_.SauvRobot();
+    if (!sim_.SauvRobot())
+        return;
     projet_choisi = false; // leaving the list without a choice loads nothing, whatever came before
     Ouvrir(sim_, *this).exec();
     if (sim_.terminee())
@@ -128,7 +137,8 @@ void FOption::Command4_Click() {
     if (!sim_.peut_partir())
         return;
     sim_.SaveGeneral();
-    sim_.SauvRobot();
+    if (!sim_.SauvRobot())
+        return;
     sim_.partir();
     sim_.terminer(0);
 }

@@ -2,12 +2,12 @@
 
 #include "config/projet.h"
 #include "sim/etat.h"
+#include "ui/barre_nombre.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QWidget>
 
 #include <functional>
@@ -26,16 +26,6 @@ protected:
     bool hitButton(const QPoint&) const override { return false; }
     void nextCheckState() override {}
     void paintEvent(QPaintEvent*) override;
-};
-
-/// A vertical scroll bar for a number: up is more, for its arrows, its groove, the keys and the
-/// wheel alike.
-class BarreNombre final : public QScrollBar {
-public:
-    BarreNombre();
-
-protected:
-    void mousePressEvent(QMouseEvent* evenement) override;
 };
 
 /// The control panel "Option", beside the main window. Every change is applied to the main window
@@ -80,6 +70,7 @@ private:
     void VScroll1_Change(int valeur);
     void NbRO_Change();
     void utiliDamier_Click(bool coche);
+    void avertir_du_damier();
     void Form_Load() { charge = true; }
 
     void nommer();
@@ -94,4 +85,5 @@ private:
     CaseLibelle Check4;
     BarreNombre VScroll1;
     QLabel NbRO, lb_utilcarreaux;
+    QLabel damier_tourne_;
 };

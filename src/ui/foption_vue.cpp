@@ -4,7 +4,6 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QMouseEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QVBoxLayout>
@@ -42,32 +41,6 @@ void CaseLibelle::paintEvent(QPaintEvent*) {
     QStylePainter(this).drawItemText(rect(),
                                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic,
                                      palette(), isEnabled(), text(), QPalette::WindowText);
-}
-
-BarreNombre::BarreNombre() : QScrollBar(Qt::Vertical) {
-    setInvertedAppearance(true);
-    setInvertedControls(false);
-    setPageStep(1);
-    setTracking(false); // a drag counts when it ends
-    setFocusPolicy(Qt::StrongFocus);
-}
-
-void BarreNombre::mousePressEvent(QMouseEvent* evenement) {
-    QStyleOptionSlider option;
-    initStyleOption(&option);
-    // The style draws the groove upside down but still takes its upper half for "less".
-    switch (style()->hitTestComplexControl(QStyle::CC_ScrollBar, &option, evenement->pos(), this)) {
-    case QStyle::SC_ScrollBarSubLine:
-    case QStyle::SC_ScrollBarSubPage:
-        triggerAction(SliderSingleStepAdd);
-        break;
-    case QStyle::SC_ScrollBarAddLine:
-    case QStyle::SC_ScrollBarAddPage:
-        triggerAction(SliderSingleStepSub);
-        break;
-    default:
-        QScrollBar::mousePressEvent(evenement);
-    }
 }
 
 void FOption::nommer() {
@@ -110,6 +83,9 @@ void FOption::nommer() {
     Check1.setChecked(true);
     VScroll1.setAccessibleName("Nombre de robots");
     nbre_carreaux.setAccessibleName("Nombre de carreaux");
+    damier_tourne_.setObjectName("damier_tourne");
+    damier_tourne_.setText("Table tournée : les comptes\ndiffèrent de ceux de la\ntable droite.");
+    damier_tourne_.hide();
 }
 
 void FOption::placer() {
@@ -121,6 +97,7 @@ void FOption::placer() {
     colonne->addWidget(separateur());
     colonne->addWidget(&utiliDamier);
     colonne->addLayout(placer_carreaux());
+    colonne->addWidget(&damier_tourne_);
     colonne->addWidget(separateur());
     colonne->addLayout(placer_boutons());
 }

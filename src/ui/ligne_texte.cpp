@@ -6,8 +6,10 @@
 #include <QAccessibleWidget>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTextLayout>
 
 #include <algorithm>
+#include <cmath>
 #include <type_traits>
 
 namespace {
@@ -53,6 +55,30 @@ Coupes coupes(std::string_view texte) {
     return {fins[1], fins[2]};
 }
 
+// Breaks a text where it must, a long path inside its words too; paints it from the top of `place`
+// if there is a painter. @returns its height
+int ecrire_coupe(QPainter* peintre, const QFont& police, const std::string& texte,
+                 const QRect& place) {
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    qreal y = 0;
+    for (const QString& paragraphe : texte_qt(texte).split('\n')) {
+        QTextLayout mise_en_page(paragraphe, police);
+        mise_en_page.setTextOption(option);
+        mise_en_page.beginLayout();
+        for (QTextLine ligne = mise_en_page.createLine(); ligne.isValid();
+             ligne = mise_en_page.createLine()) {
+            ligne.setLineWidth(std::max(1, place.width()));
+            ligne.setPosition({0, y});
+            y += std::ceil(ligne.height());
+        }
+        mise_en_page.endLayout();
+        if (peintre != nullptr)
+            mise_en_page.draw(peintre, place.topLeft());
+    }
+    return static_cast<int>(y);
+}
+
 } // namespace
 
 LigneTexte::LigneTexte(Sorte sorte, QWidget* parent) : QWidget(parent), sorte_(sorte) {
@@ -89,8 +115,17 @@ int LigneTexte::hauteur(int largeur) const {
     const int lignes = std::min(au_plus, largeurs_.entiere <= largeur ? 1
                                          : largeurs_.debut <= largeur ? 2
                                                                       : 3);
-    const int h = fontMetrics().height() * lignes + 2 * marge_verticale;
+    const int h =
+        std::max(fontMetrics().height() * lignes, hauteur_du_texte(largeur)) + 2 * marge_verticale;
     return h + h % 2; // even: the table lies on whole pixels at 150 % as well
+}
+
+// 0 where the values stand.
+int LigneTexte::hauteur_du_texte(int largeur) const {
+    const auto* libre = std::get_if<std::string>(&contenu_);
+    return libre == nullptr || libre->empty()
+               ? 0
+               : ecrire_coupe(nullptr, font(), *libre, {marge, 0, largeur - 2 * marge, 0});
 }
 
 void LigneTexte::changeEvent(QEvent* evenement) {
@@ -148,8 +183,10 @@ void LigneTexte::paintEvent(QPaintEvent* evenement) {
     peintre.fillRect(evenement->rect(), palette().window());
     peintre.setPen(palette().color(QPalette::WindowText));
     if (const auto* libre = std::get_if<std::string>(&contenu_)) {
-        peintre.drawText(rect().adjusted(marge, 0, -marge, 0), Qt::AlignVCenter | Qt::TextWordWrap,
-                         texte_qt(*libre));
+        const QRect place = rect().adjusted(marge, 0, -marge, 0);
+        const int h = ecrire_coupe(nullptr, font(), *libre, place);
+        ecrire_coupe(&peintre, font(), *libre,
+                     place.adjusted(0, std::max(marge_verticale, (height() - h) / 2), 0, 0));
         return;
     }
     for (int i = 0; i < rangees_max; ++i) {

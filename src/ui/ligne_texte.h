@@ -23,9 +23,11 @@ public:
     void ecrire(const LigneInfo& valeurs) { changer(valeurs); }
     void ecrire(std::string_view texte) { changer(std::string(texte)); }
     QString texte() const;
+    /// A free text stands in the line, not its values.
+    bool est_texte() const { return std::holds_alternative<std::string>(contenu_); }
 
     /// Height (logical pixels) for a width: one to three lines (the sensor's: two), as the longest
-    /// usual text asks.
+    /// usual text asks; for a free text as many as it needs to be read whole.
     int hauteur(int largeur) const;
 
     /// Tells the assistive tools about this class; once, before the first window.
@@ -42,6 +44,7 @@ private:
     static constexpr int rangees_max = 3;
 
     void changer(const Contenu& contenu);
+    int hauteur_du_texte(int largeur) const;
     void ranger();
     void ecrire_rangee(int numero, std::string_view texte);
     int rangees_possibles() const;

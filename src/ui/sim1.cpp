@@ -104,12 +104,19 @@ void Sim1::proposer_reprise() {
         e->NomProjet = nom;
         recharger_projet();
     });
-    if (repris && !terminee_) {
-        Dessine_Table();
-        Dessine_Robot();
-    }
+    if (repris && !terminee_)
+        continuer_enregistrement();
     if (!terminee_ && RepriseDessin::en_attente(projet_.dossier_configuration()))
         editeurs().proposer_reprises();
+}
+
+void Sim1::continuer_enregistrement() {
+    const int dernier = reprise_.dernier_robot();
+    if (dernier > e->NbRobot && dernier <= robots_des_fichiers)
+        options_.choisir_robots(dernier);
+    redessiner();
+    montrer_console();
+    console_->continuer_le_dernier();
 }
 
 // The bare caption is the default project's.
@@ -141,7 +148,7 @@ void Sim1::charger_projet_choisi() {
     options_.retablir_plage();
     recommencer_console();
     if (reprise_.proposer(*this))
-        redessiner();
+        continuer_enregistrement();
 }
 
 void Sim1::redessiner() {
@@ -156,6 +163,11 @@ void Sim1::redessiner() {
 void Sim1::recommencer_console() {
     if (console_)
         console_->recommencer();
+}
+
+void Sim1::table_tournee() {
+    if (console_)
+        console_->indiquer_position();
 }
 
 void Sim1::robots_changes() {
@@ -216,11 +228,35 @@ void Sim1::cacher_options_et_console() {
         console_->hide();
 }
 
-void Sim1::SauvRobot() {
-    const BilanSauvegarde bilan =
+bool Sim1::SauvRobot() {
+    BilanSauvegarde bilan =
         reprise_.sauver(*this, [this](const auto& fichier) { fichier_ecrit(fichier); });
-    if (const std::string texte = bilan.message(); !texte.empty())
-        message(texte);
+    if (!bilan.en_surete())
+        return sauver_ailleurs(std::move(bilan));
+    if (!bilan.complete())
+        message(bilan.message());
+    return true;
+}
+
+// Nothing could be written: a full disk, a stick that is gone.
+bool Sim1::sauver_ailleurs(BilanSauvegarde bilan) {
+    if (bilan.acceptes.none())
+        return question(bilan.message() + std::string(RetourLigne) +
+                            "Faut-il continuer sans garder ce trajet ?",
+                        "Non : rien n'est fermé, le trajet reste dans le programme.");
+    while (question(bilan.message() + std::string(RetourLigne) +
+                        "Faut-il l'écrire dans un autre dossier ?",
+                    "Non : rien n'est fermé, le trajet reste dans le programme.")) {
+        const QString dossier = boites_.choisir_dossier("Où écrire le trajet ?");
+        if (dossier.isEmpty())
+            continue;
+        bilan.echecs = reprise_.sauver_ailleurs(bilan, dossier.toStdString());
+        if (bilan.complete()) {
+            information("Le trajet est écrit dans " + dossier.toStdString());
+            return true;
+        }
+    }
+    return false;
 }
 
 void Sim1::Active_Desactive(bool Status) {
@@ -330,6 +366,11 @@ void Sim1::message(std::string_view texte, std::string_view explication) {
     boites_.message(texte, explication);
 }
 
+void Sim1::information(std::string_view texte) {
+    show();
+    boites_.information(texte);
+}
+
 bool Sim1::question(std::string_view texte, std::string_view explication) {
     show();
     return boites_.question(texte, explication);
@@ -341,6 +382,24 @@ void Sim1::regler_Timer(Entier16 ms) {
         cadence_.demarrer(std::chrono::milliseconds(ms), std::chrono::steady_clock::now());
     } else
         Timer.stop();
+}
+
+// The window is laid out again only where a text needs another height than the values.
+void Sim1::ecrire_Mess(const LigneMess& mess) {
+    const bool texte = Mess.est_texte();
+    Mess.ecrire(mess);
+    if (texte)
+        placer();
+}
+
+void Sim1::ecrire_texte_Mess(std::string_view texte) {
+    Mess.ecrire(texte);
+    placer();
+}
+
+void Sim1::apres_actions() {
+    if (console_)
+        console_->suivre_le_temps();
 }
 
 void Sim1::ecrire_LNom(std::string_view texte) {

@@ -40,8 +40,13 @@ public:
     void Table_Click();
     void logo_Click() { Table_Click(); }
     /// Offers to save the paths that were recorded since the last saving; tells what could not be
-    /// written.
-    void SauvRobot();
+    /// written, and writes it elsewhere if the user wants. @returns false when a path would be lost
+    /// now: stay
+    bool SauvRobot();
+    /// The unsaved paths give way to files read again: they are kept, and no longer offered.
+    void abandonner_trajets() { reprise_.abandonner(*this); }
+    /// A recording has come back: as many robots as it needs, and the console goes on with it.
+    void continuer_enregistrement();
     /// Shows the options window.
     void montrer_options();
     /// Shows the console, made the first time.
@@ -58,6 +63,8 @@ public:
     void redessiner();
     /// The console, if there is one, ends its recording and reads the robot's pose again.
     void recommencer_console();
+    /// The table lies otherwise: the console says what that means for positions.
+    void table_tournee();
     /// The number of robots has changed: the console offers as many.
     void robots_changes();
     /// The program itself has just written that file, of the project or not: it is no news.
@@ -87,17 +94,18 @@ public:
     FOption& options() { return options_; }
 
     void message(std::string_view texte, std::string_view explication = {}) override;
+    void information(std::string_view texte) override;
     bool question(std::string_view texte, std::string_view explication = {}) override;
     void regler_Timer(Entier16 ms) override;
-    void ecrire_Mess(const LigneMess& mess) override { Mess.ecrire(mess); }
-    void ecrire_texte_Mess(std::string_view texte) override { Mess.ecrire(texte); }
+    void ecrire_Mess(const LigneMess& mess) override;
+    void ecrire_texte_Mess(std::string_view texte) override;
     void ecrire_Info(const LigneInfo& info) override { Info.ecrire(info); }
     void ecrire_LNom(std::string_view texte) override;
     void ecrire_nbre_carreaux(std::string_view texte) override;
     void Active_Desactive(bool Status) override;
     void Dessine_Table() override;
     void Dessine_Robot() override;
-    void apres_actions() override {}
+    void apres_actions() override;
     void montrer_course(bool en_cours) override;
     void montrer_logo(bool visible) override;
     void fin_du_programme() override;
@@ -119,6 +127,7 @@ private:
     void proposer_reprise();
     void Timer_Timer();
     void montrer_titre();
+    bool sauver_ailleurs(BilanSauvegarde bilan);
     void menu_robots(const QPoint& ou);
     void Form_Unload();
 

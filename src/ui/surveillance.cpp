@@ -106,14 +106,18 @@ void Surveillance::verifier() {
 
 bool Surveillance::permis(bool table_seule, const std::string& quoi) {
     std::string question = "Modifié par un autre programme : " + quoi + std::string(RetourLigne);
-    if (!table_seule && trajet_non_sauve(sim_.etat()))
+    const bool perte = !table_seule && trajet_non_sauve(sim_.etat());
+    if (perte)
         question += "Relire ferait perdre le trajet enregistré qui n'est pas sauvegardé. "
                     "Faut-il relire quand même ?";
     else if (sim_.en_course())
         question += "Faut-il arrêter la course et relire ?";
     else
         return true;
-    return sim_.question(question);
+    return sim_.question(
+        question, perte ? "Oui : le trajet enregistré reste dans Sauvegardes ; « Reprendre un "
+                          "trajet » de la télécommande le rend."
+                        : "");
 }
 
 std::string Surveillance::noms(const std::vector<std::size_t>& changes) const {
@@ -138,14 +142,13 @@ void Surveillance::relire_table() {
 }
 
 void Surveillance::relire_tout() {
-    Etat& e = sim_.etat();
-    for (int i = 0; i <= robots_max; ++i)
-        e.TrajetModifie(i) = false;
+    const Etat& e = sim_.etat();
+    sim_.abandonner_trajets();
     sim_.projet().LoadTable();
     sim_.projet().Init_Robot();
     sim_.projet().Init_Jeu();
     if (e.TableHorizontale)
-        horizontal(e);
+        horizontal(sim_.etat());
     sim_.recommencer_console();
     sim_.redessiner();
 }

@@ -1,16 +1,24 @@
 #include "ui/telecommande.h"
 
+#include "record/lignes_du_trajet.h"
 #include "ui/boites.h"
 #include "ui/garde.h"
 #include "ui/place.h"
 #include "ui/sim1.h"
 
 #include <QAction>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QKeyEvent>
 
 #include <utility>
 
 namespace {
+
+// Readable on the palette's background, light or dark.
+QColor couleur_d_alerte(const QPalette& p) {
+    return p.color(QPalette::Window).lightness() < 128 ? QColor(255, 150, 110) : QColor(176, 36, 0);
+}
 
 // Brings the window up to date with the model when a procedure ends, refused or not.
 template <typename Procedure>
@@ -30,6 +38,7 @@ private:
 Télécommande::Télécommande(Sim1& sim, Reprise& reprise)
     : QWidget(&sim, Qt::Dialog | Qt::WindowCloseButtonHint),
       sim_(sim),
+      reprise_(reprise),
       console_(sim.etat(), sim, sim.moteur(), &reprise) {
     nommer();
     nommer_champs();
@@ -65,6 +74,7 @@ void Télécommande::actualiser() {
     QWidget* const clavier = focusWidget();
     Debut_Fin_Enr(console_.phase() == Console::Phase::arret);
     annuler_.setEnabled(console_.annulation_possible());
+    reprendre_.setEnabled(console_.phase() == Console::Phase::arret);
     actualiser_liste();
     // What has the keyboard is disabled while an action plays, and Qt passes the keyboard on. It
     // comes back unless the user has taken it elsewhere meanwhile.
@@ -79,15 +89,46 @@ void Télécommande::actualiser() {
 }
 
 void Télécommande::actualiser_liste() {
-    const auto& etapes = console_.etapes();
     liste_.clear();
-    for (const Etape& etape : etapes) {
+    if (const std::string annonce = console_.annonce_du_precedent(); !annonce.empty()) {
+        auto* ligne = new QListWidgetItem(texte_qt(annonce), &liste_);
+        ligne->setFlags(Qt::NoItemFlags);
+    }
+    for (const Etape& etape : console_.etapes()) {
         const LigneListe ligne = ligne_de_liste(etape);
-        liste_.addItem(texte_qt(ligne.numero + ".  " + ligne.action + "  ·  " + ligne.duree));
+        auto* element = new QListWidgetItem(
+            texte_qt(ligne.numero + ".  " + ligne.action + "  ·  " + ligne.duree), &liste_);
+        if (ligne.marquee) {
+            element->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
+            element->setToolTip("Jouée et gardée dans le trajet, mais le code généré n'aura pas "
+                                "tout : ses valeurs y vont de 0 à 255");
+        }
     }
     liste_.scrollToBottom();
-    const std::int32_t duree = etapes.empty() ? 0 : etapes.back().fin;
-    total_.setText(texte_qt("Temps du match : " + texte_duree(duree)));
+    ecrire_le_temps();
+}
+
+void Télécommande::suivre_le_temps() {
+    if (isVisible() && console_.temps_du_match() / 100 != seconde_)
+        ecrire_le_temps();
+}
+
+void Télécommande::ecrire_le_temps() {
+    constexpr std::int32_t alerte = 8000;
+    const std::int32_t duree = console_.temps_du_match();
+    seconde_ = duree / 100;
+    std::string texte = "Temps du match : " + texte_duree(duree);
+    if (console_.recommencera())
+        texte += ". La course est finie : la prochaine action recommence le trajet à l'action 1, "
+                 "depuis la position initiale. Le trajet présent ira dans Sauvegardes ; Annuler le "
+                 "rendra.";
+    else if (duree >= alerte)
+        texte += " sur 90 s : après, le trajet recommence à l'action 1";
+    total_.setText(texte_qt(texte));
+    QPalette p = palette();
+    if (duree >= alerte || console_.recommencera())
+        p.setColor(QPalette::WindowText, couleur_d_alerte(p));
+    total_.setPalette(p);
 }
 
 void Télécommande::action_finie() {
@@ -96,8 +137,9 @@ void Télécommande::action_finie() {
 }
 
 void Télécommande::recommencer() {
-    if (console_.phase() != Console::Phase::arret)
-        Command9_Click();
+    console_.oublier();
+    actualiser();
+    suivre_nombre_de_robots();
     VScroll1_Change();
 }
 
@@ -107,6 +149,40 @@ void Télécommande::VScroll1_Change() {
     TextA.setText(texte_qt(pose.TextA));
     TextX.setText(texte_qt(pose.TextX));
     TextY.setText(texte_qt(pose.TextY));
+    indiquer_position();
+    if (console_.phase() == Console::Phase::arret)
+        annuler_.setEnabled(console_.annulation_possible());
+}
+
+void Télécommande::indiquer_position() {
+    const LimitesPose limites = limites_de_position(sim_.etat());
+    const auto dehors = [this](QLineEdit& champ, int limite) {
+        bool nombre = false;
+        const double valeur = champ.text().toDouble(&nombre);
+        const bool hors = nombre && (valeur < 0 || valeur > limite);
+        QPalette p = palette();
+        if (hors) {
+            QColor teinte = couleur_d_alerte(p);
+            teinte.setAlphaF(0.3F);
+            p.setColor(QPalette::Base, teinte);
+        }
+        champ.setPalette(p);
+        return hors;
+    };
+    const bool X_dehors = dehors(TextX, limites.X);
+    const bool Y_dehors = dehors(TextY, limites.Y);
+    const QString etendue = QString("%1 × %2 cm").arg(int{limites.X}).arg(int{limites.Y});
+    QStringList textes;
+    if (const int ecart = ecart_de_relecture(sim_.etat()); ecart != 0)
+        textes << QString("Table tournée : tapez X et Y de la table droite (%1). Le X que le "
+                          "programme relit a %2 cm de %3.")
+                      .arg(etendue)
+                      .arg(std::abs(ecart))
+                      .arg(ecart > 0 ? "trop" : "moins");
+    if (X_dehors || Y_dehors)
+        textes << QString("Hors de la table (%1).").arg(etendue);
+    indication_.setText(textes.join('\n'));
+    indication_.setVisible(!textes.isEmpty());
 }
 
 void Télécommande::Command4_Click(std::size_t k) {
@@ -129,7 +205,57 @@ void Télécommande::Command2_Click() {
 
 void Télécommande::annuler() {
     const ALaFin fin([this] { actualiser(); });
+    const bool enregistrait = console_.phase() != Console::Phase::arret;
     console_.annuler();
+    if (enregistrait && console_.phase() == Console::Phase::arret)
+        VScroll1_Change();
+}
+
+void Télécommande::continuer_le_dernier() {
+    suivre_nombre_de_robots();
+    if (const int robot = robot_enregistre_en_dernier(sim_.etat()); robot != 0)
+        continuer(robot);
+    else
+        recommencer();
+}
+
+void Télécommande::continuer(int robot) {
+    const ALaFin fin([this] { actualiser(); });
+    VScroll1.setValue(robot);
+    VScroll1_Change();
+    console_.continuer(robot);
+}
+
+// What can be gone on with, as it is now.
+void Télécommande::remplir_menu() {
+    menu_reprendre_.clear();
+    const int robot = console_.robot();
+    if (console_.continuation_possible(robot)) {
+        QAction* continuer_ici =
+            menu_reprendre_.addAction(QString("Continuer le trajet du robot %1").arg(robot));
+        connect(continuer_ici, &QAction::triggered, this,
+                [this, robot] { garde(sim_, [&] { continuer(robot); }); });
+    }
+    ajouter_les_gardes();
+    if (menu_reprendre_.isEmpty())
+        menu_reprendre_.addAction("Aucun trajet à reprendre")->setEnabled(false);
+}
+
+void Télécommande::ajouter_les_gardes() {
+    for (const EnregistrementGarde& g : reprise_.gardes()) {
+        QString nom = QFileInfo(QString::fromStdString(g.fichier.string()))
+                          .lastModified()
+                          .toString("dd/MM/yyyy HH:mm:ss");
+        for (const Enregistrement::Robot& robot : g.contenu.robots)
+            nom +=
+                QString(", robot %1 (%2 actions)").arg(int{robot.numero}).arg(robot.actions.size());
+        connect(menu_reprendre_.addAction(nom), &QAction::triggered, this, [this, g] {
+            garde(sim_, [&] {
+                reprise_.reprendre(sim_, g.contenu);
+                sim_.continuer_enregistrement();
+            });
+        });
+    }
 }
 
 void Télécommande::keyPressEvent(QKeyEvent* evenement) {
@@ -141,14 +267,14 @@ void Télécommande::keyPressEvent(QKeyEvent* evenement) {
 }
 
 bool Télécommande::arreter_action() {
-    if (console_.phase() != Console::Phase::action)
-        return false;
-    console_.arreter_action();
-    return true;
+    const ALaFin fin([this] { actualiser(); });
+    return console_.arreter_action();
 }
 
 void Télécommande::showEvent(QShowEvent* evenement) {
     suivre_nombre_de_robots();
+    indiquer_position();
+    ecrire_le_temps();
     QWidget::showEvent(evenement);
 }
 
@@ -159,6 +285,9 @@ void Télécommande::suivre_nombre_de_robots() {
 }
 
 bool Télécommande::eventFilter(QObject* objet, QEvent* evenement) {
+    // The second click of a double click is no click of its own: it would undo what the first did.
+    if (objet == &Command9 && evenement->type() == QEvent::MouseButtonDblClick)
+        return true;
     const bool arrive = evenement->type() == QEvent::Enter || evenement->type() == QEvent::FocusIn;
     const bool part = evenement->type() == QEvent::Leave || evenement->type() == QEvent::FocusOut;
     for (std::size_t k = 0; k < nb_actions && (arrive || part); ++k) {
@@ -193,6 +322,11 @@ void Télécommande::connecter() {
         Command4.at(k).installEventFilter(this);
     }
     relier(Command9, [this] { Command9_Click(); });
+    Command9.installEventFilter(this);
+    connect(&menu_reprendre_, &QMenu::aboutToShow, this,
+            [this] { garde(sim_, [this] { remplir_menu(); }); });
+    for (QLineEdit* champ : {&TextX, &TextY})
+        connect(champ, &QLineEdit::textChanged, this, [this] { indiquer_position(); });
     relier(Command2, [this] { Command2_Click(); });
     relier(annuler_, [this] { annuler(); });
     connect(&VScroll1, &QScrollBar::valueChanged, this,

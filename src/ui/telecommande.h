@@ -1,12 +1,13 @@
 #pragma once
 
 #include "record/console.h"
+#include "ui/barre_nombre.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QWidget>
 
 #include <array>
@@ -35,6 +36,12 @@ public:
     void suivre_nombre_de_robots();
     /// Ends the action that the robot is driven through. @returns false when there is none
     bool arreter_action();
+    /// Goes on with the path that was recorded last, if it can be.
+    void continuer_le_dernier();
+    /// Says where the typed position lies, and what a turned table does to it.
+    void indiquer_position();
+    /// A tick is over: the time of the match is shown by the second.
+    void suivre_le_temps();
 
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
@@ -64,7 +71,11 @@ private:
 
     void Debut_Fin_Enr(bool Status);
     void annuler();
+    void continuer(int robot);
+    void remplir_menu();
+    void ajouter_les_gardes();
     void actualiser();
+    void ecrire_le_temps();
     void actualiser_liste();
     void surligner(const ActionConsole* action);
 
@@ -79,16 +90,21 @@ private:
     void connecter_touches();
 
     Sim1& sim_;
+    Reprise& reprise_;
     Console console_;
     std::array<QPushButton, nb_actions> Command4;
     std::array<QLabel, nb_legendes> Label1;
     QLineEdit Text1, Text4, TextX, TextY, TextA;
-    QScrollBar VScroll1;
+    BarreNombre VScroll1;
     QLabel NbRO;
     QPushButton Command9, Command2;
     QPushButton annuler_;
+    QPushButton reprendre_;
+    QMenu menu_reprendre_{this};
+    QLabel indication_;
     QListWidget liste_;
     QLabel total_;
+    std::int32_t seconde_ = 0;         ///< that total_ shows
     QWidget* clavier_avant_ = nullptr; ///< what had the keyboard before the present action
     QWidget* clavier_passe_ = nullptr; ///< what Qt gave it to then
 };

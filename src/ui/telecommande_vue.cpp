@@ -90,6 +90,14 @@ void Télécommande::nommer() {
     annuler_.setObjectName("annuler");
     annuler_.setText("Annuler la dernière action");
     annuler_.setToolTip("Retire la dernière action et remet le robot où il était (Ctrl+Z)");
+    reprendre_.setObjectName("reprendre");
+    reprendre_.setText("Reprendre un trajet");
+    reprendre_.setToolTip("Continue le dernier trajet enregistré, ou en rend un qui est gardé dans "
+                          "Sauvegardes");
+    menu_reprendre_.setObjectName("menu_reprendre");
+    reprendre_.setMenu(&menu_reprendre_);
+    indication_.setObjectName("indication");
+    indication_.setWordWrap(true);
     liste_.setObjectName("liste");
     liste_.setAccessibleName("Actions enregistrées");
     total_.setObjectName("total");
@@ -122,10 +130,7 @@ void Télécommande::nommer_champs() {
     Text4.setToolTip("De 0 à 255 degrés");
     VScroll1.setObjectName("VScroll1");
     VScroll1.setAccessibleName("Numéro du robot");
-    VScroll1.setOrientation(Qt::Vertical);
     VScroll1.setRange(1, robots_des_fichiers);
-    VScroll1.setPageStep(1);
-    VScroll1.setFocusPolicy(Qt::StrongFocus);
     Label1.at(l_numero).setBuddy(&VScroll1);
 }
 
@@ -133,6 +138,7 @@ void Télécommande::placer() {
     auto* gauche = new QVBoxLayout;
     gauche->addLayout(placer_robot());
     gauche->addWidget(&Command9);
+    gauche->addWidget(&reprendre_);
     gauche->addWidget(separateur());
     gauche->addLayout(placer_action());
     gauche->addLayout(placer_boutons());
@@ -167,6 +173,8 @@ QLayout* Télécommande::placer_robot() {
         grille->addWidget(&Label1.at(unite), rang, 3);
         ++rang;
     }
+    grille->addWidget(&indication_, rang, 0, 1, 5);
+    indication_.hide();
     return grille;
 }
 
@@ -221,6 +229,7 @@ QLayout* Télécommande::placer_liste() {
     liste_.setAlternatingRowColors(true);
     colonne->addWidget(titre);
     colonne->addWidget(&liste_, 1);
+    total_.setWordWrap(true);
     colonne->addWidget(&total_);
     colonne->addWidget(&annuler_);
     return colonne;
@@ -231,6 +240,7 @@ void Télécommande::connecter_touches() {
     const auto relier = [this](QPushButton& bouton, const QKeySequence& touche) {
         auto* action = new QAction(this);
         action->setShortcut(touche);
+        action->setAutoRepeat(&bouton != &Command9); // held down, it would start and end in turn
         connect(action, &QAction::triggered, &bouton, [&bouton] { bouton.click(); });
         addAction(action);
     };

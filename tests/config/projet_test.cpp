@@ -92,6 +92,7 @@ TEST_F(LireProjet, trajet_refuse_la_ligne_compte_depuis_le_premier_fichier) {
     ecrire("Defaut Trajet2.ini", "Init,4,5,6\nAvance,5\nBD\n");
     projet.Init_Jeu();
     EXPECT_EQ(f.messages, std::vector{message("Defaut Trajet2.ini", 43)});
+    EXPECT_NE(f.explications.at(0).find("Tous les robots restent immobiles"), std::string::npos);
     for (const int n : {1, 2, 9}) {
         EXPECT_EQ(e.TrajNbActions(n), 1) << n;
         EXPECT_EQ(e.TrajAction(n, 1), Nom10("FIN")) << n;

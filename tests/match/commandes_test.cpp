@@ -68,7 +68,9 @@ TEST(Commandes, verifier_dit_tout_et_ne_change_rien) {
         "Erreur lors de la lecture du fichier " + (d / "Configuration/Defaut ").string();
     EXPECT_EQ(r.erreurs,
               debut + "Table.ini Ligne 2\nRaison : enregistrement inconnu : Q\n" + debut +
-                  "Trajet2.ini Ligne 43\nRaison : enregistrement inconnu : SAUTE     \n");
+                  "Trajet2.ini Ligne 43\nRaison : enregistrement inconnu : SAUTE     \nTous les "
+                  "robots restent immobiles, ceux des autres fichiers aussi, tant que ce fichier "
+                  "n'est pas corrigé.\n");
 }
 
 TEST(Commandes, simuler_laisse_la_trace_et_les_etats_la_ou_l_utilisateur_se_tient) {

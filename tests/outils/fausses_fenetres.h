@@ -13,7 +13,7 @@ public:
 
     std::vector<std::string> appels;
     std::vector<std::string> messages;
-    std::vector<std::string> explications; ///< one for each message
+    std::vector<std::string> explications; ///< one for each message and question
     std::deque<bool> reponses;
     std::string Mess, Info, LNom, nbre_carreaux;
     int intervalle = 0;
@@ -24,7 +24,9 @@ public:
         messages.emplace_back(texte);
         noter("message", texte);
     }
-    bool question(std::string_view texte, std::string_view = {}) override {
+    void information(std::string_view texte) override { noter("information", texte); }
+    bool question(std::string_view texte, std::string_view explication = {}) override {
+        explications.emplace_back(explication);
         noter("question", texte);
         if (reponses.empty())
             return false;

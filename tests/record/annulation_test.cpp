@@ -86,9 +86,71 @@ TEST(Annulation, seulement_en_enregistrant_et_au_repos) {
     EXPECT_TRUE(b.c.annulation_possible());
     b.c.Command9_Click({});
     EXPECT_FALSE(b.c.annulation_possible());
-    b.debuter(); // a new recording does not reach into the previous one
+    b.e.TrajetModifie(1) = false; // saved: nothing is lost by starting over
+    b.debuter();
     EXPECT_FALSE(b.c.annulation_possible());
     EXPECT_EQ(b.trajet(1), "AVANCE    ,50,0;");
+}
+
+// "Début Enr." over a recording that is not saved: it is kept, and taking the start back, whatever
+// was driven since, gives it back with its position and its list.
+TEST(Annulation, le_debut_sur_un_trajet_non_sauve_se_reprend) {
+    for (const bool actions_depuis : {false, true}) {
+        BancConsole b;
+        b.debuter();
+        b.jouer("Avance", "10");
+        b.jouer("Recule", "3");
+        b.c.Command9_Click({});
+        const std::string avant = photo(b);
+        b.debuter(1, {"100", "50", "0"});
+        EXPECT_NE(b.c.annonce_du_precedent().find("Sauvegardes"), std::string::npos);
+        ASSERT_EQ(b.reprise.gardes().size(), 1U);
+        EXPECT_EQ(b.reprise.gardes()[0].contenu.nb_actions(), 2U);
+        if (actions_depuis) {
+            b.jouer("Gauche", "0", "30");
+            b.jouer("Avance", "7");
+            b.c.annuler();
+            b.c.annuler();
+        } else {
+            b.c.Command9_Click({}); // given up at once
+        }
+        b.c.annuler();
+        EXPECT_EQ(photo(b), avant);
+        EXPECT_EQ(b.e.XInit(1), 60);
+        EXPECT_EQ(b.c.etapes().size(), 2U);
+        EXPECT_EQ(b.c.phase(), Console::Phase::arret);
+        EXPECT_EQ(b.c.annonce_du_precedent(), "");
+        EXPECT_FALSE(b.c.annulation_possible());
+    }
+    // A start that nothing followed has replaced nothing.
+    BancConsole b;
+    b.debuter();
+    b.c.Command9_Click({});
+    b.debuter(1, {"100", "50", "0"});
+    EXPECT_FALSE(b.c.annulation_possible());
+    EXPECT_TRUE(b.reprise.gardes().empty());
+}
+
+// Taken back after the end: the run goes on, for the windows too, and the next action follows.
+TEST(Annulation, apres_la_fin_la_course_continue_pour_tout_le_monde) {
+    for (const int lent : {0, -1}) {
+        BancConsole b;
+        b.e.AffichageLent = vrai16(lent != 0);
+        b.debuter();
+        b.jouer("Avance", "10");
+        b.c.Command4_Click("Avance", "50", "0");
+        b.tourner(5);
+        b.m.Fin_Jeu();
+        b.f.appels.clear();
+        b.c.annuler();
+        EXPECT_EQ(b.f.appels.at(1), "course 1");
+        EXPECT_EQ(b.f.appels.at(2), "logo 0");
+        EXPECT_EQ(b.e.persistant, lent != 0);
+        EXPECT_EQ(b.e.ZoneRedessin.xmax, b.e.XMax);
+        EXPECT_EQ(b.f.appels.back(), "Dessine_Robot");
+        b.jouer("Avance", "1");
+        EXPECT_EQ(b.trajet(1), "AVANCE    ,10,0;AVANCE    ,1,0;");
+    }
 }
 
 TEST(Annulation, la_table_tournee_entre_temps_garde_son_sens) {

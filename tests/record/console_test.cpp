@@ -181,12 +181,20 @@ TEST(Console, apres_90_s_le_trajet_recommence_mais_pas_le_tableau) {
     EXPECT_TRUE(b.e.logo_visible);
     EXPECT_EQ(b.c.phase(), Phase::repos);
     EXPECT_EQ(b.e.TrajNbActions(1), 3);
+    EXPECT_TRUE(b.c.recommencera());
+    EXPECT_TRUE(b.reprise.gardes().empty());
 
     b.jouer("Recule", "5");
     EXPECT_EQ(b.trajet(1), "RECULE    ,5,0;");
     EXPECT_EQ(b.table(), "1,20,0;9,200,0;10,0,0;2,5,0;");
     EXPECT_NEAR(b.e.YRobot(1), 35, 1e-3);
     EXPECT_TRUE(b.c.etapes().back().recommence);
+    EXPECT_FALSE(b.c.recommencera());
+    // The path that was there is kept, once.
+    ASSERT_EQ(b.reprise.gardes().size(), 1U);
+    EXPECT_EQ(b.reprise.gardes()[0].contenu.robots.at(0).actions.size(), 3U);
+    b.jouer("Recule", "5");
+    EXPECT_EQ(b.reprise.gardes().size(), 1U);
 }
 
 TEST(Console, une_recherche_sans_fin_s_arrete_et_l_enregistrement_continue) {
@@ -202,7 +210,7 @@ TEST(Console, une_recherche_sans_fin_s_arrete_et_l_enregistrement_continue) {
     EXPECT_EQ(b.f.intervalle, 0);
     EXPECT_EQ(b.c.phase(), Phase::repos);
     b.jouer("Avance", "7");
-    EXPECT_EQ(b.trajet(2), "AVANCE    ,10,0;BALISE DRO,0,0;AVANCE    ,7,0;");
+    EXPECT_EQ(b.trajet(2), "AVANCE    ,10,0;AVANCE    ,7,0;");
 
     // The options window's "Arrêter" gives the console back too.
     b.c.Command4_Click("Balise Droite", "0", "0");

@@ -48,8 +48,10 @@ struct Programme {
 
 std::set<std::string> noms(const DossierTemporaire& d) {
     std::set<std::string> trouves;
-    for (const auto& entree : fs::directory_iterator(d.chemin()))
-        trouves.insert(entree.path().filename().string());
+    for (const auto& entree : fs::directory_iterator(d.chemin())) {
+        if (entree.is_regular_file()) // what was refused is kept in a directory
+            trouves.insert(entree.path().filename().string());
+    }
     return trouves;
 }
 

@@ -39,7 +39,7 @@ TEST(Reprise, ce_qui_est_enregistre_revient_au_demarrage_suivant) {
     EXPECT_FALSE(std::filesystem::exists(apres.reprise.chemin()));
 }
 
-TEST(Reprise, un_refus_l_efface) {
+TEST(Reprise, un_refus_le_met_dans_les_sauvegardes) {
     BancConsole b;
     b.debuter();
     EXPECT_FALSE(std::filesystem::exists(b.reprise.chemin()));
@@ -51,10 +51,70 @@ TEST(Reprise, un_refus_l_efface) {
     EXPECT_FALSE(std::filesystem::exists(suivant.reprise.chemin()));
     EXPECT_FALSE(suivant.reprise.proposer(suivant.f)); // and is not asked about again
     EXPECT_EQ(suivant.f.appels.size(), 1U);
+    ASSERT_EQ(suivant.reprise.gardes().size(), 1U);
 
-    b.f.reponses = {false}; // refused at the saving
+    // Refused at the saving, of two robots the one: the other is in its file.
+    b.e.TrajetModifie(2) = true;
+    b.f.reponses = {false, true};
     EXPECT_TRUE(b.reprise.sauver(b.f).complete());
     EXPECT_FALSE(std::filesystem::exists(b.reprise.chemin()));
+    ASSERT_EQ(b.reprise.gardes().size(), 1U);
+    const Enregistrement garde = b.reprise.gardes()[0].contenu;
+    ASSERT_EQ(garde.robots.size(), 1U);
+    EXPECT_EQ(garde.robots[0].numero, 1);
+
+    // It comes back in place of what is recorded meanwhile, which is kept in turn.
+    b.c.Command9_Click({});
+    b.debuter();
+    b.jouer("Recule", "5");
+    b.c.Command9_Click({});
+    b.reprise.reprendre(b.f, garde);
+    EXPECT_EQ(b.trajet(1), "AVANCE    ,10,0;");
+    EXPECT_EQ(b.table(), "1,10,0;");
+    EXPECT_TRUE(b.e.TrajetModifie(1));
+    EXPECT_EQ(b.reprise.gardes().size(), 2U);
+    EXPECT_NE(b.d.lire("Defaut Reprise.ini").find("Action,AVANCE    ,10,0"), std::string::npos);
+}
+
+// The loading failed, not the recording.
+TEST(Reprise, un_projet_qui_ne_se_charge_pas_laisse_l_enregistrement_en_place) {
+    BancConsole b;
+    b.e.NomProjet = "Finale";
+    b.debuter();
+    b.jouer("Avance", "10");
+    const std::string contenu = b.d.lire("Finale Reprise.ini");
+    BancConsole suivant;
+    suivant.d.ecrire("Finale Reprise.ini", contenu);
+    suivant.f.reponses = {true};
+    EXPECT_FALSE(suivant.reprise.proposer(suivant.f, [&](const std::string& projet) {
+        suivant.e.NomProjet = projet;
+        throw Debordement(40000);
+    }));
+    EXPECT_EQ(suivant.d.lire("Finale Reprise.ini"), contenu);
+    EXPECT_NE(suivant.f.messages.at(0).find("proposé au prochain démarrage"), std::string::npos);
+    // What is recorded then does not take its place without a copy.
+    suivant.debuter();
+    suivant.jouer("Recule", "3");
+    ASSERT_EQ(suivant.reprise.gardes().size(), 1U);
+    EXPECT_EQ(texte_enregistrement(suivant.reprise.gardes()[0].contenu), contenu);
+}
+
+TEST(Reprise, ce_qui_est_abandonne_est_garde_et_plus_propose) {
+    BancConsole b;
+    b.debuter();
+    b.jouer("Avance", "10");
+    b.reprise.abandonner(b.f);
+    EXPECT_FALSE(b.e.TrajetModifie(1));
+    EXPECT_FALSE(std::filesystem::exists(b.reprise.chemin()));
+    EXPECT_EQ(b.reprise.gardes().size(), 1U);
+    EXPECT_EQ(b.reprise.dernier_robot(), 0);
+    BancConsole sans_place;
+    sans_place.d.ecrire("Sauvegardes", "un fichier à la place du dossier");
+    sans_place.debuter();
+    sans_place.jouer("Avance", "10");
+    sans_place.reprise.abandonner(sans_place.f);
+    EXPECT_EQ(sans_place.f.messages.size(), 1U);
+    EXPECT_TRUE(std::filesystem::exists(sans_place.reprise.chemin()));
 }
 
 TEST(Reprise, un_autre_projet_est_charge_avant_si_l_appelant_le_peut) {

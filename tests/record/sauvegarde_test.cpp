@@ -74,15 +74,15 @@ TEST(SauvRobot, ecrit_les_deux_fichiers_d_un_trajet) {
     b.e.TableauAGenerer(5, 0) = 1; // beyond the end mark
     Set_Sauv_Robot(b.e, 1);
     b.f.reponses = {true};
-    EXPECT_TRUE(SauvRobot(b.e, b.f, b.d.chemin()).empty());
+    EXPECT_TRUE(SauvRobot(b.e, b.f, b.d.chemin()).complete());
 
     const std::string P = (b.d / "Defaut Trajet1.ini").string();
     const std::string question = "Vous avez modifié le trajet du robot 1\r\n"
                                  "Doit-on le sauvegarder ?\r\n( Fichier : " +
                                  P;
-    EXPECT_EQ(b.f.appels,
-              (std::vector<std::string>{"Mess " + question, "question " + question,
-                                        "message " + (b.d / "Defaut PourGenerer10.ini").string()}));
+    EXPECT_EQ(b.f.appels, (std::vector<std::string>{
+                              "Mess " + question, "question " + question,
+                              "information " + (b.d / "Defaut PourGenerer10.ini").string()}));
     EXPECT_EQ(b.lignes("Defaut Trajet1.ini"),
               "Init,120,80.5,90/AVANCE    ,120/DROITE    ,-90/VIRAVGA   ,40,1/BD        /BALISE "
               "GAU/FIN");
@@ -130,7 +130,7 @@ TEST(SauvRobot, la_derniere_reponse_decide_de_la_generation) {
         BancSauvegarde b;
         b.e.TrajetModifie(1) = b.e.TrajetModifie(2) = b.e.TrajetModifie(10) = true;
         b.f.reponses.assign(cas.reponses.begin(), cas.reponses.end());
-        EXPECT_TRUE(SauvRobot(b.e, b.f, b.d.chemin()).empty());
+        EXPECT_TRUE(SauvRobot(b.e, b.f, b.d.chemin()).complete());
         EXPECT_EQ(std::filesystem::exists(b.d / "Defaut Trajet1.ini"), cas.trajet1);
         EXPECT_EQ(std::filesystem::exists(b.d / "Defaut Trajet2.ini"), cas.trajet2);
         EXPECT_EQ(std::filesystem::exists(b.d / "Defaut PourGenerer10.ini"), cas.generation);
@@ -165,7 +165,7 @@ TEST(SauvRobot, une_table_tournee_est_ecrite_droite_et_rendue_tournee) {
     b.e.TrajetModifie(1) = true;
     b.e.XRobot(2) = 40000;
     b.f.reponses = {false};
-    EXPECT_EQ(SauvRobot(b.e, b.f, b.d.chemin()).size(), 1U);
+    EXPECT_EQ(SauvRobot(b.e, b.f, b.d.chemin()).echecs.size(), 1U);
     EXPECT_EQ(b.e.XMax, 320);
     EXPECT_EQ(b.e.YInit(1), 180);
 }
@@ -255,12 +255,14 @@ TEST(Sauver, un_disque_plein_laisse_les_anciens_fichiers_entiers) {
             b.jouer("Avance", "12");
         }
         EXPECT_EQ(bilan.echecs.size(), 2U);
-        EXPECT_EQ(bilan.echec_reprise.empty(), octets == 200);
+        // The recovery file of the last action holds it: nothing need be written for that.
+        EXPECT_TRUE(bilan.en_surete());
+        EXPECT_EQ(bilan.message().find("nulle part"), std::string::npos);
         EXPECT_EQ(b.d.lire("Defaut Trajet1.ini"), "l'ancien");
         EXPECT_EQ(b.d.lire("Defaut PourGenerer10.ini"), "l'ancien");
         EXPECT_EQ(b.d.lire("Defaut Reprise.ini").substr(0, 60), reprise.substr(0, 60));
         // The recovery file's own failure is told once, and the recording goes on.
-        EXPECT_EQ(b.f.messages.size(), 2U); // the first is the path shown
+        EXPECT_EQ(b.f.messages.size(), 1U);
         EXPECT_EQ(b.e.TrajNbActions(1), 3);
     }
 }
@@ -274,6 +276,42 @@ TEST(Sauver, un_dossier_impossible_est_dit) {
     const BilanSauvegarde bilan = reprise.sauver(b.f);
     EXPECT_EQ(bilan.echecs.size(), 2U);
     EXPECT_NE(bilan.message().find("n'est gardé nulle part ailleurs"), std::string::npos);
+    EXPECT_FALSE(bilan.en_surete());
+    EXPECT_TRUE(b.e.TrajetModifie(1)) << "asked again";
+
+    // Another directory takes both files, and everything is saved.
+    const std::filesystem::path ailleurs = b.d / "ailleurs";
+    EXPECT_EQ(reprise.sauver_ailleurs(bilan, ailleurs).size(), 2U);
+    EXPECT_TRUE(b.e.TrajetModifie(1));
+    std::filesystem::create_directory(ailleurs);
+    EXPECT_TRUE(reprise.sauver_ailleurs(bilan, ailleurs).empty());
+    EXPECT_TRUE(std::filesystem::exists(ailleurs / "Defaut Trajet1.ini"));
+    EXPECT_TRUE(std::filesystem::exists(ailleurs / "Defaut PourGenerer10.ini"));
+    EXPECT_FALSE(std::filesystem::exists(ailleurs / "Defaut Reprise.ini"));
+    EXPECT_FALSE(b.e.TrajetModifie(1));
+}
+
+// A directory that has gone is made again.
+TEST(Sauver, un_dossier_disparu_revient) {
+    BancSauvegarde b;
+    Reprise reprise(b.e, b.d / "Configuration");
+    b.e.TrajetModifie(1) = true;
+    b.f.reponses = {true};
+    EXPECT_TRUE(reprise.sauver(b.f).complete());
+    EXPECT_TRUE(std::filesystem::exists(b.d / "Configuration/Defaut PourGenerer10.ini"));
+}
+
+TEST(SauvRobot, la_question_dit_ce_qui_suit) {
+    BancSauvegarde b;
+    b.e.TrajetModifie(1) = b.e.TrajetModifie(3) = true;
+    b.reprise.sauver(b.f);
+    ASSERT_EQ(b.f.explications.size(), 2U);
+    const std::string refus = "Non : ce trajet ne sera plus proposé. Il reste dans " +
+                              (b.d / "Sauvegardes").string() +
+                              " : « Reprendre un trajet » de la télécommande le rend.";
+    EXPECT_EQ(b.f.explications[0], refus);
+    EXPECT_EQ(b.f.explications[1],
+              refus + "\r\nCette réponse décide aussi du fichier de génération.");
 }
 
 // Runs `action` in a child that is killed at its `arret`-th system call. @returns true when it

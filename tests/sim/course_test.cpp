@@ -1,5 +1,6 @@
 #include "sim/banc.h"
 #include "sim/damier.h"
+#include "sim/fenetres_muettes.h"
 
 #include <gtest/gtest.h>
 
@@ -29,26 +30,6 @@ std::size_t allocations = 0;
 namespace {
 
 using Appels = std::vector<std::string>;
-
-// Says nothing and keeps nothing.
-class FenetresMuettes final : public Fenetres {
-public:
-    void message(std::string_view, std::string_view) override {}
-    bool question(std::string_view, std::string_view) override { return false; }
-    void regler_Timer(Entier16) override {}
-    void ecrire_Mess(const LigneMess&) override {}
-    void ecrire_texte_Mess(std::string_view) override {}
-    void ecrire_Info(const LigneInfo&) override {}
-    void ecrire_LNom(std::string_view) override {}
-    void ecrire_nbre_carreaux(std::string_view) override {}
-    void Active_Desactive(bool) override {}
-    void Dessine_Table() override {}
-    void Dessine_Robot() override {}
-    void apres_actions() override {}
-    void montrer_course(bool) override {}
-    void montrer_logo(bool) override {}
-    void fin_du_programme() override {}
-};
 
 TEST(RunJeu, remet_les_robots_en_place_dans_l_ordre_attendu) {
     Banc b;
