@@ -174,8 +174,8 @@ void Télécommande::indiquer_position() {
     const QString etendue = QString("%1 × %2 cm").arg(int{limites.X}).arg(int{limites.Y});
     QStringList textes;
     if (const int ecart = ecart_de_relecture(sim_.etat()); ecart != 0)
-        textes << QString("Table tournée : tapez X et Y de la table droite (%1). Le X que le "
-                          "programme relit a %2 cm de %3.")
+        textes << QString("Table tournée : tapez X et Y de la table droite\n(%1). Le X que le "
+                          "programme relit\na %2 cm de %3.")
                       .arg(etendue)
                       .arg(std::abs(ecart))
                       .arg(ecart > 0 ? "trop" : "moins");

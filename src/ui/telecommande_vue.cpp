@@ -97,7 +97,6 @@ void Télécommande::nommer() {
     menu_reprendre_.setObjectName("menu_reprendre");
     reprendre_.setMenu(&menu_reprendre_);
     indication_.setObjectName("indication");
-    indication_.setWordWrap(true);
     liste_.setObjectName("liste");
     liste_.setAccessibleName("Actions enregistrées");
     total_.setObjectName("total");
@@ -227,6 +226,9 @@ QLayout* Télécommande::placer_liste() {
     titre->setBuddy(&liste_);
     liste_.setMinimumWidth(liste_.fontMetrics().averageCharWidth() * 36);
     liste_.setAlternatingRowColors(true);
+    liste_.setWordWrap(true);
+    liste_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    liste_.setIconSize({14, 14});
     colonne->addWidget(titre);
     colonne->addWidget(&liste_, 1);
     total_.setWordWrap(true);

@@ -220,8 +220,8 @@ TEST_F(Trajets, la_position_dit_ce_que_la_table_tournee_en_fait) {
     saisir("TextY", "320");
     EXPECT_FALSE(dans_console("indication").isVisible());
     cocher("Check3", true);
-    EXPECT_EQ(dit("indication"), "Table tournée : tapez X et Y de la table droite (200 × 320 cm). "
-                                 "Le X que le programme relit a 120 cm de trop.");
+    EXPECT_EQ(dit("indication"), "Table tournée : tapez X et Y de la table droite\n(200 × 320 cm). "
+                                 "Le X que le programme relit\na 120 cm de trop.");
     saisir("TextX", "201");
     EXPECT_TRUE(teinte("TextX"));
     EXPECT_FALSE(trouver("damier_tourne").isVisible());
