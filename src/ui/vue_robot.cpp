@@ -284,7 +284,7 @@ void VueRobot::relacher(QPointF pixels, Qt::KeyboardModifiers touches) {
 }
 
 void VueRobot::ajouter(Fiche segment) {
-    segment.cle = "R";
+    segment.cle = std::string("R"); // g++ 12 misreads the assignment of a literal
     DocumentRobot d = h_.doc();
     try {
         if (formes::sans_etendue(segment))
