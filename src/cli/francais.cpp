@@ -75,7 +75,7 @@ void parler_francais(CLI::App& app) {
 }
 
 std::string en_francais(const CLI::ParseError& erreur, const CLI::App& app) {
-    const std::string message = erreur.what();
+    std::string message = erreur.what();
     switch (static_cast<CLI::ExitCodes>(erreur.get_exit_code())) {
     case CLI::ExitCodes::ExtrasError:
         return arguments_inconnus(app);

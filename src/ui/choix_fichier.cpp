@@ -149,6 +149,7 @@ void ListeFichiers::marquer() {
 
 std::vector<fs::path> ListeFichiers::tous() const {
     std::vector<fs::path> fichiers;
+    fichiers.reserve(static_cast<std::size_t>(count()));
     for (int i = 0; i < count(); ++i)
         fichiers.push_back(dossier_ / item(i)->text().toStdString());
     return fichiers;

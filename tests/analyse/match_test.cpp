@@ -4,12 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <bit>
+#include <cstdint>
 
 namespace {
 
 bool memes_bits(float a, float b) {
-    return std::memcmp(&a, &b, sizeof a) == 0;
+    return std::bit_cast<std::uint32_t>(a) == std::bit_cast<std::uint32_t>(b);
 }
 
 // Ticks through the window's engine and compares with what was computed at once. "FIN" comes to

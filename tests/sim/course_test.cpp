@@ -4,8 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <bit>
+#include <cstddef>
 #include <cstdlib>
-#include <cstring>
 #include <new>
 
 namespace {
@@ -117,7 +119,8 @@ TEST(TimerTimer, la_limite_du_match_rend_ses_boutons_a_la_console) {
 
 bool memes_courses(const Course& a, const Course& b) {
     const auto memes = [](const auto& x, const auto& y) {
-        return std::memcmp(&x, &y, sizeof x) == 0;
+        using Octets = std::array<std::byte, sizeof x>;
+        return std::bit_cast<Octets>(x) == std::bit_cast<Octets>(y);
     };
     return memes(a.XRobot, b.XRobot) && memes(a.YRobot, b.YRobot) &&
            memes(a.CapRobot, b.CapRobot) && memes(a.Xm, b.Xm) && memes(a.Ym, b.Ym) &&
