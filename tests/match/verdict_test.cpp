@@ -45,7 +45,8 @@ void comparer(const Json& notre, const Json& temoin, const std::string& ou,
             // A tick away, the reference point may be a whole step away.
             const bool place = tick > 0 && (cle == "x" || cle == "y");
             if (cle != "texte")
-                comparer(notre.at(cle), valeur, ou + "/" + cle, temps || place ? tick : 0);
+                comparer(notre.at(cle), valeur, std::string(ou).append("/").append(cle),
+                         temps || place ? tick : 0);
         }
     } else if (temoin.is_array()) {
         ASSERT_EQ(notre.size(), temoin.size()) << ou << ": " << notre.dump(1);
