@@ -312,7 +312,7 @@ namespace {
 /// What a table reader gave, key by key, in the order of the document's records.
 class Relecture {
 public:
-    Relecture(const Etat& e, std::string nom) : e_(e), nom_(std::move(nom)) {}
+    Relecture(const AireDeJeu& e, std::string nom) : e_(e), nom_(std::move(nom)) {}
 
     bool rend(const Fiche& o) {
         const SorteTable* sorte = sorte_table(o.cle);
@@ -353,7 +353,7 @@ private:
                o.entier(2) == q.X2;
     }
 
-    const Etat& e_;
+    const AireDeJeu& e_;
     std::string nom_;
     int zones_ = 0, pions_ = 0, lignes_ = 0, ellipses_ = 0, blocs_ = 0;
 };
@@ -373,7 +373,7 @@ void DocumentTable::verifier(const std::vector<std::string>& lignes) const {
     const std::string texte = en_utf8(assembler([&](std::size_t r) {
         return entrees_[r].compte && !entrees_[r].objet ? std::string("#") : lignes[r];
     }));
-    const auto e = std::make_unique<Etat>();
+    const auto e = std::make_unique<AireDeJeu>();
     std::string nom;
     Entier16 NoLigne;
     vider_table(*e);
@@ -399,7 +399,7 @@ void DocumentTable::verifier(const std::vector<std::string>& lignes) const {
 }
 
 std::optional<RefusLecture> DocumentTable::relire(std::string_view octets) {
-    const auto e = std::make_unique<Etat>();
+    const auto e = std::make_unique<AireDeJeu>();
     Entier16 NoLigne;
     vider_table(*e);
     try {
@@ -421,7 +421,7 @@ void ranger(Tableau<T, Dernier>& table, Entier16& nombre, const T& valeur) {
     }
 }
 
-void etendre(Etat& e, const Fiche& o) {
+void etendre(AireDeJeu& e, const Fiche& o) {
     const bool quatre = nombre_de_champs(o.cle) == 4;
     for (std::size_t i = 0; i < (quatre ? 4U : 2U); ++i) {
         Entier16& etendue = i % 2 == 0 ? e.XMax : e.YMax;
@@ -429,7 +429,7 @@ void etendre(Etat& e, const Fiche& o) {
     }
 }
 
-void ranger_objet(Etat& e, const Fiche& o) {
+void ranger_objet(AireDeJeu& e, const Fiche& o) {
     if (est_pion(o.cle))
         return ranger(e.Pions, e.NbPions, Pion{o.entier(0), o.entier(1), o.entier(2), o.cle});
     etendre(e, o);

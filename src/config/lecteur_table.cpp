@@ -19,7 +19,7 @@ constexpr int code(std::string_view cle) {
 
 class LecteurTable {
 public:
-    LecteurTable(Etat& etat, const Nommer& nommer) : e(etat), nommer_(nommer) {}
+    LecteurTable(AireDeJeu& etat, const Nommer& nommer) : e(etat), nommer_(nommer) {}
 
     void lire_ligne(std::string_view ligne) {
         Champs champs(ligne);
@@ -147,20 +147,20 @@ private:
             throw ErreurLecture("coordonnée négative");
     }
 
-    Etat& e;
+    AireDeJeu& e;
     const Nommer& nommer_;
     std::ptrdiff_t virgule4_ = -1; // none yet
 };
 
 } // namespace
 
-void vider_table(Etat& e) {
+void vider_table(AireDeJeu& e) {
     e.NbZones = e.NbPions = e.NbLignes = e.NbBlocs = e.NbEllipses = 0;
     e.XMax = e.YMax = 0;
     ++e.version_table;
 }
 
-void lire_table(std::string_view texte, Etat& e, const Nommer& nommer, Entier16& NoLigne) {
+void lire_table(std::string_view texte, AireDeJeu& e, const Nommer& nommer, Entier16& NoLigne) {
     ++e.version_table;
     LecteurTable lecteur(e, nommer);
     pour_chaque_ligne(texte, NoLigne, [&](std::string_view ligne) { lecteur.lire_ligne(ligne); });

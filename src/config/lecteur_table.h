@@ -7,7 +7,7 @@
 
 /// Empties the table's records and its extent. The slots keep their contents beyond the counts,
 /// PointX and PointY keep their values.
-void vider_table(Etat& e);
+void vider_table(AireDeJeu& e);
 
 /// Adds a table file's records to an emptied table.
 /// @param texte    the file's content, UTF-8
@@ -17,5 +17,5 @@ void vider_table(Etat& e);
 /// beyond
 ///         its table's capacity (the count stays at the capacity), and at the end when the extent
 ///         is empty
-void lire_table(std::string_view texte, Etat& e,
+void lire_table(std::string_view texte, AireDeJeu& e,
                 const std::function<void(std::string_view)>& nommer, Entier16& NoLigne);
