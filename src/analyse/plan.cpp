@@ -7,23 +7,14 @@
 
 namespace {
 
-bool est_virage(const Nom10& a) {
-    using namespace actions;
-    return a == VIRAVDR || a == VIRAVGA || a == VIRARDR || a == VIRARGA;
-}
-
-bool est_balise(const Nom10& a) {
-    using namespace actions;
-    return a == BALISE_DRO || a == BALISE_GAU || a == BD || a == BG;
-}
-
 /// Whether the robot's program, which keeps a value in one byte, cannot hold the action's.
 bool hors_d_un_octet(const Trajectoires& t, int i, int k) {
     const auto dehors = [](int v) { return v < 0 || v > 255; };
     const Nom10& action = t.TrajAction(i, k);
-    if (est_balise(action))
+    if (actions::est_balise(action))
         return false;
-    return dehors(t.TrajParam1(i, k)) || (est_virage(action) && dehors(t.TrajParam2(i, k)));
+    return dehors(t.TrajParam1(i, k)) ||
+           (actions::est_virage(action) && dehors(t.TrajParam2(i, k)));
 }
 
 void constater_duree(const Enquete& q, const Bilan& b) {
@@ -96,7 +87,7 @@ void constater_valeurs(const Enquete& q, const Bilan& b) {
 void constater_balises(const Enquete& q, const Bilan& b) {
     constexpr double tour = 360;
     for (const ActionJouee& action : q.m.actions(b.robot)) {
-        if (!est_balise(action.action))
+        if (!actions::est_balise(action.action))
             continue;
         const auto& poses = q.m.poses(b.robot);
         const std::size_t fin = action.finie() ? q.m.tick(action.fin) : q.m.nb_ticks() + 1;

@@ -22,6 +22,15 @@ inline constexpr Nom10 BALISE_GAU{"BALISE GAU"};
 inline constexpr Nom10 BD{"BD"};
 inline constexpr Nom10 BG{"BG"};
 inline constexpr Nom10 INIT{"INIT"};
+
+/// One of the four arcs, which alone have a second parameter.
+constexpr bool est_virage(const Nom10& a) {
+    return a == VIRAVDR || a == VIRAVGA || a == VIRARDR || a == VIRARGA;
+}
+/// A beacon search, under its long or its short name.
+constexpr bool est_balise(const Nom10& a) {
+    return a == BALISE_DRO || a == BALISE_GAU || a == BD || a == BG;
+}
 } // namespace actions
 
 /// The side that a beacon search turns to.

@@ -10,11 +10,6 @@ struct Point {
     float x, y;
 };
 
-bool est_virage(const Nom10& a) {
-    using namespace actions;
-    return a == VIRAVDR || a == VIRAVGA || a == VIRARDR || a == VIRARGA;
-}
-
 bool est_mouvement_droit(const Nom10& a) {
     using namespace actions;
     // An angle counts as a distance here, and a backward move is predicted ahead.
@@ -38,7 +33,7 @@ Point fin_d_arc(const Etat& e, Entier16 i, Point depart) {
 bool Moteur::predire_carreaux(Entier16 i) {
     const Nom10& action = e.ActionEnCours(i);
     const bool droit = est_mouvement_droit(action);
-    if (!droit && !est_virage(action))
+    if (!droit && !actions::est_virage(action))
         return false;
     // Always robot 1's sensor, whichever robot moves.
     const Point depart{e.Xextr(1), e.Yextr(1)};
