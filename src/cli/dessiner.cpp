@@ -74,7 +74,7 @@ std::string peindre(Etat& e, const FenetresDessiner& f, Image image, bool avec_t
     SurfaceSvg svg(image.largeur, image.hauteur);
     svg.coordonnees(-marge_table, e.YMax + marge_table, e.XMax + marge_table, -marge_table);
     e.ZoneRedessin = {0, e.XMax, 0, e.YMax};
-    peindre_table(e, svg);
+    peindre_table(e, svg, image.Echelle);
     if (avec_trace)
         tracer_chemins(e, f, svg);
     peindre_robots(e, svg);

@@ -195,7 +195,7 @@ private:
     // The end counts as a message, its approach does not.
     void dire_le_temps(const std::string& ligne) {
         constexpr std::int32_t alerte = 8000;
-        if (etat_->logo_visible)
+        if (!etat_->en_course)
             fenetres_.message(ligne +
                               "le match de 90 s est fini, la prochaine action repart de la "
                               "position initiale et recommence le trajet, le présent va dans "

@@ -105,9 +105,9 @@ private:
     bool tourner() {
         while (fenetres_.en_marche() && simulation_.moteur().Timer_Timer()) {
         }
-        if (etat_->logo_visible && !prevenu_)
+        if (!etat_->en_course && !prevenu_)
             avertir("le match de 90 s finit avant ou avec une action de ce trajet");
-        prevenu_ = prevenu_ || etat_->logo_visible;
+        prevenu_ = prevenu_ || !etat_->en_course;
         return !fenetres_.terminee();
     }
 

@@ -2,8 +2,8 @@
 
 #include "cli/progres.h"
 #include "config/dossier.h"
+#include "draw/disposition.h"
 #include "sim/damier.h"
-#include "sim/disposition.h"
 #include "sim/orientation.h"
 
 #include <algorithm>
@@ -72,7 +72,8 @@ Image disposer(Etat& e) {
                                          .cadre_vertical = 2 * ligne,
                                          .hauteur_Mess = ligne,
                                          .hauteur_Info = ligne});
-    return {double(d.largeur_Table) / twips_par_pixel, double(d.hauteur_Table) / twips_par_pixel};
+    return {double(d.largeur_Table) / twips_par_pixel, double(d.hauteur_Table) / twips_par_pixel,
+            d.Echelle};
 }
 
 void Simulation::jouer(std::int32_t duree) {

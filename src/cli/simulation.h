@@ -34,6 +34,7 @@ std::filesystem::path ouvrir_dossier(const std::optional<std::filesystem::path>&
 struct Image {
     double largeur = 0; ///< pixels
     double hauteur = 0;
+    Entier16 Echelle; ///< twips per cm
 };
 
 /// Init_Table for such a screen. @throws ErreurExecution when the table does not allow it

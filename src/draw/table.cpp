@@ -46,9 +46,9 @@ void peindre_lignes(const Etat& e, Surface& s) {
     }
 }
 
-void peindre_ellipses(const Etat& e, Surface& s) {
+void peindre_ellipses(const Etat& e, Surface& s, Entier16 Echelle) {
     constexpr double presque_un_tour = 6.28; // deliberately a hair short of closed
-    s.epaisseur(arrondir16(e.Echelle / 6.0));
+    s.epaisseur(arrondir16(Echelle / 6.0));
     for (int i = 1; i <= e.NbEllipses; ++i) {
         const Quatre& q = e.Ellipses(i);
         const double rx = std::fabs(double(q.X1 - q.X2)) / 2;
@@ -100,7 +100,7 @@ Couleur couleur_pion(std::string_view Type) {
     return couleurs::bleu;
 }
 
-void peindre_table(const Etat& e, Surface& s) {
+void peindre_table(const Etat& e, Surface& s, Entier16 Echelle) {
     const Region& r = e.ZoneRedessin;
     s.couleur_trait(couleurs::vert);
     s.boite_pleine(r.xmin, r.ymin, r.xmax, r.ymax);
@@ -108,13 +108,13 @@ void peindre_table(const Etat& e, Surface& s) {
     peindre_bordure(e, s);
     peindre_blocs(e, s);
     peindre_lignes(e, s);
-    peindre_ellipses(e, s);
+    peindre_ellipses(e, s, Echelle);
     peindre_pions(e, s);
 }
 
-bool Dessine_Table(const Etat& e, Surface& s, Fenetres& f) {
+bool Dessine_Table(const Etat& e, Surface& s, Fenetres& f, Entier16 Echelle) {
     try {
-        peindre_table(e, s);
+        peindre_table(e, s, Echelle);
         return true;
     } catch (const ErreurExecution& erreur) {
         f.regler_Timer(0);

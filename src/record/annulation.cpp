@@ -8,7 +8,7 @@ namespace {
 // starting the recording afresh.
 void reprendre_course(Etat& e, Fenetres& f) {
     f.montrer_course(true);
-    e.logo_visible = false;
+    e.en_course = true;
     f.montrer_logo(false);
     e.persistant = e.AffichageLent != 0;
 }
@@ -25,7 +25,7 @@ void tourner(Etat& e, bool horizontalement) {
 Instantane::Instantane(const Etat& e, Entier16 robot, Entier16 entree)
     : course_(e),
       TableHorizontale_(e.TableHorizontale),
-      logo_visible_(e.logo_visible),
+      en_course_(e.en_course),
       robot_(robot),
       entree_(entree),
       XInit_(e.XInit(robot)),
@@ -45,9 +45,9 @@ void Instantane::retablir(Etat& e, Moteur& moteur, Fenetres& f) const {
     const bool tournee = e.TableHorizontale != TableHorizontale_;
     if (tournee)
         tourner(e, TableHorizontale_);
-    if (logo_visible_ && !e.logo_visible)
+    if (!en_course_ && e.en_course)
         moteur.Fin_Jeu();
-    else if (!logo_visible_ && e.logo_visible)
+    else if (en_course_ && !e.en_course)
         reprendre_course(e, f);
     const Entier16 pilote = e.RobotTele;
     static_cast<Course&>(e) = course_;

@@ -20,7 +20,7 @@ private:
 
     Course course_;
     Entier16 TableHorizontale_;
-    bool logo_visible_;
+    bool en_course_;
 
     Entier16 robot_, entree_;
     float XInit_, YInit_, CapInit_;

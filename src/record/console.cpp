@@ -74,7 +74,7 @@ void Console::Command4_Click(std::string_view legende, const std::string& Text1,
 
 void Console::tele_action(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2) {
     // The path that starts over would be lost.
-    if (e.logo_visible && e.TrajetModifie(I) && reprise_ != nullptr)
+    if (!e.en_course && e.TrajetModifie(I) && reprise_ != nullptr)
         reprise_->garder_ou_prevenir(f);
     lancer(I, action, p1, p2);
     phase_ = Phase::action;
@@ -90,7 +90,7 @@ void Console::tele_action(Entier16 I, const std::string& action, Entier16 p1, En
 
 void Console::lancer(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2) {
     memoriser(I, action, p1, p2);
-    if (e.logo_visible)
+    if (!e.en_course)
         moteur_.Run_Jeu();
     else
         f.regler_Timer(e.PasTemps * 10);
@@ -127,7 +127,7 @@ void Console::ecrire_reprise() {
 void Console::memoriser(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2) {
     // A run that has ended starts again from its first action, and so does the trajectory.
     debut_sans_action_ = false;
-    const bool recommence = e.logo_visible;
+    const bool recommence = !e.en_course;
     const Entier16 numero = (recommence ? 0 : int{e.NumAction(I)}) + 1;
     const std::int32_t debut = recommence ? 0 : e.TempsEcoule;
     etapes_.push_back({Instantane(e, I, numero), numero, action, p1, p2, debut, debut,
@@ -187,7 +187,7 @@ void Console::action_finie() {
 }
 
 bool Console::recommencera() const {
-    return phase_ == Phase::repos && e.logo_visible && !etapes_.empty();
+    return phase_ == Phase::repos && !e.en_course && !etapes_.empty();
 }
 
 std::string Console::annonce_du_precedent() const {

@@ -25,7 +25,7 @@ Entier16 unites_parcourues(const Etat& e, Entier16 robot, const Etape& etape) {
 } // namespace
 
 bool Console::annulation_possible() const {
-    const bool course_sans_console = !e.logo_visible && e.RobotTele == 0;
+    const bool course_sans_console = e.en_course && e.RobotTele == 0;
     if (joue_ || course_sans_console)
         return false;
     if (etapes_.empty())
@@ -50,7 +50,7 @@ void Console::annuler() {
         precedent.avant.retablir(e, moteur_, f);
         etapes_ = std::move(precedent.etapes);
         e.RobotTele = precedent.RobotTele;
-        if (e.RobotTele == 0 && !e.logo_visible)
+        if (e.RobotTele == 0 && e.en_course)
             moteur_.Fin_Jeu(); // the run that the recording had interrupted does not go on
     }
     Set_Sauv_Robot(e, robot_);

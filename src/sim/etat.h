@@ -121,13 +121,11 @@ struct Course {
 static_assert(sizeof(Course) < 1024 && std::is_trivially_copyable_v<Course>,
               "snapshots of a run must stay cheap: undo and moving about in a match take many");
 
-/// What only the display needs.
+/// What a run tells the drawing.
 struct Affichage {
-    Entier16 Echelle;       ///< twips per table unit
     Region ZoneRedessin;    ///< what the next Dessine_Table repaints
-    Region ZoneLogo;        ///< rectangle of the logo
     bool persistant = true; ///< persistent drawing of the table, off during a fast run
-    bool logo_visible = true;
+    bool en_course = false; ///< from Run_Jeu to Fin_Jeu: no logo over the table
 };
 
 /// The path that the console records.

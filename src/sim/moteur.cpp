@@ -10,7 +10,7 @@ void Moteur::Run_Jeu() {
         f.Dessine_Table();
         e.persistant = false;
     }
-    e.logo_visible = false;
+    e.en_course = true;
     f.montrer_logo(false);
     e.TempsEcoule = 0;
     abandons_.remplir(0);
@@ -39,7 +39,7 @@ void Moteur::Fin_Jeu() {
     e.Param2EnCours(1) = 0;
     e.Progression(1) = 0;
     f.regler_Timer(0);
-    e.logo_visible = true;
+    e.en_course = false;
     f.montrer_logo(true);
     if (!e.persistant) {
         e.persistant = true;

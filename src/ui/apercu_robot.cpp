@@ -74,8 +74,7 @@ void ApercuRobot::peindre(QPainter& peintre) {
     SurfaceQt surface(peintre, size());
     orienter(surface);
     e_->ZoneRedessin = {-marge_table, e_->XMax + marge_table, -marge_table, e_->YMax + marge_table};
-    e_->Echelle = arrondir16(std::min(pixels_par_cm() * 15, 32000.0));
-    peindre_table(*e_, surface);
+    peindre_table(*e_, surface, arrondir16(std::min(pixels_par_cm() * 15, 32000.0)));
     try {
         peindre_robots(*e_, surface);
     } catch (const ErreurExecution&) { // NOLINT(bugprone-empty-catch)

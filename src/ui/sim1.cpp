@@ -1,8 +1,8 @@
 #include "ui/sim1.h"
 
+#include "draw/disposition.h"
 #include "draw/table.h"
 #include "sim/damier.h"
-#include "sim/disposition.h"
 #include "sim/orientation.h"
 #include "ui/aide.h"
 #include "ui/dialog.h"

@@ -1,6 +1,6 @@
 // Where the main window's controls lie, and the options window beside it.
+#include "draw/disposition.h"
 #include "draw/table.h"
-#include "sim/disposition.h"
 #include "ui/place.h"
 #include "ui/sim1.h"
 
@@ -58,6 +58,7 @@ void Sim1::Init_Table() {
     MesuresEcran m = mesures(ecran_maximal);
     m = mesures(pixels(::Init_Table(*e, m).largeur_Table));
     const Disposition d = ::Init_Table(*e, m);
+    Table.Echelle = d.Echelle;
     taille_dessinee_ = {e->XMax, e->YMax};
     taille_Table_ = {pixels(d.largeur_Table), pixels(d.hauteur_Table)};
     resize(pixels(d.largeur_fenetre - m.cadre_horizontal),

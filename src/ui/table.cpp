@@ -63,7 +63,7 @@ void Table::Dessine_Table() {
     if (image_.isNull()) {
         const ZoneEntiere zone(e);
         SurfaceVide surface; // the errors alone; the drawing comes with the next painting
-        if (!::Dessine_Table(e, surface, f))
+        if (!::Dessine_Table(e, surface, f, Echelle))
             return;
         cle_dessinee_ = cle();
     } else if (!peindre_fond())
@@ -73,7 +73,7 @@ void Table::Dessine_Table() {
 }
 
 void Table::Dessine_Robot() {
-    if (!e.logo_visible && image_.isNull() && !peindre_fond()) // a run begins
+    if (e.en_course && image_.isNull() && !peindre_fond()) // a run begins
         return;
     effacer_robots();
     signaler_robots(); // what they leave
@@ -84,7 +84,7 @@ void Table::Dessine_Robot() {
 }
 
 Table::Cle Table::cle() const {
-    return {e.version_table, e.Echelle, (QSizeF(size()) * devicePixelRatioF()).toSize()};
+    return {e.version_table, Echelle, (QSizeF(size()) * devicePixelRatioF()).toSize()};
 }
 
 bool Table::peindre_fond() {
@@ -96,7 +96,7 @@ bool Table::peindre_fond() {
     SurfaceQt surface(peintre, size());
     const ZoneEntiere zone(e);
     regler(surface, e);
-    if (!::Dessine_Table(e, surface, f))
+    if (!::Dessine_Table(e, surface, f, Echelle))
         return false;
     peintre.end();
     fond_ = image;
@@ -124,7 +124,7 @@ void Table::peindre_directement(QPainter& peintre) {
     const ZoneEntiere zone(e);
     SurfaceQt surface(peintre, size());
     regler(surface, e);
-    peindre_table(e, surface);
+    peindre_table(e, surface, Echelle);
     peindre_contours(peintre);
 }
 
@@ -183,7 +183,7 @@ void Table::ajouter_rectangle(QRect r) {
 // fail.
 bool Table::meme_table() const {
     return !cle_dessinee_.taille.isEmpty() && e.version_table == cle_dessinee_.version &&
-           e.Echelle == cle_dessinee_.Echelle;
+           Echelle == cle_dessinee_.Echelle;
 }
 
 void Table::paintEvent(QPaintEvent* evenement) {

@@ -54,6 +54,7 @@ public:
     Table(Etat& etat, Fenetres& fenetres, QWidget* parent);
 
     std::function<void()> au_clic;
+    Entier16 Echelle; ///< twips per table unit, as Init_Table chose it
 
     /// Draws the table; an error shows its message and ends the program.
     void Dessine_Table();

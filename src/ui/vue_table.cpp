@@ -42,8 +42,8 @@ QRectF VueTable::etendue() const {
 void VueTable::peindre(QPainter& peintre) {
     SurfaceQt surface(peintre, size());
     orienter(surface);
-    e_->Echelle = arrondir16(std::min(pixels_par_cm() * 15, 32000.0));
-    peindre_table(*e_, surface);
+    const Entier16 Echelle = arrondir16(std::min(pixels_par_cm() * 15, 32000.0));
+    peindre_table(*e_, surface, Echelle);
 }
 
 void VueTable::peindre_dessus(QPainter& peintre) {

@@ -19,7 +19,6 @@ struct BancAnalyse {
     BancAnalyse() {
         e.XMax = 200;
         e.YMax = 320;
-        e.Echelle = 31;
         initDamier(e);
         for (int i = 1; i <= robots_des_fichiers; ++i) {
             e.VitesseLin(i) = 1;

@@ -21,7 +21,6 @@ struct Feuille {
 
     Feuille() {
         Init_Table_Old(e);
-        e.Echelle = 31;
         e.ZoneRedessin = {0, e.XMax, 0, e.YMax};
     }
 };
@@ -41,7 +40,7 @@ TEST(DessineTable, suit_l_ordre_fond_zones_bordure_blocs_lignes_ellipses_pions) 
     t.e.NbPions = 2;
     t.e.Pions(1) = {1, 2, 3, "BJ"};
     t.e.Pions(2) = {-4, -5, 6, "Y"};
-    EXPECT_TRUE(Dessine_Table(t.e, t.s, t.f));
+    EXPECT_TRUE(Dessine_Table(t.e, t.s, t.f, 31));
     EXPECT_EQ(t.s.appels,
               (Appels{"boite_pleine 0 0 200 320 0,128,0", "boite_pleine 1 2 3 4 0,0,0",
                       "boite_pleine -5 -5 205 0 255,0,0", "boite_pleine -5 320 205 325 255,0,0",

@@ -17,7 +17,7 @@ std::string photo(const BancConsole& b) {
     }
     return texte + " " + std::to_string(b.e.TempsEcoule) + " " +
            std::string(texte_simple(b.e.Incidence).vue()) + " " + std::to_string(b.e.NbreCarreaux) +
-           (b.e.logo_visible ? " fin" : " course") + b.d.lire("Defaut Reprise.ini");
+           (b.e.en_course ? " course" : " fin") + b.d.lire("Defaut Reprise.ini");
 }
 
 TEST(Annulation, chaque_action_se_reprend_jusqu_a_la_premiere) {
@@ -61,7 +61,7 @@ TEST(Annulation, le_recommencement_apres_90_s_se_reprend_aussi) {
     EXPECT_EQ(b.trajet(1), "GAUCHE    ,30,0;");
     b.c.annuler();
     EXPECT_EQ(photo(b), fin_du_match);
-    EXPECT_TRUE(b.e.logo_visible);
+    EXPECT_FALSE(b.e.en_course);
     b.c.annuler();
     EXPECT_EQ(photo(b), avant_la_fin);
     b.jouer("Avance", "1");

@@ -62,7 +62,7 @@ TEST(Console, trois_etats_et_une_action_a_la_fois) {
     EXPECT_EQ(b.c.phase(), Phase::repos);
     EXPECT_EQ(b.trajet(1), "AVANCE    ,50,0;");
     EXPECT_NEAR(b.e.YRobot(1), 90, 1e-3);
-    EXPECT_FALSE(b.e.logo_visible); // the run goes on between two actions
+    EXPECT_TRUE(b.e.en_course); // the run goes on between two actions
 
     b.c.Command4_Click("Avance", "50", "0");
     b.c.Command9_Click({});
@@ -178,7 +178,7 @@ TEST(Console, apres_90_s_le_trajet_recommence_mais_pas_le_tableau) {
     b.rendre_la_balise_introuvable(1);
     b.jouer("Balise Droite");
     EXPECT_EQ(b.e.TempsEcoule, 9001);
-    EXPECT_TRUE(b.e.logo_visible);
+    EXPECT_FALSE(b.e.en_course);
     EXPECT_EQ(b.c.phase(), Phase::repos);
     EXPECT_EQ(b.e.TrajNbActions(1), 3);
     EXPECT_TRUE(b.c.recommencera());

@@ -103,7 +103,7 @@ TEST(Arret, une_action_qui_recommencait_le_trajet_rend_l_ancien) {
     b.c.Command4_Click("Recule", "50", "0");
     EXPECT_TRUE(b.c.arreter_action());
     EXPECT_EQ(b.trajet(1), "AVANCE    ,20,0;");
-    EXPECT_TRUE(b.e.logo_visible);
+    EXPECT_FALSE(b.e.en_course);
 }
 
 // Killed, recovered, gone on with: the state is the one of the session that was never killed.
@@ -211,7 +211,7 @@ TEST(Continuation, un_trajet_qui_ne_se_joue_pas_reste_comme_il_est) {
     b.e.TrajNbActions(2) = 1;
     EXPECT_THROW(b.c.continuer(1), ErreurExecution);
     EXPECT_EQ(b.c.phase(), Phase::arret);
-    EXPECT_TRUE(b.e.logo_visible);
+    EXPECT_FALSE(b.e.en_course);
     EXPECT_EQ(b.trajet(1), trajet);
     EXPECT_EQ(b.table(), "1,10,0;9,100,0;");
     EXPECT_EQ(b.e.nb_a_generer, 2);

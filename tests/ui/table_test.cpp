@@ -17,7 +17,7 @@ protected:
     TableTest() {
         Init_Table_Old(*e);
         Init_Robot_Old(*e);
-        e->Echelle = 30;
+        table.Echelle = 30;
         e->XRobot(1) = 100;
         e->YRobot(1) = 100;
         // 210 x 330 cm on 420 x 660 pixels: 2 a cm

@@ -1,4 +1,4 @@
-#include "sim/disposition.h"
+#include "draw/disposition.h"
 
 namespace {
 constexpr double reserve = 450; ///< twips kept free below the window
@@ -12,18 +12,17 @@ Disposition Init_Table(Etat& e, const MesuresEcran& m) {
 
     const Entier16 en_largeur = arrondir16(diviser(aw, e.XMax));
     const Entier16 en_hauteur = arrondir16(diviser(ah, e.YMax));
-    e.Echelle = en_hauteur < en_largeur ? en_hauteur : en_largeur;
-
     Disposition d;
-    d.largeur_Table = e.XMax * e.Echelle;
-    d.hauteur_Table = e.YMax * e.Echelle;
+    d.Echelle = en_hauteur < en_largeur ? en_hauteur : en_largeur;
+    d.largeur_Table = e.XMax * d.Echelle;
+    d.hauteur_Table = e.YMax * d.Echelle;
     d.largeur_fenetre = fw + d.largeur_Table;
     d.hauteur_fenetre = fh + d.hauteur_Table + m.hauteur_Mess + m.hauteur_Info;
     d.gauche_logo = (e.XMax - m.largeur_logo) / 2;
     d.haut_logo = (e.YMax + m.hauteur_logo) / 2;
 
     e.ZoneRedessin = {0, e.XMax, 0, e.YMax};
-    e.ZoneLogo = {arrondir16(d.gauche_logo), arrondir16(d.gauche_logo + m.largeur_logo),
+    d.ZoneLogo = {arrondir16(d.gauche_logo), arrondir16(d.gauche_logo + m.largeur_logo),
                   arrondir16(d.haut_logo - m.hauteur_logo), arrondir16(d.haut_logo)};
     return d;
 }

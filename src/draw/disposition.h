@@ -20,15 +20,17 @@ struct MesuresEcran {
 
 /// Sizes to give to the main window and its controls, in twips.
 struct Disposition {
+    Entier16 Echelle; ///< twips per table unit
     Entier16 largeur_Table, hauteur_Table;
     double largeur_fenetre = 0;
     double hauteur_fenetre = 0;
     double gauche_logo = 0; ///< cm; LNom has the same left and top
     double haut_logo = 0;   ///< cm
+    Region ZoneLogo;        ///< rectangle of the logo, in cm
 };
 
 /// Chooses the scale so that the table fits on the screen, lays the main window out and resets
-/// ZoneRedessin to the whole table; sets Echelle and ZoneLogo. The table's surface shows 5 cm more
-/// than the table on each side.
+/// ZoneRedessin to the whole table. The table's surface shows 5 cm more than the table on each
+/// side.
 /// @throws Debordement when a size leaves 16 bits, DivisionParZero for an empty table
 Disposition Init_Table(Etat& e, const MesuresEcran& m);

@@ -1,7 +1,8 @@
-#include "sim/banc.h"
-#include "sim/disposition.h"
+#include "draw/disposition.h"
 
 #include <gtest/gtest.h>
+
+#include <memory>
 
 namespace {
 
@@ -16,19 +17,21 @@ constexpr MesuresEcran ecran{.largeur_ecran = 15100,
                              .hauteur_logo = 41};
 
 TEST(InitTable, choisit_l_echelle_qui_tient_a_l_ecran) {
-    Banc b;
-    const Disposition d = Init_Table(b.e, ecran);
-    EXPECT_EQ(b.e.Echelle, 31); // min(75, 31.25)
+    const auto e = std::make_unique<Etat>();
+    e->XMax = 200;
+    e->YMax = 320;
+    const Disposition d = Init_Table(*e, ecran);
+    EXPECT_EQ(d.Echelle, 31); // min(75, 31.25)
     EXPECT_EQ(d.largeur_Table, 6200);
     EXPECT_EQ(d.hauteur_Table, 9920);
     EXPECT_EQ(d.largeur_fenetre, 6300);
     EXPECT_EQ(d.hauteur_fenetre, 400 + 9920 + 300 + 250);
     EXPECT_EQ(d.gauche_logo, 60);
     EXPECT_EQ(d.haut_logo, 180.5);
-    EXPECT_EQ(b.e.ZoneLogo.xmax, 140);
-    EXPECT_EQ(b.e.ZoneLogo.ymin, 140); // 139.5 to the even neighbour
-    EXPECT_EQ(b.e.ZoneLogo.ymax, 180);
-    EXPECT_EQ(b.e.ZoneRedessin.ymax, 320);
+    EXPECT_EQ(d.ZoneLogo.xmax, 140);
+    EXPECT_EQ(d.ZoneLogo.ymin, 140); // 139.5 to the even neighbour
+    EXPECT_EQ(d.ZoneLogo.ymax, 180);
+    EXPECT_EQ(e->ZoneRedessin.ymax, 320);
 }
 
 TEST(InitTable, refuse_ce_qui_ne_tient_pas_en_16_bits) {
@@ -36,12 +39,12 @@ TEST(InitTable, refuse_ce_qui_ne_tient_pas_en_16_bits) {
         int XMax, YMax;
     };
     for (const Cas& c : {Cas{20000, 1}, Cas{0, 10}}) {
-        Banc b;
-        b.e.XMax = c.XMax;
-        b.e.YMax = c.YMax;
+        const auto e = std::make_unique<Etat>();
+        e->XMax = c.XMax;
+        e->YMax = c.YMax;
         MesuresEcran large = ecran;
         large.largeur_ecran = 32000;
-        EXPECT_THROW(Init_Table(b.e, large), ErreurExecution);
+        EXPECT_THROW(Init_Table(*e, large), ErreurExecution);
     }
 }
 
