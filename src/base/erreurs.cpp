@@ -61,3 +61,7 @@ ErreurFichier::ErreurFichier(const std::filesystem::path& chemin, std::string_vi
 
 ErreurFichier::ErreurFichier(const std::filesystem::path& chemin, int numero_erreur)
     : ErreurFichier(chemin, raison_systeme(numero_erreur)) {}
+
+std::string texte_erreur_execution(std::string_view raison) {
+    return "Erreur d'exécution : " + std::string(raison);
+}

@@ -12,6 +12,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// What a message says of an error that nobody has dealt with.
+std::string texte_erreur_execution(std::string_view raison);
+
 /// A record that a reader does not know or that the file as a whole lacks.
 class ErreurLecture : public ErreurExecution {
 public:

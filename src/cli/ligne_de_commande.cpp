@@ -41,7 +41,7 @@ int executer(int argc, char** argv) {
 }
 
 int echouer(const std::string& raison) {
-    ecrire_ligne(std::cerr, "Erreur d'exécution : " + raison);
+    ecrire_ligne(std::cerr, texte_erreur_execution(raison));
     return code_message;
 }
 

@@ -66,14 +66,13 @@ ChampsPose lire_position(const std::string& texte) {
             texte.substr(seconde + 1)};
 }
 
-// One session: start, commands, end, saving.
-class Seance {
+// One recording: start, commands, end, saving.
+class Pilotage {
 public:
-    explicit Seance(const OptionsPiloter& options)
+    explicit Pilotage(const OptionsPiloter& options)
         : options_(options),
           fenetres_(*etat_, options.sauver),
           simulation_(*etat_, fenetres_, options.choix),
-          reprise_(*etat_, simulation_.projet().dossier_configuration()),
           console_(*etat_, fenetres_, simulation_.moteur(), &reprise_) {
         fenetres_.suivre(console_);
         prendre_le_projet();
@@ -87,7 +86,7 @@ public:
         } catch (const SansReponse&) {
             fenetres_.message("Pas de réponse : " + ou_est_l_enregistrement());
         } catch (const ErreurFichier& erreur) { // standard input
-            fenetres_.message(std::string("Erreur d'exécution : ") + erreur.what() + " ; " +
+            fenetres_.message(texte_erreur_execution(erreur.what()) + " ; " +
                               ou_est_l_enregistrement());
         }
         return fenetres_.code_de_sortie();
@@ -184,8 +183,8 @@ private:
         try {
             console_.Command4_Click(commande->legende, commande->Text1, commande->Text4);
         } catch (const ErreurExecution& erreur) {
-            fenetres_.message("Erreur d'exécution : ligne " + std::to_string(numero) + ", " +
-                              erreur.what());
+            fenetres_.message(
+                texte_erreur_execution("ligne " + std::to_string(numero) + ", " + erreur.what()));
         }
         laisser_tourner();
         if (!fenetres_.terminee())
@@ -230,7 +229,7 @@ private:
     bool finir() {
         if (console_.phase() != Console::Phase::arret)
             console_.Command9_Click({});
-        const BilanSauvegarde bilan = reprise_.sauver(fenetres_);
+        const BilanSauvegarde bilan = simulation_.seance().sauver();
         if (!bilan.complete())
             fenetres_.message(bilan.message());
         return bilan.complete();
@@ -240,7 +239,7 @@ private:
     std::unique_ptr<Etat> etat_ = std::make_unique<Etat>();
     FenetresPiloter fenetres_;
     Simulation simulation_;
-    Reprise reprise_;
+    Reprise& reprise_ = simulation_.seance().reprise();
     Console console_;
     bool fini_ = false; ///< "FIN" was read
 };
@@ -269,5 +268,5 @@ void declarer_piloter(CLI::App& app, int& code_de_sortie) {
                      "ailleurs)")
         ->check(oui_ou_non())
         ->type_name("oui|non");
-    verbe->callback([options, &code_de_sortie] { code_de_sortie = Seance(*options).jouer(); });
+    verbe->callback([options, &code_de_sortie] { code_de_sortie = Pilotage(*options).jouer(); });
 }

@@ -63,7 +63,7 @@ private:
     }
 
     std::string ou(int ligne) const {
-        return simulation_.projet().chemin_trajet(robot_).string() + " Ligne " +
+        return simulation_.seance().projet().chemin_trajet(robot_).string() + " Ligne " +
                std::to_string(ligne);
     }
 
@@ -113,9 +113,10 @@ private:
 
     void ecrire() {
         const std::string suite = " PourGenerer10.ini";
-        const fs::path fichier = simulation_.projet().chemin(suite);
+        const fs::path fichier = simulation_.seance().projet().chemin(suite);
         const std::string contenu = texte_generation(*etat_, etat_->NomProjet + suite);
-        sauvegarder_version(fichier, simulation_.projet().dossier_configuration() / "Sauvegardes");
+        sauvegarder_version(fichier,
+                            simulation_.seance().projet().dossier_configuration() / "Sauvegardes");
         remplacer_fichier(fichier, contenu);
         ecrire_ligne(std::cout, "Fichier écrit : " + fichier.string());
     }

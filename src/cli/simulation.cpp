@@ -3,10 +3,10 @@
 #include "cli/progres.h"
 #include "config/dossier.h"
 #include "draw/disposition.h"
-#include "sim/damier.h"
 #include "sim/orientation.h"
 
 #include <algorithm>
+#include <utility>
 
 std::filesystem::path ouvrir_dossier(const std::optional<std::filesystem::path>& demande) {
     std::filesystem::path dossier = dossier_application(demande);
@@ -14,34 +14,24 @@ std::filesystem::path ouvrir_dossier(const std::optional<std::filesystem::path>&
     return dossier;
 }
 
-Simulation::Simulation(Etat& etat, FenetresTerminal& fenetres, const ChoixDeLigne& choix)
+Simulation::Simulation(Etat& etat, FenetresTerminal& fenetres, ChoixDeLigne choix)
     : e(etat),
       f(fenetres),
-      moteur_(etat, fenetres),
-      projet_(etat, fenetres, ouvrir_dossier(choix.dossier)) {
-    // Whatever no reader traps stops the start-up there, with its reason.
-    try {
-        demarrer(choix);
-        demarree_ = true;
-    } catch (const ErreurExecution& erreur) {
-        f.message(std::string("Erreur d'exécution : ") + erreur.what());
-    }
+      choix_(std::move(choix)),
+      seance_(etat, fenetres, *this, ouvrir_dossier(choix_.dossier)) {
+    if (choix_.projet)
+        seance_.projet().imposer_projet(*choix_.projet);
+    if (choix_.avant_lecture)
+        choix_.avant_lecture(seance_.projet());
+    demarree_ = seance_.demarrer();
 }
 
-void Simulation::demarrer(const ChoixDeLigne& choix) {
-    if (choix.projet)
-        projet_.imposer_projet(*choix.projet);
-    if (choix.avant_lecture)
-        choix.avant_lecture(projet_);
-    projet_.Installe();
-    projet_.LoadGeneral();
-    projet_.LoadTable();
-    image_ = disposer(e);
-    projet_.Init_Robot();
-    projet_.Init_Jeu();
-    initDamier(e);
-    if (appliquer_reglages(e, choix))
-        image_ = disposer(e);
+void Simulation::appliquer_reglages() {
+    if (::appliquer_reglages(e, choix_))
+        Init_Table();
+}
+
+void Simulation::redessiner() {
     f.Dessine_Table();
     f.Dessine_Robot();
 }
@@ -77,10 +67,10 @@ Image disposer(Etat& e) {
 }
 
 void Simulation::jouer(std::int32_t duree) {
-    moteur_.Run_Jeu();
+    moteur().Run_Jeu();
     Progres progres("Simulation", std::min<std::int32_t>(duree, dernier_tick(e.PasTemps)));
     while (f.en_marche() && e.TempsEcoule < duree) {
-        if (!moteur_.Timer_Timer())
+        if (!moteur().Timer_Timer())
             break;
         progres.avancer(e.TempsEcoule);
     }

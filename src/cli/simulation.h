@@ -1,9 +1,7 @@
 #pragma once
 
 #include "cli/fenetres_terminal.h"
-#include "config/projet.h"
-#include "sim/etat.h"
-#include "sim/moteur.h"
+#include "seance/seance.h"
 
 #include <filesystem>
 #include <functional>
@@ -40,33 +38,38 @@ struct Image {
 /// Init_Table for such a screen. @throws ErreurExecution when the table does not allow it
 Image disposer(Etat& e);
 
-/// A whole simulator without a window: state, outlet, engine and project, started like the window.
-class Simulation {
+/// A session without a window, started like the window's.
+class Simulation final : private Hote {
 public:
     /// Reads the project and applies the settings. Messages go through `fenetres`, which works on
     /// `etat`.
-    Simulation(Etat& etat, FenetresTerminal& fenetres, const ChoixDeLigne& choix);
+    Simulation(Etat& etat, FenetresTerminal& fenetres, ChoixDeLigne choix);
 
     /// False when the start-up stopped half-way, its reason told: there is nothing to play.
-    bool demarree() const { return demarree_ && !f.terminee(); }
+    bool demarree() const { return demarree_; }
 
     /// Plays ticks until the run ends by itself or TempsEcoule reaches `duree` (hundredths of a
     /// second).
     void jouer(std::int32_t duree);
 
-    Etat& etat() { return e; }
-    Moteur& moteur() { return moteur_; }
-    Projet& projet() { return projet_; }
-    const Projet& projet() const { return projet_; }
+    Seance& seance() { return seance_; }
+    const Seance& seance() const { return seance_; }
+    Moteur& moteur() { return seance_.moteur(); }
     Image image() const { return image_; }
 
 private:
-    void demarrer(const ChoixDeLigne& choix);
+    void Init_Table() override { image_ = disposer(e); }
+    void redessiner() override;
+    void appliquer_reglages() override;
+    bool apres_panne() override { return false; }
+    std::filesystem::path choisir_dossier(std::string_view) override { return {}; }
+    bool en_marche() const override { return f.en_marche(); }
+    bool terminee() const override { return f.terminee(); }
 
     Etat& e;
     FenetresTerminal& f;
-    Moteur moteur_;
-    Projet projet_;
+    ChoixDeLigne choix_;
+    Seance seance_;
     Image image_;
     bool demarree_ = false;
 };

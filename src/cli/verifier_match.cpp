@@ -69,7 +69,7 @@ int verifier_match(const ChoixDeLigne& choix, bool json) {
         if (appliquer_reglages(*etat, choix))
             disposer(*etat);
     } catch (const ErreurExecution& erreur) {
-        const std::string texte = std::string("Erreur d'exécution : ") + erreur.what();
+        const std::string texte = texte_erreur_execution(erreur.what());
         fenetres.message(texte);
         constats.push_back({.genre = Genre::arret, .texte = texte});
     }

@@ -22,8 +22,9 @@ const std::map<std::string, Dossiers> permis{
     {"record", {"base", "sim", "config"}},
     {"codegen", {"base", "config"}},
     {"analyse", {"base", "sim", "config", "draw", "codegen"}},
-    {"cli", {"base", "sim", "config", "edition", "draw", "record", "codegen", "analyse"}},
-    {"ui", {"base", "sim", "config", "edition", "draw", "record", "codegen", "analyse"}},
+    {"seance", {"base", "sim", "config", "record"}},
+    {"cli", {"base", "sim", "config", "edition", "draw", "record", "codegen", "analyse", "seance"}},
+    {"ui", {"base", "sim", "config", "edition", "draw", "record", "codegen", "analyse", "seance"}},
 };
 
 /// The faults of one file's #include lines, a line each; empty when there is none.
