@@ -2,8 +2,8 @@
 // on the one that QT_QPA_PLATFORM names), and the peak of memory meanwhile.
 #include "comparer.h"
 
-#include "ui/application.h"
-#include "ui/sim1.h"
+#include "ui/principale/application.h"
+#include "ui/principale/sim1.h"
 
 #include <QEvent>
 #include <QTimer>

@@ -3,9 +3,9 @@
 
 #include "config/lecteur_table.h"
 #include "draw/table.h"
-#include "ui/dessin_table.h"
-#include "ui/foutil.h"
-#include "ui/surface_qt.h"
+#include "ui/commun/surface_qt.h"
+#include "ui/editeurs/dessin_table.h"
+#include "ui/editeurs/foutil.h"
 
 #include <QAction>
 #include <QApplication>

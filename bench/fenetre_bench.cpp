@@ -3,7 +3,7 @@
 
 #include "draw/robot.h"
 #include "draw/table.h"
-#include "ui/sim1.h"
+#include "ui/principale/sim1.h"
 
 #include <QApplication>
 #include <QImage>

@@ -1,8 +1,8 @@
-#include "ui/aide.h"
+#include "ui/aide/aide.h"
 
+#include "ui/aide/manuel.h"
 #include "ui/banc.h"
-#include "ui/editeurs.h"
-#include "ui/manuel.h"
+#include "ui/principale/editeurs.h"
 
 #include <QDir>
 #include <QTextBlock>

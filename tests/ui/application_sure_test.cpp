@@ -1,7 +1,7 @@
-#include "ui/application_sure.h"
+#include "ui/commun/application_sure.h"
 
 #include "ui/banc.h"
-#include "ui/editeurs.h"
+#include "ui/principale/editeurs.h"
 
 #include <QAction>
 #include <QCloseEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "outils/dossier_temporaire.h"
-#include "ui/sim1.h"
+#include "ui/principale/sim1.h"
 
 #include <QApplication>
 #include <QMessageBox>

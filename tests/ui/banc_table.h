@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/banc.h"
-#include "ui/editeurs.h"
+#include "ui/principale/editeurs.h"
 
 #include <QAction>
 #include <QListWidget>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/banc.h"
-#include "ui/telecommande.h"
+#include "ui/console/telecommande.h"
 
 // Drives the console by its buttons and keys; each action is played by the real clock.
 class ConsoleFenetre : public Banc {

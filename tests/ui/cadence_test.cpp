@@ -1,4 +1,4 @@
-#include "ui/cadence.h"
+#include "ui/principale/cadence.h"
 
 #include <gtest/gtest.h>
 

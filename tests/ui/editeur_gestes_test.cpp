@@ -1,6 +1,6 @@
 // How the table editor's mouse, keys and fields take, move and measure what is drawn.
 #include "ui/banc_table.h"
-#include "ui/formes.h"
+#include "ui/editeurs/formes.h"
 
 #include <QFileDialog>
 #include <QPlainTextEdit>

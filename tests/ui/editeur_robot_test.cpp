@@ -1,4 +1,4 @@
-#include "ui/editeurs.h"
+#include "ui/principale/editeurs.h"
 
 #include "ui/banc.h"
 

@@ -1,7 +1,7 @@
 // Leaving the editors: what is saved, what is asked, what a program that ended leaves behind; and
 // the undo keys, which reach the drawing from everywhere.
 #include "ui/banc_table.h"
-#include "ui/fin_signalee.h"
+#include "ui/principale/fin_signalee.h"
 
 #include <QFileDialog>
 #include <QPlainTextEdit>

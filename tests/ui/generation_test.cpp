@@ -1,5 +1,5 @@
 #include "ui/banc.h"
-#include "ui/dialog.h"
+#include "ui/generation/dialog.h"
 
 #include <QComboBox>
 #include <QPlainTextEdit>

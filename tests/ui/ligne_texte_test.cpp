@@ -1,4 +1,4 @@
-#include "ui/ligne_texte.h"
+#include "ui/commun/ligne_texte.h"
 
 #include <QAccessible>
 #include <QImage>

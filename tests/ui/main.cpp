@@ -1,6 +1,6 @@
 #include "outils/dossier_temporaire.h"
-#include "ui/application_sure.h"
-#include "ui/ligne_texte.h"
+#include "ui/commun/application_sure.h"
+#include "ui/commun/ligne_texte.h"
 
 #include <QSettings>
 #include <gtest/gtest.h>

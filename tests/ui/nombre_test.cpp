@@ -1,4 +1,4 @@
-#include "ui/nombre.h"
+#include "ui/commun/nombre.h"
 
 #include <QApplication>
 #include <QMainWindow>

@@ -1,5 +1,5 @@
 #include "ui/banc.h"
-#include "ui/ouvrir.h"
+#include "ui/principale/ouvrir.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "ui/place.h"
+#include "ui/commun/place.h"
 
 #include "ui/banc.h"
 

@@ -1,4 +1,4 @@
-#include "ui/surface_qt.h"
+#include "ui/commun/surface_qt.h"
 
 #include <QImage>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "ui/surveillance.h"
+#include "ui/principale/surveillance.h"
 
 #include "base/fichiers.h"
 #include "ui/banc.h"

@@ -1,7 +1,7 @@
 #include "draw/table.h"
 #include "outils/fausses_fenetres.h"
 #include "sim/secours.h"
-#include "ui/table.h"
+#include "ui/principale/table.h"
 
 #include <QImage>
 #include <QPaintEvent>

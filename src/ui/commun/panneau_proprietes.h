@@ -1,0 +1,49 @@
+#pragma once
+
+#include "ui/commun/nombre.h"
+
+#include <QColor>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+/// The exact numbers of what is chosen.
+class PanneauProprietes final : public QGroupBox {
+public:
+    struct Champ {
+        QString nom; ///< objectName of its box
+        QString texte, unite;
+        double mini, maxi, valeur;
+        int decimales = 0;
+    };
+    struct Sorte {
+        QString cle, texte;
+        QColor couleur;
+    };
+
+    explicit PanneauProprietes(QWidget* parent);
+
+    std::function<void(std::size_t champ, double valeur)> au_nombre;
+    std::function<void(const QString& cle)> a_la_sorte;
+
+    /// @param sortes  the kinds it can become, none: the kind is not shown
+    void montrer(const QString& titre, const std::vector<Champ>& champs,
+                 const std::vector<Sorte>& sortes = {}, const QString& sorte = {});
+    /// A sentence in place of numbers.
+    void conseiller(const QString& titre, const QString& conseil);
+
+private:
+    void refaire(const std::vector<Champ>& champs, const std::vector<Sorte>& sortes);
+    void ajouter_champ(const Champ& champ, std::size_t i);
+
+    QFormLayout* lignes_;
+    QLabel* conseil_ = nullptr;
+    QComboBox* sortes_ = nullptr;
+    std::vector<Nombre*> nombres_;
+    QString presents_; ///< names of the boxes that exist
+};

@@ -1,0 +1,140 @@
+#include "ui/commun/surface_qt.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <initializer_list>
+#include <utility>
+
+namespace {
+
+bool finis(std::initializer_list<double> valeurs) {
+    return std::all_of(valeurs.begin(), valeurs.end(), [](double v) { return std::isfinite(v); });
+}
+
+} // namespace
+
+QColor couleur_qt(Couleur couleur) {
+    return {couleur.rouge, couleur.vert, couleur.bleu};
+}
+
+void Repere::regler(QSizeF taille, double gauche, double haut, double droite, double bas) {
+    x0_ = gauche;
+    y0_ = haut;
+    ax_ = droite == gauche ? 1 : taille.width() / (droite - gauche);
+    ay_ = bas == haut ? -1 : taille.height() / (bas - haut);
+}
+
+QRectF Repere::boite(double x1, double y1, double x2, double y2) const {
+    return QRectF(point(x1, y1), point(x2, y2)).normalized();
+}
+
+SurfaceQt::SurfaceQt(QPainter& peintre, QSizeF taille)
+    : peintre_(peintre), taille_(taille), densite_(peintre.device()->devicePixelRatioF()) {
+    peintre_.setRenderHint(QPainter::Antialiasing);
+}
+
+// Boxes lie on whole pixels. Smoothed all the same they would be filled row by row, in a pool of
+// threads.
+void SurfaceQt::lisser(bool oui) {
+    if (std::exchange(lisse_, oui) != oui)
+        peintre_.setRenderHint(QPainter::Antialiasing, oui);
+}
+
+void SurfaceQt::coordonnees(double gauche, double haut, double droite, double bas) {
+    repere_.regler(taille_, gauche, haut, droite, bas);
+}
+
+void SurfaceQt::trait_pointille(bool pointille) {
+    pointille_ = pointille;
+    trait_a_jour_ = false;
+}
+
+void SurfaceQt::epaisseur(Entier16 pixels) {
+    epaisseur_ = pixels;
+    trait_a_jour_ = false;
+}
+
+void SurfaceQt::boite_pleine(double x1, double y1, double x2, double y2) {
+    lisser(false);
+    peintre_.fillRect(sur_les_pixels(repere_.boite(x1, y1, x2, y2)), couleur_qt(trait_));
+}
+
+void SurfaceQt::boite(double x1, double y1, double x2, double y2, Couleur couleur) {
+    choisir_trait(couleur);
+    choisir_fond();
+    const QRectF r = repere_.boite(x1, y1, x2, y2);
+    peintre_.drawRect(
+        QRectF(QPointF(au_milieu_du_pixel(r.left()), au_milieu_du_pixel(r.top())),
+               QPointF(au_milieu_du_pixel(r.right()), au_milieu_du_pixel(r.bottom()))));
+}
+
+void SurfaceQt::ligne(double x1, double y1, double x2, double y2, Couleur couleur) {
+    if (!finis({x1, y1, x2, y2}))
+        return;
+    choisir_trait(couleur);
+    QPointF a = repere_.point(x1, y1);
+    QPointF b = repere_.point(x2, y2);
+    if (x1 == x2)
+        a.rx() = b.rx() = au_milieu_du_pixel(a.x());
+    if (y1 == y2)
+        a.ry() = b.ry() = au_milieu_du_pixel(a.y());
+    peintre_.drawLine(a, b);
+}
+
+void SurfaceQt::cercle(double x, double y, double rayon, Couleur couleur) {
+    if (!finis({x, y, rayon}))
+        return;
+    choisir_trait(couleur);
+    choisir_fond();
+    peintre_.drawEllipse(repere_.point(x, y), repere_.pixels_x(std::fabs(rayon)),
+                         repere_.pixels_y(std::fabs(rayon)));
+}
+
+void SurfaceQt::arc(double x, double y, double rayon, Couleur couleur, double debut, double fin,
+                    double aspect) {
+    if (!finis({x, y, rayon, debut, fin, aspect}))
+        return;
+    const double rx = aspect > 1 ? rayon / aspect : rayon;
+    const double ry = aspect > 1 ? rayon : rayon * aspect;
+    if (ry == 0) { // flat
+        ligne(x - rx, y, x + rx, y, couleur);
+        return;
+    }
+    choisir_trait(couleur);
+    const auto seiziemes = [](double a) { return static_cast<int>(std::lround(a * 2880 / Pi)); };
+    peintre_.drawArc(repere_.boite(x - rx, y - ry, x + rx, y + ry), seiziemes(debut),
+                     seiziemes(fin - debut));
+}
+
+// Edges on whole device pixels: neighbouring boxes meet without a seam. Never thinner than one.
+QRectF SurfaceQt::sur_les_pixels(QRectF r) const {
+    const double gauche = std::round(r.left() * densite_);
+    const double haut = std::round(r.top() * densite_);
+    const double droite = std::max(std::round(r.right() * densite_), gauche + 1);
+    const double bas = std::max(std::round(r.bottom() * densite_), haut + 1);
+    return QRectF(QPointF(gauche, haut) / densite_, QPointF(droite, bas) / densite_);
+}
+
+// A pen of an odd number of device pixels is crisp about the middle of a pixel, an even one about
+// its edge.
+double SurfaceQt::au_milieu_du_pixel(double valeur) const {
+    const auto largeur = static_cast<int>(std::lround(std::max(1.0, epaisseur_ * densite_)));
+    const double demi = largeur % 2 != 0 ? 0.5 : 0;
+    return (std::floor(valeur * densite_ - demi + 0.5) + demi) / densite_;
+}
+
+void SurfaceQt::choisir_trait(Couleur couleur) {
+    lisser(true);
+    if (trait_a_jour_ && couleur == trait_du_peintre_)
+        return;
+    peintre_.setPen(QPen(couleur_qt(couleur), epaisseur_, pointille_ ? Qt::DotLine : Qt::SolidLine,
+                         pointille_ ? Qt::FlatCap : Qt::RoundCap, Qt::MiterJoin));
+    trait_du_peintre_ = couleur;
+    trait_a_jour_ = true;
+}
+
+void SurfaceQt::choisir_fond() {
+    peintre_.setBrush(plein_ ? QBrush(couleur_qt(fond_)) : QBrush(Qt::NoBrush));
+}

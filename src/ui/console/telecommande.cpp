@@ -1,0 +1,334 @@
+#include "ui/console/telecommande.h"
+
+#include "record/lignes_du_trajet.h"
+#include "ui/commun/boites.h"
+#include "ui/commun/garde.h"
+#include "ui/commun/place.h"
+#include "ui/principale/sim1.h"
+
+#include <QAction>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QKeyEvent>
+
+#include <utility>
+
+namespace {
+
+// Readable on the palette's background, light or dark.
+QColor couleur_d_alerte(const QPalette& p) {
+    return p.color(QPalette::Window).lightness() < 128 ? QColor(255, 150, 110) : QColor(176, 36, 0);
+}
+
+// Brings the window up to date with the model when a procedure ends, refused or not.
+template <typename Procedure>
+class ALaFin {
+public:
+    explicit ALaFin(Procedure procedure) : procedure_(std::move(procedure)) {}
+    ALaFin(const ALaFin&) = delete;
+    ALaFin& operator=(const ALaFin&) = delete;
+    ~ALaFin() { procedure_(); }
+
+private:
+    Procedure procedure_;
+};
+
+} // namespace
+
+Télécommande::Télécommande(Sim1& sim, Reprise& reprise)
+    : QWidget(&sim, Qt::Dialog | Qt::WindowCloseButtonHint),
+      sim_(sim),
+      reprise_(reprise),
+      console_(sim.etat(), sim, sim.moteur(), &reprise) {
+    nommer();
+    nommer_champs();
+    placer();
+    connecter();
+    connecter_touches();
+    console_.nbre_carreaux = [this] { return sim_.options().nbre_carreaux.text().toStdString(); };
+    VScroll1_Change();
+    actualiser();
+    retenir_place(*this);
+}
+
+void Télécommande::Active_Desactive(bool Status) {
+    for (QWidget* controle : std::initializer_list<QWidget*>{&Text1, &Text4})
+        controle->setEnabled(Status);
+    for (QPushButton& bouton : Command4)
+        bouton.setEnabled(Status);
+    for (int i = l_action; i < nb_legendes; ++i)
+        Label1[static_cast<std::size_t>(i)].setEnabled(Status);
+}
+
+void Télécommande::Debut_Fin_Enr(bool Status) {
+    Active_Desactive(!Status && console_.phase() == Console::Phase::repos);
+    Command9.setText(Status ? "Début Enr." : "Fin Enr.");
+    for (QWidget* controle :
+         std::initializer_list<QWidget*>{&TextA, &TextX, &TextY, &NbRO, &VScroll1})
+        controle->setEnabled(Status);
+    for (int i = 0; i < l_action; ++i)
+        Label1[static_cast<std::size_t>(i)].setEnabled(Status);
+}
+
+void Télécommande::actualiser() {
+    QWidget* const clavier = focusWidget();
+    Debut_Fin_Enr(console_.phase() == Console::Phase::arret);
+    annuler_.setEnabled(console_.annulation_possible());
+    reprendre_.setEnabled(console_.phase() == Console::Phase::arret);
+    actualiser_liste();
+    // What has the keyboard is disabled while an action plays, and Qt passes the keyboard on. It
+    // comes back unless the user has taken it elsewhere meanwhile.
+    if (console_.phase() == Console::Phase::action && clavier != nullptr && !clavier->isEnabled()) {
+        clavier_avant_ = clavier;
+        clavier_passe_ = focusWidget();
+    } else if (console_.phase() == Console::Phase::repos && clavier_avant_ != nullptr) {
+        if (focusWidget() == clavier_passe_)
+            clavier_avant_->setFocus();
+        clavier_avant_ = clavier_passe_ = nullptr;
+    }
+}
+
+void Télécommande::actualiser_liste() {
+    liste_.clear();
+    if (const std::string annonce = console_.annonce_du_precedent(); !annonce.empty()) {
+        auto* ligne = new QListWidgetItem(texte_qt(annonce), &liste_);
+        ligne->setFlags(Qt::NoItemFlags);
+    }
+    for (const Etape& etape : console_.etapes()) {
+        const LigneListe ligne = ligne_de_liste(etape);
+        auto* element = new QListWidgetItem(
+            texte_qt(ligne.numero + ".  " + ligne.action + "  ·  " + ligne.duree), &liste_);
+        if (ligne.marquee) {
+            element->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
+            element->setToolTip("Jouée et gardée dans le trajet, mais le code généré n'aura pas "
+                                "tout : ses valeurs y vont de 0 à 255");
+        }
+    }
+    liste_.scrollToBottom();
+    ecrire_le_temps();
+}
+
+void Télécommande::suivre_le_temps() {
+    if (isVisible() && console_.temps_du_match() / 100 != seconde_)
+        ecrire_le_temps();
+}
+
+void Télécommande::ecrire_le_temps() {
+    constexpr std::int32_t alerte = 8000;
+    const std::int32_t duree = console_.temps_du_match();
+    seconde_ = duree / 100;
+    std::string texte = "Temps du match : " + texte_duree(duree);
+    if (console_.recommencera())
+        texte += ". La course est finie : la prochaine action recommence le trajet à l'action 1, "
+                 "depuis la position initiale. Le trajet présent ira dans Sauvegardes ; Annuler le "
+                 "rendra.";
+    else if (duree >= alerte)
+        texte += " sur 90 s : après, le trajet recommence à l'action 1";
+    total_.setText(texte_qt(texte));
+    QPalette p = palette();
+    if (duree >= alerte || console_.recommencera())
+        p.setColor(QPalette::WindowText, couleur_d_alerte(p));
+    total_.setPalette(p);
+}
+
+void Télécommande::action_finie() {
+    console_.action_finie();
+    actualiser();
+}
+
+void Télécommande::recommencer() {
+    console_.oublier();
+    actualiser();
+    suivre_nombre_de_robots();
+    VScroll1_Change();
+}
+
+void Télécommande::VScroll1_Change() {
+    const ChampsPose pose = console_.VScroll1_Change(VScroll1.value());
+    NbRO.setText(QString::number(console_.robot()));
+    TextA.setText(texte_qt(pose.TextA));
+    TextX.setText(texte_qt(pose.TextX));
+    TextY.setText(texte_qt(pose.TextY));
+    indiquer_position();
+    if (console_.phase() == Console::Phase::arret)
+        annuler_.setEnabled(console_.annulation_possible());
+}
+
+void Télécommande::indiquer_position() {
+    const LimitesPose limites = limites_de_position(sim_.etat());
+    const auto dehors = [this](QLineEdit& champ, int limite) {
+        bool nombre = false;
+        const double valeur = champ.text().toDouble(&nombre);
+        const bool hors = nombre && (valeur < 0 || valeur > limite);
+        QPalette p = palette();
+        if (hors) {
+            QColor teinte = couleur_d_alerte(p);
+            teinte.setAlphaF(0.3F);
+            p.setColor(QPalette::Base, teinte);
+        }
+        champ.setPalette(p);
+        return hors;
+    };
+    const bool X_dehors = dehors(TextX, limites.X);
+    const bool Y_dehors = dehors(TextY, limites.Y);
+    const QString etendue = QString("%1 × %2 cm").arg(int{limites.X}).arg(int{limites.Y});
+    QStringList textes;
+    if (const int ecart = ecart_de_relecture(sim_.etat()); ecart != 0)
+        textes << QString("Table tournée : tapez X et Y de la table droite\n(%1). Le X que le "
+                          "programme relit\na %2 cm de %3.")
+                      .arg(etendue)
+                      .arg(std::abs(ecart))
+                      .arg(ecart > 0 ? "trop" : "moins");
+    if (X_dehors || Y_dehors)
+        textes << QString("Hors de la table (%1).").arg(etendue);
+    indication_.setText(textes.join('\n'));
+    indication_.setVisible(!textes.isEmpty());
+}
+
+void Télécommande::Command4_Click(std::size_t k) {
+    const ALaFin fin([this] { actualiser(); });
+    console_.Command4_Click(actions_console.at(k).legende, Text1.text().toStdString(),
+                            Text4.text().toStdString());
+}
+
+void Télécommande::Command9_Click() {
+    const ALaFin fin([this] { actualiser(); });
+    console_.Command9_Click(
+        {TextX.text().toStdString(), TextY.text().toStdString(), TextA.text().toStdString()});
+    suivre_nombre_de_robots();
+}
+
+void Télécommande::Command2_Click() {
+    hide();
+    sim_.montrer_options();
+}
+
+void Télécommande::annuler() {
+    const ALaFin fin([this] { actualiser(); });
+    const bool enregistrait = console_.phase() != Console::Phase::arret;
+    console_.annuler();
+    if (enregistrait && console_.phase() == Console::Phase::arret)
+        VScroll1_Change();
+}
+
+void Télécommande::continuer_le_dernier() {
+    suivre_nombre_de_robots();
+    if (const int robot = robot_enregistre_en_dernier(sim_.etat()); robot != 0)
+        continuer(robot);
+    else
+        recommencer();
+}
+
+void Télécommande::continuer(int robot) {
+    const ALaFin fin([this] { actualiser(); });
+    VScroll1.setValue(robot);
+    VScroll1_Change();
+    console_.continuer(robot);
+}
+
+// What can be gone on with, as it is now.
+void Télécommande::remplir_menu() {
+    menu_reprendre_.clear();
+    const int robot = console_.robot();
+    if (console_.continuation_possible(robot)) {
+        QAction* continuer_ici =
+            menu_reprendre_.addAction(QString("Continuer le trajet du robot %1").arg(robot));
+        connect(continuer_ici, &QAction::triggered, this,
+                [this, robot] { garde(sim_, [&] { continuer(robot); }); });
+    }
+    ajouter_les_gardes();
+    if (menu_reprendre_.isEmpty())
+        menu_reprendre_.addAction("Aucun trajet à reprendre")->setEnabled(false);
+}
+
+void Télécommande::ajouter_les_gardes() {
+    for (const EnregistrementGarde& g : reprise_.gardes()) {
+        QString nom = QFileInfo(QString::fromStdString(g.fichier.string()))
+                          .lastModified()
+                          .toString("dd/MM/yyyy HH:mm:ss");
+        for (const Enregistrement::Robot& robot : g.contenu.robots)
+            nom +=
+                QString(", robot %1 (%2 actions)").arg(int{robot.numero}).arg(robot.actions.size());
+        connect(menu_reprendre_.addAction(nom), &QAction::triggered, this, [this, g] {
+            garde(sim_, [&] {
+                reprise_.reprendre(sim_, g.contenu);
+                sim_.continuer_enregistrement();
+            });
+        });
+    }
+}
+
+void Télécommande::keyPressEvent(QKeyEvent* evenement) {
+    if (evenement->key() != Qt::Key_Escape)
+        return QWidget::keyPressEvent(evenement);
+    // First what runs, then the window.
+    if (!sim_.arreter_course())
+        garde(sim_, [this] { Command2_Click(); });
+}
+
+bool Télécommande::arreter_action() {
+    const ALaFin fin([this] { actualiser(); });
+    return console_.arreter_action();
+}
+
+void Télécommande::showEvent(QShowEvent* evenement) {
+    suivre_nombre_de_robots();
+    indiquer_position();
+    ecrire_le_temps();
+    QWidget::showEvent(evenement);
+}
+
+// Not while recording: the robot that is driven stays the one that is shown.
+void Télécommande::suivre_nombre_de_robots() {
+    if (console_.phase() == Console::Phase::arret)
+        VScroll1.setMaximum(sim_.etat().NbRobot);
+}
+
+bool Télécommande::eventFilter(QObject* objet, QEvent* evenement) {
+    // The second click of a double click is no click of its own: it would undo what the first did.
+    if (objet == &Command9 && evenement->type() == QEvent::MouseButtonDblClick)
+        return true;
+    const bool arrive = evenement->type() == QEvent::Enter || evenement->type() == QEvent::FocusIn;
+    const bool part = evenement->type() == QEvent::Leave || evenement->type() == QEvent::FocusOut;
+    for (std::size_t k = 0; k < nb_actions && (arrive || part); ++k) {
+        if (objet == &Command4.at(k))
+            surligner(arrive ? &actions_console.at(k) : nullptr);
+    }
+    return QWidget::eventFilter(objet, evenement);
+}
+
+// Shows which fields the action under the pointer or the keyboard reads.
+void Télécommande::surligner(const ActionConsole* action) {
+    const auto teinter = [this](QLineEdit& champ, bool utile) {
+        QPalette p = palette();
+        if (utile) {
+            QColor teinte = p.color(QPalette::Highlight);
+            teinte.setAlphaF(0.25F);
+            p.setColor(QPalette::Base, teinte);
+        }
+        champ.setPalette(p);
+    };
+    teinter(Text1, action != nullptr && action->utilise_Text1());
+    teinter(Text4, action != nullptr && action->utilise_Text4());
+}
+
+void Télécommande::connecter() {
+    const auto relier = [this](QPushButton& bouton, auto procedure) {
+        connect(&bouton, &QPushButton::clicked, this,
+                [this, procedure] { garde(sim_, procedure); });
+    };
+    for (std::size_t k = 0; k < nb_actions; ++k) {
+        relier(Command4.at(k), [this, k] { Command4_Click(k); });
+        Command4.at(k).installEventFilter(this);
+    }
+    relier(Command9, [this] { Command9_Click(); });
+    Command9.installEventFilter(this);
+    connect(&menu_reprendre_, &QMenu::aboutToShow, this,
+            [this] { garde(sim_, [this] { remplir_menu(); }); });
+    for (QLineEdit* champ : {&TextX, &TextY})
+        connect(champ, &QLineEdit::textChanged, this, [this] { indiquer_position(); });
+    relier(Command2, [this] { Command2_Click(); });
+    relier(annuler_, [this] { annuler(); });
+    connect(&VScroll1, &QScrollBar::valueChanged, this,
+            [this] { garde(sim_, [this] { VScroll1_Change(); }); });
+}

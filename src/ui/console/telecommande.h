@@ -1,0 +1,110 @@
+#pragma once
+
+#include "record/console.h"
+#include "ui/commun/barre_nombre.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QWidget>
+
+#include <array>
+
+class Sim1;
+class QGridLayout;
+class QLayout;
+
+/// The remote-control console: drives one robot action by action and records what it does. The
+/// model is record/console.h; this is its window.
+class Télécommande final : public QWidget {
+public:
+    Télécommande(Sim1& sim, Reprise& reprise);
+
+    /// Enables or disables the action fields and buttons.
+    void Active_Desactive(bool Status);
+    /// The engine's word that the driven action is over, or that the run has ended.
+    void action_finie();
+    /// A project was loaded or the table turned: no recording goes on, the pose is read again.
+    void recommencer();
+    void VScroll1_Change();
+    void Command4_Click(std::size_t k);
+    void Command9_Click();
+    void Command2_Click();
+    /// There are more or fewer robots to choose from.
+    void suivre_nombre_de_robots();
+    /// Ends the action that the robot is driven through. @returns false when there is none
+    bool arreter_action();
+    /// Goes on with the path that was recorded last, if it can be.
+    void continuer_le_dernier();
+    /// Says where the typed position lies, and what a turned table does to it.
+    void indiquer_position();
+    /// A tick is over: the time of the match is shown by the second.
+    void suivre_le_temps();
+
+protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
+    void showEvent(QShowEvent* evenement) override;
+
+private:
+    static constexpr std::size_t nb_actions = actions_console.size();
+
+    /// The captions of the console, in the order of their indices.
+    enum Legende { // NOLINT(performance-enum-size)
+        l_numero,
+        l_position,
+        l_x,
+        l_y,
+        l_cap,
+        l_cm_x,
+        l_cm_y,
+        l_degre_cap,
+        l_action,
+        l_longueur,
+        l_unite_longueur,
+        l_angle,
+        l_degre,
+        nb_legendes
+    };
+
+    void Debut_Fin_Enr(bool Status);
+    void annuler();
+    void continuer(int robot);
+    void remplir_menu();
+    void ajouter_les_gardes();
+    void actualiser();
+    void ecrire_le_temps();
+    void actualiser_liste();
+    void surligner(const ActionConsole* action);
+
+    void nommer();
+    void nommer_champs();
+    void placer();
+    QLayout* placer_robot();
+    QLayout* placer_action();
+    QLayout* placer_boutons();
+    QLayout* placer_liste();
+    void connecter();
+    void connecter_touches();
+
+    Sim1& sim_;
+    Reprise& reprise_;
+    Console console_;
+    std::array<QPushButton, nb_actions> Command4;
+    std::array<QLabel, nb_legendes> Label1;
+    QLineEdit Text1, Text4, TextX, TextY, TextA;
+    BarreNombre VScroll1;
+    QLabel NbRO;
+    QPushButton Command9, Command2;
+    QPushButton annuler_;
+    QPushButton reprendre_;
+    QMenu menu_reprendre_{this};
+    QLabel indication_;
+    QListWidget liste_;
+    QLabel total_;
+    std::int32_t seconde_ = 0;         ///< that total_ shows
+    QWidget* clavier_avant_ = nullptr; ///< what had the keyboard before the present action
+    QWidget* clavier_passe_ = nullptr; ///< what Qt gave it to then
+};

@@ -1,0 +1,261 @@
+// How the console looks: names, captions, keys and places of its controls.
+#include "ui/commun/boites.h"
+#include "ui/commun/nombre.h"
+#include "ui/commun/touches_annulation.h"
+#include "ui/console/telecommande.h"
+
+#include <QAction>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace {
+
+struct Touche {
+    const char* legende;
+    int touche;
+    const char* nom;
+    const char* bulle;
+};
+
+constexpr Touche touches[] = {
+    {"Avance", Qt::Key_Up, "Alt+Haut", "Avance de la distance donnée"},
+    {"Recule", Qt::Key_Down, "Alt+Bas", "Recule de la distance donnée"},
+    {"Droite", Qt::Key_Right, "Alt+Droite", "Tourne à droite sur place"},
+    {"Gauche", Qt::Key_Left, "Alt+Gauche", "Tourne à gauche sur place"},
+    {"Pause", Qt::Key_P, "Alt+P", "Attend la durée donnée"},
+    {"VirAvDr", Qt::Key_PageUp, "Alt+Page haut", "Vire en avant vers la droite"},
+    {"VirAvGa", Qt::Key_Home, "Alt+Début", "Vire en avant vers la gauche"},
+    {"VirArDr", Qt::Key_PageDown, "Alt+Page bas", "Vire en arrière vers la droite"},
+    {"VirArGa", Qt::Key_End, "Alt+Fin", "Vire en arrière vers la gauche"},
+    {"Balise Droite", Qt::Key_D, "Alt+D", "Cherche la balise droite"},
+    {"Balise Gauche", Qt::Key_G, "Alt+G", "Cherche la balise gauche"},
+};
+
+// What becomes of the action in the generated code, where that is not what the screen shows.
+QString dans_le_code(const QString& legende) {
+    if (legende.startsWith("Vir"))
+        return "\nDans le code généré : une ligne droite, un quart de tour et une ligne droite, "
+               "dont "
+               "les longueurs ne suivent pas l'arc dessiné à l'écran.";
+    if (legende == "Droite" || legende == "Gauche")
+        return QString("\nDans le code généré : Action_%1. C'est voulu : les tours sur place sont "
+                       "croisés à cause du nom des sous-programmes du robot.")
+            .arg(legende == "Droite" ? QString("Gauche") : QString("Droite"));
+    return {};
+}
+
+QFrame* separateur() {
+    auto* trait = new QFrame;
+    trait->setFrameStyle(int(QFrame::HLine) | int(QFrame::Sunken));
+    return trait;
+}
+
+} // namespace
+
+void Télécommande::nommer() {
+    setObjectName("Télécommande");
+    setWindowTitle("Télécommande");
+    for (std::size_t k = 0; k < nb_actions; ++k) {
+        Command4.at(k).setObjectName("Command4");
+        Command4.at(k).setProperty("index", int(k));
+        Command4.at(k).setText(texte_qt(actions_console.at(k).legende));
+    }
+    constexpr std::array<const char*, nb_legendes> legendes{"Numéro du robot :",
+                                                            "Position initiale :",
+                                                            "X",
+                                                            "Y",
+                                                            "Cap",
+                                                            "cm",
+                                                            "cm",
+                                                            "°",
+                                                            "Action : :",
+                                                            "Distance, durée ou rayon",
+                                                            "cm ou 1/100 s",
+                                                            "Angle",
+                                                            "degré"};
+    for (std::size_t i = 0; i < legendes.size(); ++i) {
+        Label1.at(i).setObjectName("Label1");
+        Label1.at(i).setProperty("index", int(i));
+        Label1.at(i).setText(legendes.at(i));
+    }
+    NbRO.setObjectName("NbRO");
+    Command9.setObjectName("Command9");
+    Command9.setText("Début Enr.");
+    Command9.setToolTip("Commence ou finit l'enregistrement (Alt+E)");
+    Command2.setObjectName("Command2");
+    Command2.setText("Masquer");
+    Command2.setToolTip("Ferme la télécommande et revient aux options (Échap)");
+    annuler_.setObjectName("annuler");
+    annuler_.setText("Annuler la dernière action");
+    annuler_.setToolTip("Retire la dernière action et remet le robot où il était (Ctrl+Z)");
+    reprendre_.setObjectName("reprendre");
+    reprendre_.setText("Reprendre un trajet");
+    reprendre_.setToolTip("Continue le dernier trajet enregistré, ou en rend un qui est gardé dans "
+                          "Sauvegardes");
+    menu_reprendre_.setObjectName("menu_reprendre");
+    reprendre_.setMenu(&menu_reprendre_);
+    indication_.setObjectName("indication");
+    liste_.setObjectName("liste");
+    liste_.setAccessibleName("Actions enregistrées");
+    total_.setObjectName("total");
+}
+
+void Télécommande::nommer_champs() {
+    struct NomChamp {
+        QLineEdit& champ;
+        const char* nom;
+        const char* accessible;
+        Legende legende;
+        const char* texte;
+    };
+    for (const NomChamp& c : std::initializer_list<NomChamp>{
+             {Text1, "Text1", "Distance, durée ou rayon", l_longueur, "10"},
+             {Text4, "Text4", "Angle en degrés", l_angle, "90"},
+             {TextX, "TextX", "Position initiale X en centimètres", l_x, ""},
+             {TextY, "TextY", "Position initiale Y en centimètres", l_y, ""},
+             {TextA, "TextA", "Cap initial en degrés", l_cap, ""}}) {
+        c.champ.setObjectName(c.nom);
+        c.champ.setAccessibleName(c.accessible);
+        c.champ.setText(c.texte);
+        c.champ.setAlignment(Qt::AlignRight);
+        c.champ.setFixedWidth(c.champ.fontMetrics().averageCharWidth() * 9);
+        Label1.at(c.legende).setBuddy(&c.champ);
+        n_accepter_que_des_entiers(c.champ);
+    }
+    Text1.setToolTip("Avance, recule et virages : de 0 à 255 cm ; pause : de 0 à 255 centièmes "
+                     "de seconde");
+    Text4.setToolTip("De 0 à 255 degrés");
+    VScroll1.setObjectName("VScroll1");
+    VScroll1.setAccessibleName("Numéro du robot");
+    VScroll1.setRange(1, robots_des_fichiers);
+    Label1.at(l_numero).setBuddy(&VScroll1);
+}
+
+void Télécommande::placer() {
+    auto* gauche = new QVBoxLayout;
+    gauche->addLayout(placer_robot());
+    gauche->addWidget(&Command9);
+    gauche->addWidget(&reprendre_);
+    gauche->addWidget(separateur());
+    gauche->addLayout(placer_action());
+    gauche->addLayout(placer_boutons());
+    gauche->addStretch();
+    gauche->addWidget(&Command2);
+    auto* rangee = new QHBoxLayout(this);
+    rangee->setSpacing(14);
+    rangee->addLayout(gauche);
+    rangee->addLayout(placer_liste(), 1);
+}
+
+QLayout* Télécommande::placer_robot() {
+    auto* grille = new QGridLayout;
+    grille->setColumnStretch(4, 1);
+    auto* numero = new QHBoxLayout;
+    NbRO.setAlignment(Qt::AlignCenter);
+    NbRO.setFrameStyle(int(QFrame::Panel) | int(QFrame::Sunken));
+    NbRO.setMinimumWidth(NbRO.fontMetrics().averageCharWidth() * 4);
+    VScroll1.setFixedHeight(48);
+    numero->addWidget(&NbRO, 0, Qt::AlignVCenter);
+    numero->addWidget(&VScroll1);
+    numero->addStretch();
+    grille->addWidget(&Label1.at(l_numero), 0, 0);
+    grille->addLayout(numero, 0, 1, 1, 4);
+    grille->addWidget(&Label1.at(l_position), 1, 0);
+    const std::initializer_list<std::tuple<Legende, QLineEdit*, Legende>> lignes{
+        {l_x, &TextX, l_cm_x}, {l_y, &TextY, l_cm_y}, {l_cap, &TextA, l_degre_cap}};
+    int rang = 1;
+    for (const auto& [nom, champ, unite] : lignes) {
+        grille->addWidget(&Label1.at(nom), rang, 1);
+        grille->addWidget(champ, rang, 2);
+        grille->addWidget(&Label1.at(unite), rang, 3);
+        ++rang;
+    }
+    grille->addWidget(&indication_, rang, 0, 1, 5);
+    indication_.hide();
+    return grille;
+}
+
+QLayout* Télécommande::placer_action() {
+    auto* grille = new QGridLayout;
+    grille->setColumnStretch(3, 1);
+    grille->addWidget(&Label1.at(l_action), 0, 0, 1, 4);
+    grille->addWidget(&Label1.at(l_longueur), 1, 0);
+    grille->addWidget(&Text1, 1, 1);
+    grille->addWidget(&Label1.at(l_unite_longueur), 1, 2);
+    grille->addWidget(&Label1.at(l_angle), 2, 0);
+    grille->addWidget(&Text4, 2, 1);
+    grille->addWidget(&Label1.at(l_degre), 2, 2);
+    return grille;
+}
+
+// As seen from above the robot: ahead is up, left is left.
+QLayout* Télécommande::placer_boutons() {
+    struct Place {
+        const char* legende;
+        int ligne, colonne;
+    };
+    constexpr std::array<Place, nb_actions> places{{{"VirAvGa", 0, 0},
+                                                    {"Avance", 0, 1},
+                                                    {"VirAvDr", 0, 2},
+                                                    {"Gauche", 1, 0},
+                                                    {"Pause", 1, 1},
+                                                    {"Droite", 1, 2},
+                                                    {"VirArGa", 2, 0},
+                                                    {"Recule", 2, 1},
+                                                    {"VirArDr", 2, 2},
+                                                    {"Balise Gauche", 3, 0},
+                                                    {"Balise Droite", 3, 2}}};
+    auto* grille = new QGridLayout;
+    for (const Place& place : places) {
+        for (QPushButton& bouton : Command4) {
+            if (bouton.text() == QLatin1String(place.legende))
+                grille->addWidget(&bouton, place.ligne, place.colonne);
+        }
+    }
+    for (int colonne = 0; colonne < 3; ++colonne)
+        grille->setColumnStretch(colonne, 1);
+    grille->setRowMinimumHeight(3, Command4[0].sizeHint().height() + 8);
+    return grille;
+}
+
+QLayout* Télécommande::placer_liste() {
+    auto* colonne = new QVBoxLayout;
+    auto* titre = new QLabel("Actions enregistrées :");
+    titre->setBuddy(&liste_);
+    liste_.setMinimumWidth(liste_.fontMetrics().averageCharWidth() * 36);
+    liste_.setAlternatingRowColors(true);
+    liste_.setWordWrap(true);
+    liste_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    liste_.setIconSize({14, 14});
+    colonne->addWidget(titre);
+    colonne->addWidget(&liste_, 1);
+    total_.setWordWrap(true);
+    colonne->addWidget(&total_);
+    colonne->addWidget(&annuler_);
+    return colonne;
+}
+
+// Each key presses its button, so that a disabled one does nothing.
+void Télécommande::connecter_touches() {
+    const auto relier = [this](QPushButton& bouton, const QKeySequence& touche) {
+        auto* action = new QAction(this);
+        action->setShortcut(touche);
+        action->setAutoRepeat(&bouton != &Command9); // held down, it would start and end in turn
+        connect(action, &QAction::triggered, &bouton, [&bouton] { bouton.click(); });
+        addAction(action);
+    };
+    for (const Touche& t : touches) {
+        for (QPushButton& bouton : Command4) {
+            if (bouton.text() != QLatin1String(t.legende))
+                continue;
+            relier(bouton, QKeySequence(int(Qt::ALT) | t.touche));
+            bouton.setToolTip(QString("%1 (%2)").arg(QString(t.bulle), QString(t.nom)) +
+                              dans_le_code(bouton.text()));
+        }
+    }
+    relier(Command9, QKeySequence(int(Qt::ALT) | int(Qt::Key_E)));
+    relier(annuler_, QKeySequence(QKeySequence::Undo));
+    annuler_de_partout(*this);
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "ui/commun/historique.h"
+#include "ui/commun/panneau_proprietes.h"
+#include "ui/editeurs/apercu_robot.h"
+#include "ui/editeurs/fenetre_editeur.h"
+#include "ui/editeurs/liste_choix.h"
+#include "ui/editeurs/vue_robot.h"
+
+#include <QCheckBox>
+#include <QLabel>
+
+#include <array>
+#include <optional>
+
+/// The robot editor.
+class dessinRobot final : public FenetreEditeur {
+public:
+    dessinRobot(QWidget* parent, Foutil& outils, Programme programme);
+
+    const DocumentRobot& document() const { return historique_.doc(); }
+    /// The preview shows the robot on the table of that state.
+    void regler_table(const Etat& table);
+
+protected:
+    void fichier_change() override;
+    QUndoStack& pile() override { return historique_.pile; }
+    VueEchelle& vue() override { return vue_; }
+    void commencer() override { historique_.repartir(DocumentRobot::nouveau()); }
+    std::vector<int> lire(const std::string& octets) override;
+    std::string octets() const override { return historique_.doc().ecrire(); }
+    std::optional<RefusLecture> relire(const std::string& octets) const override {
+        return DocumentRobot::relire(octets);
+    }
+    std::string figer() const override { return historique_.doc().figer(); }
+    void degeler(std::string_view fige) override {
+        historique_.repartir(DocumentRobot::depuis_fige(fige));
+    }
+    void retirer() override;
+    void dupliquer() override;
+    void tout_choisir() override;
+    void deplacer(double dx, double dy) override;
+
+private:
+    void placer();
+    void connecter();
+    void rafraichir();
+    void montrer_segment();
+    void montrer_reglages();
+    void montrer_liste();
+    void montrer_avis_init();
+    void miroir();
+    void ajouter(const std::vector<Fiche>& segments, const QString& nom);
+    Selection segments_choisis() const;
+    void changer_segment(std::size_t champ, double valeur);
+    void changer_reglage(std::size_t champ, double valeur);
+
+    Historique<DocumentRobot> historique_;
+    VueRobot vue_;
+    ApercuRobot apercu_;
+    PanneauProprietes segment_, reglages_;
+    ListeChoix liste_;
+    QCheckBox tourner_;
+    QLabel position_, comptes_, avis_init_;
+    std::optional<std::array<float, 4>> init_; ///< the trajectory's own pose, as an "I" record
+    QString trajet_;                           ///< its file
+};

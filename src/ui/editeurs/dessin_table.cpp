@@ -1,0 +1,237 @@
+#include "ui/editeurs/dessin_table.h"
+
+#include "ui/editeurs/formes.h"
+
+#include <QLabel>
+#include <QMenu>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+QString description(const Fiche& e) {
+    QString texte = formes::nom(e.cle) + " :";
+    for (std::size_t i = 0; i < nombre_de_champs(e.cle); ++i)
+        texte += (i == 0 ? " " : ", ") + QString::number(e.entier(i));
+    return texte;
+}
+
+QPixmap pastille(const Fiche& e) {
+    QPixmap image(12, 12);
+    image.fill(Qt::gray); // a frame: the list may be as white as the zone
+    QPainter(&image).fillRect(1, 1, 10, 10, formes::couleur(e.cle));
+    return image;
+}
+
+} // namespace
+
+dessinTable::dessinTable(QWidget* parent, Foutil& outils, Programme programme)
+    : FenetreEditeur(parent, outils, std::move(programme), GenreFichier::table),
+      historique_([this] { rafraichir(); }),
+      vue_(historique_, outils, this),
+      proprietes_(this) {
+    setObjectName("dessinTable");
+    placer();
+    connecter();
+    preparer_menus();
+    preparer_edition();
+}
+
+void dessinTable::placer() {
+    auto* colonne = new QWidget;
+    auto* lignes = new QVBoxLayout(colonne);
+    auto* titre_legende = new QLabel("&Légende");
+    auto* titre_liste = new QLabel("&Objets");
+    titre_legende->setBuddy(&legende_);
+    titre_liste->setBuddy(&liste_);
+    legende_.setObjectName("legende");
+    legende_.setAccessibleName("Légende");
+    legende_.setToolTip("Texte affiché sur la table. Une virgule passe à la ligne.");
+    legende_.setMaximumHeight(70);
+    legende_.setTabChangesFocus(true);
+    legende_.setUndoRedoEnabled(false); // the drawing's own steps
+    liste_.setObjectName("listeObjets");
+    liste_.setAccessibleName("Objets de la table");
+    lignes->addWidget(&proprietes_);
+    lignes->addWidget(titre_legende);
+    lignes->addWidget(&legende_);
+    lignes->addWidget(titre_liste);
+    lignes->addWidget(&liste_, 1);
+    auto* partage = new QSplitter;
+    partage->addWidget(&vue_);
+    partage->addWidget(colonne);
+    partage->setStretchFactor(0, 1);
+    const int liste = fontMetrics().horizontalAdvance("Zone L (blanc) : 000, 000, 000, 000") + 70;
+    partage->setSizes({900 - liste, liste});
+    setCentralWidget(partage);
+    position_.setObjectName("position");
+    position_.setText("x, y");
+    comptes_.setObjectName("comptes");
+    comptes_.setTextFormat(Qt::RichText);
+    statusBar()->addPermanentWidget(&comptes_);
+    statusBar()->addPermanentWidget(&position_);
+    position_.setMinimumWidth(position_.fontMetrics().horizontalAdvance("x = -0000  y = -0000 cm"));
+    resize(900, 600);
+}
+
+void dessinTable::connecter() {
+    vue_.au_deplacement = [this](QPointF cm) {
+        position_.setText(
+            QString("x = %1  y = %2 cm").arg(std::lround(cm.x())).arg(std::lround(cm.y())));
+    };
+    vue_.au_refus = [this](const std::string& raison) { refuser(raison); };
+    vue_.a_la_legende = [this] { legende_.setFocus(); };
+    proprietes_.au_nombre = [this](std::size_t i, double valeur) { changer_nombre(i, valeur); };
+    proprietes_.a_la_sorte = [this](const QString& cle) { changer_sorte(cle.toStdString()); };
+    connect(&legende_, &QPlainTextEdit::textChanged, this, [this] { changer_legende(); });
+    liste_.au_choix = [this](const Selection& s) { historique_.choisir(s); };
+}
+
+void dessinTable::preparer_edition() {
+    QMenu& m = menu_edition();
+    action(m, "avancer", "Vers l'a&vant", QKeySequence("Ctrl+Up"), [this] { changer_plan(true); });
+    action(m, "reculer", "Vers l'arri&ère", QKeySequence("Ctrl+Down"),
+           [this] { changer_plan(false); });
+    preparer_alignement();
+    QAction* verrou =
+        action(m, "verrouiller", "&Verrouiller les zones", QKeySequence("Ctrl+L"), [] {});
+    verrou->setCheckable(true);
+    verrou->setToolTip("La souris passe au travers des zones du sol");
+    connect(verrou, &QAction::toggled, this, [this](bool oui) { verrouiller_les_zones(oui); });
+}
+
+void dessinTable::preparer_alignement() {
+    QMenu& m = *menu_edition().addMenu("A&ligner");
+    struct Choix {
+        const char *nom, *texte;
+        Bord bord;
+    };
+    for (const Choix& c :
+         {Choix{"aligner_gauche", "À &gauche", Bord::gauche},
+          Choix{"aligner_droite", "À &droite", Bord::droite},
+          Choix{"aligner_haut", "En &haut", Bord::haut}, Choix{"aligner_bas", "En &bas", Bord::bas},
+          Choix{"aligner_milieu_x", "Sur la même &verticale", Bord::milieu_x},
+          Choix{"aligner_milieu_y", "Sur la même h&orizontale", Bord::milieu_y}})
+        action(m, c.nom, c.texte, {}, [this, bord = c.bord] { aligner(bord); });
+}
+
+// Some of what the reader accepts stops the drawing: an ellipse without width, a border beyond 16
+// bits.
+std::optional<RefusLecture> dessinTable::relire(const std::string& octets) const {
+    if (auto refus = DocumentTable::relire(octets))
+        return refus;
+    const DocumentTable d = DocumentTable::depuis(octets);
+    for (std::size_t i = 0; i < d.nombre(); ++i)
+        if (d[i].cle != "M" && DocumentTable::normaliser(d[i]) != d[i])
+            return RefusLecture{d.ligne(i), "une mesure qu'il ne peut pas dessiner"};
+    return std::nullopt;
+}
+
+std::vector<int> dessinTable::lire(const std::string& octets) {
+    historique_.repartir(DocumentTable::depuis(octets));
+    return historique_.doc().incomprises();
+}
+
+void dessinTable::rafraichir() {
+    vue_.rafraichir();
+    montrer_proprietes();
+    montrer_legende();
+    montrer_liste();
+    montrer_comptes();
+}
+
+void dessinTable::outil_change() {
+    const Outil& outil = outils_.en_main();
+    if (outil.forme == Outil::Forme::selection)
+        statusBar()->clearMessage();
+    else
+        statusBar()->showMessage(
+            QString(outil.texte) +
+            " : cliquer, ou tracer avec la souris (Alt ou Ctrl : sans la grille, "
+            "Maj : garder l'outil)");
+}
+
+void dessinTable::montrer_proprietes() {
+    const Selection& s = historique_.selection();
+    if (s.empty())
+        return proprietes_.conseiller("Rien n'est choisi",
+                                      "Cliquer un objet montre ses mesures ; tirer sur le fond en "
+                                      "choisit plusieurs. Un outil de la palette en ajoute.");
+    if (s.size() > 1)
+        return proprietes_.conseiller(QString("%1 objets choisis").arg(s.size()),
+                                      "Ils se déplacent et s'alignent ensemble.");
+    if (historique_.doc()[s.front()].cle == "M")
+        return proprietes_.conseiller("Légende", "Son texte se change ci-dessous.");
+    const Fiche e = mesures().typees;
+    using Champ = PanneauProprietes::Champ;
+    std::vector<Champ> champs;
+    const bool quatre = nombre_de_champs(e.cle) == 4;
+    const bool pion = !quatre && e.cle != "DR";
+    const double mini = pion ? -32768 : 0;
+    const double maxi = pion ? 32767 : DocumentTable::coordonnee_max;
+    if (quatre)
+        for (std::size_t i = 0; i < 4; ++i)
+            champs.push_back({QStringList{"X1", "Y1", "X2", "Y2"}[int(i)],
+                              QStringList{"X1", "Y1", "X2", "Y2"}[int(i)], " cm", mini, maxi,
+                              e.v[i]});
+    else
+        champs = {{"X", "X", " cm", mini, maxi, e.v[0]},
+                  {"Y", "Y", " cm", mini, maxi, e.v[1]},
+                  {"Rayon", "Rayon", " cm", -32768, 32767, e.v[2]}};
+    if (e.cle == "LN")
+        champs.push_back({"Incidence", "Incidence", "°", -180, 180,
+                          std::atan2(e.v[3] - e.v[1], e.v[2] - e.v[0]) * 180 / Pi, 1});
+    std::vector<PanneauProprietes::Sorte> sortes;
+    for (const std::string_view cle : sorte_table(e.cle)->cles)
+        // A block's two kinds do not have the same numbers.
+        if (cle == e.cle || sorte_table(cle)->nom != "blocs")
+            sortes.push_back({QString::fromUtf8(cle.data(), qsizetype(cle.size())),
+                              formes::nom(cle), formes::couleur(cle)});
+    proprietes_.montrer(formes::nom(e.cle), champs, sortes, QString::fromStdString(e.cle));
+}
+
+void dessinTable::montrer_legende() {
+    QString texte;
+    const DocumentTable& d = historique_.doc();
+    for (std::size_t i = 0; i < d.nombre(); ++i)
+        if (d[i].cle == "M")
+            texte = texte_qt(d[i].texte);
+    const QString avant = legende_.toPlainText();
+    if (texte == avant)
+        return;
+    // The cursor stays behind what was typed, which a caption may not keep as it is.
+    QTextCursor curseur = legende_.textCursor();
+    const QString tape = avant.left(curseur.position());
+    const Fiche garde = DocumentTable::normaliser({"M", {}, tape.toStdString()});
+    const QSignalBlocker muet(&legende_);
+    legende_.setPlainText(texte);
+    curseur = legende_.textCursor();
+    curseur.setPosition(int(std::min(texte_qt(garde.texte).size(), texte.size())));
+    legende_.setTextCursor(curseur);
+}
+
+void dessinTable::montrer_liste() {
+    std::vector<ListeChoix::Rangee> rangees;
+    const DocumentTable& d = historique_.doc();
+    for (std::size_t i = 0; i < d.nombre(); ++i)
+        if (d[i].cle != "M")
+            rangees.push_back({i, description(d[i]), [&d, i] { return QIcon(pastille(d[i])); }});
+    liste_.montrer(rangees, historique_.selection());
+}
+
+void dessinTable::montrer_comptes() {
+    QStringList comptes;
+    for (const SorteTable& sorte : sortes_table()) {
+        const int n = historique_.doc().compter(sorte.cles);
+        const QString texte =
+            QString("%1 %2/%3").arg(texte_qt(sorte.nom)).arg(n).arg(sorte.capacite);
+        comptes += n >= sorte.capacite ? "<b>" + texte + "</b>" : texte;
+    }
+    comptes_.setText(comptes.join(" · "));
+}

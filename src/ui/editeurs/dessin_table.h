@@ -1,0 +1,79 @@
+#pragma once
+
+#include "ui/commun/historique.h"
+#include "ui/commun/panneau_proprietes.h"
+#include "ui/editeurs/fenetre_editeur.h"
+#include "ui/editeurs/liste_choix.h"
+#include "ui/editeurs/vue_table.h"
+
+#include <QLabel>
+#include <QPlainTextEdit>
+
+#include <optional>
+
+/// The table editor.
+class dessinTable final : public FenetreEditeur {
+public:
+    dessinTable(QWidget* parent, Foutil& outils, Programme programme);
+
+    const DocumentTable& document() const { return historique_.doc(); }
+    /// The tool in hand changed.
+    void outil_change();
+
+protected:
+    QUndoStack& pile() override { return historique_.pile; }
+    VueEchelle& vue() override { return vue_; }
+    void commencer() override { historique_.repartir(DocumentTable::nouveau()); }
+    std::vector<int> lire(const std::string& octets) override;
+    std::string octets() const override { return historique_.doc().ecrire(); }
+    std::optional<RefusLecture> relire(const std::string& octets) const override;
+    std::string figer() const override { return historique_.doc().figer(); }
+    void degeler(std::string_view fige) override {
+        historique_.repartir(DocumentTable::depuis_fige(fige));
+    }
+    QString en_suspens() const override;
+    void retirer() override;
+    void dupliquer() override;
+    void tout_choisir() override;
+    void deplacer(double dx, double dy) override;
+
+private:
+    enum class Bord { gauche, droite, haut, bas, milieu_x, milieu_y };
+
+    /// The measures of one record as they were typed: the document keeps its box the right way
+    /// round, a line its exact length while its angle is changed.
+    struct Mesures {
+        std::size_t indice;
+        Fiche typees, prises; ///< what stands in the fields, what the document made of it
+        double longueur;      ///< of a line, cm
+    };
+
+    void placer();
+    void connecter();
+    void preparer_edition();
+    void preparer_alignement();
+    void rafraichir();
+    void montrer_proprietes();
+    void montrer_legende();
+    void montrer_liste();
+    void montrer_comptes();
+    void refuser(const std::string& raison);
+
+    void changer_plan(bool vers_l_avant);
+    void aligner(Bord bord);
+    void changer_nombre(std::size_t champ, double valeur);
+    void changer_sorte(const std::string& cle);
+    void changer_legende();
+    Mesures mesures() const;
+    void prendre_mesures(Mesures m);
+    static bool tourner(Mesures& m, double angle);
+    void verrouiller_les_zones(bool oui);
+
+    Historique<DocumentTable> historique_;
+    VueTable vue_;
+    PanneauProprietes proprietes_;
+    QPlainTextEdit legende_;
+    ListeChoix liste_;
+    QLabel position_, comptes_;
+    std::optional<Mesures> mesures_; ///< typed for the chosen record
+};

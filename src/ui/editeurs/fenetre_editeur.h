@@ -1,0 +1,119 @@
+#pragma once
+
+#include "config/document_table.h"
+#include "config/reprise_dessin.h"
+#include "ui/commun/boites.h"
+#include "ui/commun/veilleur.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+
+class Fenetres;
+class Foutil;
+class QUndoStack;
+class VueEchelle;
+class nouveauProjet;
+
+/// What the editors share: their file (opened, saved, closed without losing work), menus, undo.
+class FenetreEditeur : public QMainWindow {
+public:
+    /// What the editors need of the program.
+    struct Programme {
+        std::filesystem::path configuration;
+        std::function<void(const std::string& projet)> charger; ///< makes a project the current one
+        std::function<void(const std::filesystem::path&)> ecrit =
+            {}; ///< right after a file was written
+    };
+
+    FenetreEditeur(QWidget* parent, Foutil& outils, Programme programme, GenreFichier genre);
+
+    /// Opens a file in place of the present drawing. @returns false after an error (told)
+    bool ouvrir(const std::filesystem::path& chemin);
+    /// Writes the drawing, whatever is needed asked before; then offers to load its project.
+    bool genererFic(const std::filesystem::path& chemin);
+    bool enregistrer();
+    bool enregistrer_sous();
+    /// What the user wants of the changes that are not saved.
+    enum class Depart { rien_a_perdre, enregistrer, ne_pas_enregistrer, annuler };
+    /// Asks, and touches nothing yet.
+    Depart demander_depart();
+    /// Saves if that is the answer. @returns false when the drawing stays
+    bool preparer_depart(Depart reponse);
+    /// The leaving has happened: what is not saved goes.
+    void partir();
+
+    /// Offers the drawings that an earlier program did not save. @returns true when one was taken
+    /// up
+    bool proposer_reprise(Fenetres& f);
+    /// Brings the recovery file up to date at once.
+    void ecrire_reprise();
+
+protected:
+    virtual QUndoStack& pile() = 0;
+    virtual VueEchelle& vue() = 0;
+    virtual void commencer() = 0;                                 ///< a new drawing
+    virtual std::vector<int> lire(const std::string& octets) = 0; ///< @returns lines not understood
+    virtual std::string octets() const = 0;                       ///< @throws ErreurExecution
+    virtual std::optional<RefusLecture> relire(const std::string& octets) const = 0;
+    virtual std::string figer() const = 0;           ///< the drawing as a recovery file keeps it
+    virtual void degeler(std::string_view fige) = 0; ///< @throws ErreurExecution
+    /// Why what was typed cannot be taken yet; empty when nothing is left to be typed.
+    virtual QString en_suspens() const { return {}; }
+
+    virtual void fichier_change() {} ///< another file, or under another name
+
+    virtual void retirer() = 0; ///< what is chosen, and likewise:
+    virtual void dupliquer() = 0;
+    virtual void tout_choisir() = 0;
+    virtual void deplacer(double dx, double dy) = 0; ///< cm
+
+    /// To be called at the end of the derived constructor.
+    void preparer_menus();
+    QAction* action(QMenu& menu, const char* nom, const QString& texte, const QKeySequence& touche,
+                    std::function<void()> faire, Qt::ConnectionType quand = Qt::DirectConnection);
+    QMenu& menu_edition() { return *menu_edition_; }
+    void montrer_titre();
+    /// Takes what is being typed. @returns false when it is no number, which is told
+    bool prendre_la_saisie();
+    const std::filesystem::path& chemin() const { return chemin_; }
+    void closeEvent(QCloseEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
+
+    // What is typed in a row, and the arrow keys' movements in a row, are one step.
+    static constexpr int fusion_des_frappes = 1, fusion_des_pas = 2;
+
+    Foutil& outils_;
+    Boites boites_{*this};
+
+private:
+    void preparer_fichier();
+    void preparer_annulation();
+    void preparer_edition();
+    void preparer_pas();
+    void preparer_affichage();
+    bool peut_partir() { return preparer_depart(demander_depart()); }
+    void nouveau();
+    void choisir_un_fichier();
+    void autre_fichier();
+    void reprendre(const DessinGarde& garde);
+    void verifier_disque();
+    bool peut_remplacer(const std::filesystem::path& chemin);
+    void ecrire(const std::filesystem::path& chemin, const std::string& octets);
+    void proposer_de_charger();
+
+    Programme programme_;
+    GenreFichier genre_;
+    QMenu* menu_edition_ = nullptr;
+    std::filesystem::path chemin_; ///< empty: never saved
+    std::string sur_le_disque_;    ///< the file's bytes as they were read or written last
+    std::string refuses_;          ///< another program's bytes that the user did not want
+    bool remplacement_accepte_ = false;
+    RepriseDessin reprise_;
+    QTimer attente_reprise_{this}; ///< gathers the changes of half a second
+    Veilleur veilleur_{[this] { verifier_disque(); }};
+};

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "config/document.h"
+#include "ui/commun/nombre.h"
+
+#include <QButtonGroup>
+#include <QPointF>
+#include <QRadioButton>
+#include <QToolButton>
+#include <QWidget>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// One thing that the palette places.
+struct Outil {
+    enum class Forme { selection, boite, cercle, horizontale, verticale, libre, legende };
+    const char* nom; ///< objectName of its button
+    const char* texte;
+    const char* cle; ///< key of the record that it makes
+    Forme forme;
+};
+
+/// A tool of the palette: a click takes it in hand, a drag carries it onto the drawing.
+class BoutonOutil final : public QToolButton {
+public:
+    BoutonOutil(const Outil& outil, QWidget* parent);
+
+    static constexpr auto format = "application/x-tavolmex-outil";
+
+protected:
+    void mousePressEvent(QMouseEvent* evenement) override;
+    void mouseMoveEvent(QMouseEvent* evenement) override;
+    void paintEvent(QPaintEvent* evenement) override;
+
+private:
+    const Outil& outil_;
+    QPoint prise_;
+};
+
+/// The editors' palette: what is drawn (table or robot), the tools, the size of what they place.
+class Foutil final : public QWidget {
+public:
+    explicit Foutil(QWidget* parent);
+
+    std::function<void()> au_choix_du_dessin; ///< chx_dessinTable or chx_dessinRobot was chosen
+    std::function<void()> au_choix_d_outil;
+    /// The keys of the drawing's command of that name ("annuler", "retablir") were pressed here.
+    std::function<void(const char* commande)> a_l_annulation;
+
+    static const std::vector<Outil>& outils();
+    static const Outil* outil(const QString& nom);
+    /// The tool in hand; `outil_Selection` chooses and moves.
+    const Outil& en_main() const { return *en_main_; }
+    void prendre(const Outil& outil);
+    void reposer() { prendre(outils().front()); }
+    /// Shows the tools of the drawing that the user has turned to; opens no window.
+    void suivre(bool robot);
+
+    /// What a tool makes in one click: of the palette's sizes, about a point (cm).
+    Fiche creer(const Outil& outil, QPointF centre) const;
+    /// What a tool makes between the ends of a drag.
+    static Fiche tracer(const Outil& outil, QPointF a, QPointF b);
+
+    QRadioButton chx_dessinTable, chx_dessinRobot;
+    NombreEntier largeur, hauteur, rayon, longueur, incidence;
+
+private:
+    void nommer();
+    void placer();
+    QWidget* placer_outils();
+    QWidget* placer_tailles();
+    void montrer_outils(bool table);
+    void connecter();
+    void connecter_touches();
+
+    const Outil* en_main_ = nullptr;
+    int autre_longueur_ = 10; ///< of the lines of the drawing that is not chosen (cm)
+    bool suit_ = false;       ///< the choice of the drawing comes from its window
+    QButtonGroup groupe_;
+    std::vector<QWidget*> de_la_table_; ///< what only the table has
+};

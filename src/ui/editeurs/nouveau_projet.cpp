@@ -1,0 +1,90 @@
+#include "ui/editeurs/nouveau_projet.h"
+
+#include "ui/commun/boites.h"
+#include "ui/editeurs/foutil.h"
+
+#include <QGridLayout>
+
+nouveauProjet::nouveauProjet(QWidget* parent, const Foutil& palette,
+                             std::filesystem::path configuration)
+    : QDialog(parent), palette_(palette), configuration_(std::move(configuration)) {
+    setObjectName("nouveauProjet");
+    setWindowTitle("Création d'un projet");
+    Label1.setObjectName("Label1");
+    Label1.setText("Nom du projet:");
+    Label1.setBuddy(&nomProjet);
+    nomProjet.setObjectName("nomProjet");
+    nomProjet.setAccessibleName("Nom du projet");
+    nomProjet.setText("Defaut");
+    avis.setObjectName("avis");
+    avis.setWordWrap(true);
+    avis.setTextFormat(Qt::PlainText);
+    corriger.setObjectName("corriger");
+    corriger.setAutoDefault(false);
+    OKButton.setObjectName("OKButton");
+    OKButton.setText("Enregistrer");
+    OKButton.setDefault(true);
+    CancelButton.setObjectName("CancelButton");
+    CancelButton.setText("Annuler");
+    placer();
+    connect(&nomProjet, &QLineEdit::textChanged, this, [this] { nomProjet_Change(); });
+    connect(&corriger, &QPushButton::clicked, this, [this] {
+        nomProjet.setText(texte_qt(proposer_nom(nomProjet.text().toStdString(), genre())));
+    });
+    connect(&OKButton, &QPushButton::clicked, this, [this] { OKButton_Click(); });
+    connect(&CancelButton, &QPushButton::clicked, this, [this] { reject(); });
+    nomProjet_Change();
+    nomProjet.selectAll();
+}
+
+void nouveauProjet::placer() {
+    auto* grille = new QGridLayout(this);
+    grille->addWidget(&Label1, 0, 0);
+    grille->addWidget(&nomProjet, 0, 1, 1, 2);
+    grille->addWidget(&avis, 1, 0, 1, 3);
+    grille->addWidget(&corriger, 2, 0, 1, 3);
+    grille->addWidget(&OKButton, 3, 1);
+    grille->addWidget(&CancelButton, 3, 2);
+    avis.setMinimumHeight(4 * avis.fontMetrics().lineSpacing());
+    setMinimumWidth(420);
+}
+
+GenreFichier nouveauProjet::genre() const {
+    return palette_.chx_dessinRobot.isChecked() ? GenreFichier::robot : GenreFichier::table;
+}
+
+void nouveauProjet::nomProjet_Change() {
+    const std::string nom = nomProjet.text().toStdString();
+    const std::string impossible = raison_nom_impossible(nom);
+    const std::string projet = projet_du_nom(nom, genre());
+    const std::string propose = proposer_nom(nom, genre());
+    std::string texte;
+    if (!impossible.empty())
+        texte = impossible + ".";
+    else if (!projet.empty())
+        texte = "Fichier du projet « " + projet + " ».";
+    else if (genre() == GenreFichier::table)
+        texte = "« " + nom +
+                ".ini » ne sera la table d'aucun projet : « Charger » ne propose que "
+                "les noms qui finissent par « Table » après un blanc.";
+    else
+        texte = "« " + nom +
+                ".ini » ne sera le robot d'aucun projet : le nom doit finir par un "
+                "blanc, « Robot » et le numéro, de 1 à 9.";
+    avis.setText(texte_qt(texte));
+    corriger.setText(texte_qt("Utiliser « " + propose + " »"));
+    corriger.setVisible(projet.empty());
+    OKButton.setEnabled(impossible.empty());
+}
+
+void nouveauProjet::OKButton_Click() {
+    const std::filesystem::path chemin =
+        fichier_d_editeur(configuration_, nomProjet.text().toStdString());
+    bool ecrit = true;
+    if (palette_.chx_dessinTable.isChecked())
+        ecrit = table && table(chemin);
+    if (palette_.chx_dessinRobot.isChecked())
+        ecrit = robot && robot(chemin);
+    if (ecrit)
+        accept();
+}

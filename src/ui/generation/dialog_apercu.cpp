@@ -1,0 +1,94 @@
+// What the generation window works out before anything is written: the input it proposes, the
+// preview and the warnings.
+#include "codegen/apercu.h"
+#include "record/origine.h"
+#include "ui/commun/boites.h"
+#include "ui/generation/dialog.h"
+#include "ui/principale/sim1.h"
+
+#include <QStyle>
+
+namespace {
+
+char signe(SorteLigne sorte) {
+    switch (sorte) {
+    case SorteLigne::retiree:
+        return '-';
+    case SorteLigne::inseree:
+    case SorteLigne::ajoutee:
+        return '+';
+    case SorteLigne::coupure:
+        return '@';
+    case SorteLigne::contexte:
+        break;
+    }
+    return ' ';
+}
+
+QString texte_apercu(const Apercu& apercu) {
+    std::string texte;
+    for (const LigneApercu& ligne : apercu.lignes)
+        texte.append(1, signe(ligne.sorte)).append(" ").append(ligne.texte).append("\n");
+    return texte_qt(texte);
+}
+
+} // namespace
+
+// Inputs of the present project come first to mind; the newest holds the latest recording.
+void Dialog::preselectionner() {
+    namespace fs = std::filesystem;
+    projet_preselectionne_ = sim_.etat().NomProjet;
+    std::error_code erreur;
+    fs::file_time_type date = fs::file_time_type::min();
+    std::string choix;
+    for (const fs::path& fichier : entree_.fichiers.tous()) {
+        const fs::file_time_type sienne = fs::last_write_time(fichier, erreur);
+        if (!erreur && sienne >= date && projet_du_fichier(fichier) == projet_preselectionne_) {
+            date = sienne;
+            choix = fichier.filename().string();
+        }
+    }
+    if (!choix.empty())
+        entree_.fichiers.choisir(choix);
+}
+
+void Dialog::avertir(const std::vector<std::string>& phrases) {
+    for (const std::string& phrase : phrases)
+        new QListWidgetItem(style()->standardIcon(QStyle::SP_MessageBoxWarning), texte_qt(phrase),
+                            &avertissements_);
+}
+
+void Dialog::avertir_de_l_entree(const std::filesystem::path& entree) {
+    const std::string& charge = sim_.etat().NomProjet;
+    if (const auto projet = projet_du_fichier(entree); projet && *projet != charge)
+        avertir({entree.filename().string() + " est du projet " + *projet +
+                 " ; le projet chargé est " + charge});
+    avertir(avertissements_d_origine(entree));
+}
+
+void Dialog::montrer_apercu(const Demande& d) {
+    const Apercu apercu = preparer_apercu(d, true);
+    apercu_.setPlainText(texte_apercu(apercu));
+    avertir(apercu.avertissements);
+    titre_apercu_.setText(
+        QString("Aperçu de ce qui sera retiré (-) et ajouté (+)%1 :")
+            .arg(apercu.ecrase ? ", si vous acceptez d'écraser la fonction" : ""));
+}
+
+void Dialog::rafraichir_apercu() {
+    avertissements_.clear();
+    apercu_.setPlainText({});
+    const Demande d = demande();
+    try {
+        if (!d.entree.empty())
+            avertir_de_l_entree(d.entree);
+        if (d.depart.empty() || d.entree.empty())
+            titre_apercu_.setText("Aperçu : choisissez un programme de départ et une trajectoire.");
+        else
+            montrer_apercu(d);
+    } catch (const ErreurExecution& erreur) {
+        titre_apercu_.setText("Aperçu impossible :");
+        avertir({erreur.what()});
+    }
+    avertissements_.setVisible(avertissements_.count() > 0);
+}

@@ -1,0 +1,86 @@
+#include "ui/generation/ouv_generation.h"
+
+#include "ui/commun/boites.h"
+#include "ui/commun/garde.h"
+#include "ui/commun/place.h"
+#include "ui/generation/dialog.h"
+#include "ui/principale/sim1.h"
+
+#include <QFileDialog>
+#include <QGridLayout>
+
+OuvGeneration::OuvGeneration(Sim1& sim, Dialog& dialog)
+    : QWidget(&sim, Qt::Dialog | Qt::WindowCloseButtonHint), sim_(sim), dialog_(dialog) {
+    nommer();
+    placer();
+    Lect_Gen.au_choix = [this](const std::filesystem::path& racine) { Rep_Gen.aller(racine); };
+    Rep_Gen.au_changement = [this] { Lect_Gen.suivre(Rep_Gen.chemin()); };
+    const auto relier = [this](QPushButton& bouton, void (OuvGeneration::*procedure)()) {
+        connect(&bouton, &QPushButton::clicked, this,
+                [this, procedure] { garde(sim_, [&] { (this->*procedure)(); }); });
+    };
+    relier(Nouveau, &OuvGeneration::Nouveau_Click);
+    relier(Fermer, &OuvGeneration::Fermer_Click);
+    relier(parcourir_, &OuvGeneration::parcourir_Click);
+    Rep_Gen.aller(sim.projet().dossier_application());
+    retenir_place(*this);
+}
+
+void OuvGeneration::nommer() {
+    setObjectName("OuvGeneration");
+    setWindowTitle("Boîte de dialogue");
+    Lect_Gen.setObjectName("Lect_Gen");
+    Lect_Gen.setAccessibleName("Lecteur du fichier généré");
+    Rep_Gen.setObjectName("Rep_Gen");
+    Rep_Gen.setAccessibleName("Répertoire du fichier généré");
+    NomFicGenere.setObjectName("NomFicGenere");
+    NomFicGenere.setText("generation.bas");
+    nom_.setText("Nom du fichier :");
+    nom_.setBuddy(&NomFicGenere);
+    NomFicGenere.setAccessibleName("Nom du fichier généré");
+    parcourir_.setObjectName("parcourir_Gen");
+    parcourir_.setText("Parcourir…");
+    Nouveau.setObjectName("Nouveau");
+    Nouveau.setText("Ouvrir");
+    Fermer.setObjectName("Fermer");
+    Fermer.setText("Fermer");
+}
+
+void OuvGeneration::placer() {
+    auto* grille = new QGridLayout(this);
+    grille->addWidget(&Lect_Gen, 0, 0, 1, 4);
+    grille->addWidget(&Rep_Gen, 1, 0, 1, 4);
+    grille->addWidget(&nom_, 2, 0);
+    grille->addWidget(&NomFicGenere, 2, 1, 1, 3);
+    grille->addWidget(&parcourir_, 3, 0);
+    grille->addWidget(&Nouveau, 3, 2);
+    grille->addWidget(&Fermer, 3, 3);
+    grille->setColumnStretch(1, 1);
+    resize(380, 360);
+}
+
+void OuvGeneration::parcourir_Click() {
+    const QString choix = QFileDialog::getSaveFileName(
+        this, "Fichier à générer",
+        texte_qt((Rep_Gen.chemin() / NomFicGenere.text().toStdString()).string()),
+        "PICBASIC (*.bas)", nullptr, QFileDialog::DontConfirmOverwrite);
+    if (choix.isEmpty())
+        return;
+    const std::filesystem::path fichier = choix.toStdString();
+    Rep_Gen.aller(fichier.parent_path());
+    NomFicGenere.setText(texte_qt(fichier.filename().string()));
+}
+
+void OuvGeneration::Nouveau_Click() {
+    std::string chemin = Rep_Gen.chemin().string();
+    if (!chemin.ends_with('/'))
+        chemin += '/';
+    dialog_.choisir_cible(chemin + NomFicGenere.text().toStdString());
+    hide();
+    sim_.cacher_options_et_console();
+    sim_.show();
+    sim_.montrer_options();
+    dialog_.show();
+    dialog_.raise();
+    dialog_.activateWindow();
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ui/editeurs/dessin_robot.h"
+#include "ui/editeurs/dessin_table.h"
+#include "ui/editeurs/foutil.h"
+
+class Sim1;
+
+/// The palette and the drawing windows that it opens.
+class Editeurs {
+public:
+    explicit Editeurs(Sim1& sim);
+
+    /// "Créer un projet...": the palette and the editor of what it draws.
+    void montrer();
+    /// Asks about all unsaved changes, then saves what is to be saved; discards nothing yet.
+    /// @returns false when the user does not want to leave
+    bool peut_partir();
+    /// The program ends: what is not saved goes.
+    void partir();
+    /// Offers the drawings that an earlier program did not save.
+    void proposer_reprises();
+    /// Brings the recovery files up to date: the program may end at once.
+    void ecrire_reprises();
+
+private:
+    void montrer_dessin();
+    void placer();
+
+    Sim1& sim_;
+    // The windows belong to the main window, like all others.
+    Foutil& outils_;
+    dessinTable& table_;
+    dessinRobot& robot_;
+    bool places_ = false; ///< the windows have got their first place
+};

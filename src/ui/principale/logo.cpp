@@ -1,0 +1,77 @@
+#include "ui/principale/logo.h"
+
+#include <QIcon>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimer>
+
+namespace {
+
+constexpr int plus_petite_police = 6;
+constexpr int marge = 8; ///< logical pixels around the banner's text
+constexpr int apres_les_fenetres_ms = 20;
+constexpr int drapeaux = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+
+// Through Qt's SVG plugin, which is loaded only then.
+QPixmap dessiner(QSize taille, qreal densite) {
+    return QIcon(":/logo.svg").pixmap(taille, densite);
+}
+
+} // namespace
+
+Logo::Logo(QWidget* parent) : QWidget(parent) {
+    setCursor(Qt::PointingHandCursor);
+}
+
+void Logo::paintEvent(QPaintEvent*) {
+    if (image_.size() == size() * devicePixelRatioF()) {
+        QPainter(this).drawPixmap(0, 0, image_);
+    } else if (!attendue_) {
+        // The windows first: reading the picture takes longer than painting them.
+        attendue_ = true;
+        QTimer::singleShot(apres_les_fenetres_ms, this, [this] {
+            attendue_ = false;
+            image_ = dessiner(size(), devicePixelRatioF());
+            update();
+        });
+    }
+}
+
+void Logo::mouseReleaseEvent(QMouseEvent* evenement) {
+    if (evenement->button() == Qt::LeftButton && au_clic)
+        au_clic();
+}
+
+Banniere::Banniere(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+}
+
+void Banniere::placer(const QRect& logo) {
+    haut_du_texte_ = logo.height();
+    setGeometry(logo);
+    setFont({});
+    for (int taille = font().pointSize(); taille > plus_petite_police && !mots_entiers(); --taille)
+        setFont(QFont(font().family(), taille - 1));
+    const QRect texte = fontMetrics().boundingRect(zone_du_texte(), drapeaux, text().trimmed());
+    resize(logo.width(), haut_du_texte_ + texte.height() + marge);
+}
+
+// No line break cuts a word that is wider than the card.
+bool Banniere::mots_entiers() const {
+    return fontMetrics().boundingRect(zone_du_texte(), drapeaux, text().trimmed()).width() <=
+           zone_du_texte().width();
+}
+
+QRect Banniere::zone_du_texte() const {
+    return {marge, haut_du_texte_, width() - 2 * marge, 1 << 14};
+}
+
+void Banniere::paintEvent(QPaintEvent*) {
+    QPainter peintre(this);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(QColor(6, 58, 26, 235));
+    peintre.drawRoundedRect(rect(), 10, 10);
+    peintre.setPen(Qt::white);
+    peintre.drawText(zone_du_texte(), drapeaux, text().trimmed());
+}

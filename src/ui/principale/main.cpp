@@ -1,0 +1,59 @@
+#include "ui/principale/application.h"
+
+#include <CLI/CLI.hpp>
+
+#include <csignal>
+#include <cstdlib>
+#include <iostream>
+
+namespace {
+
+constexpr int code_usage = 2;
+
+bool sans_affichage() {
+    const auto vide = [](const char* nom) {
+        const char* valeur = std::getenv(nom);
+        return valeur == nullptr || *valeur == '\0';
+    };
+    return vide("QT_QPA_PLATFORM") && vide("DISPLAY") && vide("WAYLAND_DISPLAY");
+}
+
+int executer(int argc, char** argv) {
+    CLI::App app("Tavolmex : simulateur de robot de concours", "tavolmex");
+    std::optional<std::filesystem::path> dossier;
+    app.add_option("--dossier", dossier,
+                   "Dossier de l'application (celui qui contient Configuration)")
+        ->type_name("DOSSIER");
+    app.set_version_flag("--version", "tavolmex " TAVOLMEX_VERSION, "Affiche la version");
+    app.set_help_flag("-h,--help", "Affiche cette aide");
+    app.get_formatter()->label("Usage", "Utilisation ");
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& demande) {
+        return app.exit(demande);
+    } catch (const CLI::ExtrasError&) {
+        std::cerr << "tavolmex : argument inconnu : " << app.remaining().front() << '\n';
+        return code_usage;
+    } catch (const CLI::ParseError&) {
+        std::cerr << "tavolmex : --dossier attend un dossier\n";
+        return code_usage;
+    }
+    if (sans_affichage()) {
+        std::cerr << "tavolmex : aucun affichage (ni DISPLAY ni WAYLAND_DISPLAY) ; "
+                     "tavolmex-cli s'en passe\n";
+        return EXIT_FAILURE;
+    }
+    return executer_application(argc, argv, dossier);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::signal(SIGXFSZ, SIG_IGN); // a file that grows past its limit is an error, not the end
+    try {
+        return executer(argc, argv);
+    } catch (const std::exception& erreur) {
+        std::cerr << "tavolmex : " << erreur.what() << '\n';
+        return EXIT_FAILURE;
+    }
+}

@@ -1,0 +1,213 @@
+#include "ui/principale/table.h"
+
+#include "draw/robot.h"
+#include "draw/surface_vide.h"
+#include "draw/table.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <cmath>
+#include <cstring>
+
+namespace {
+
+constexpr int bord_du_trait = 2; ///< logical pixels that a line reaches beyond its end points
+
+void regler(Surface& s, const Etat& e) {
+    s.coordonnees(-marge_table, e.YMax + marge_table, e.XMax + marge_table, -marge_table);
+}
+
+// Gives a rectangle (device pixels) of one picture the look it has in another of the same size.
+void copier(QImage& vers, const QImage& de, const QRect& rectangle) {
+    const QRect r = rectangle.intersected(de.rect());
+    const auto octets = static_cast<std::size_t>(r.width()) * sizeof(QRgb);
+    for (int y = r.top(); y <= r.bottom(); ++y)
+        std::memcpy(reinterpret_cast<QRgb*>(vers.scanLine(y)) + r.left(),
+                    reinterpret_cast<const QRgb*>(de.constScanLine(y)) + r.left(), octets);
+}
+
+// The whole table as the region to draw, for as long as this lives.
+class ZoneEntiere {
+public:
+    explicit ZoneEntiere(Etat& etat) : e(etat), avant_(etat.ZoneRedessin) {
+        e.ZoneRedessin = {0, e.XMax, 0, e.YMax};
+    }
+    ZoneEntiere(const ZoneEntiere&) = delete;
+    ZoneEntiere& operator=(const ZoneEntiere&) = delete;
+    ~ZoneEntiere() { e.ZoneRedessin = avant_; }
+
+private:
+    Etat& e;
+    Region avant_;
+};
+
+} // namespace
+
+Table::Table(Etat& etat, Fenetres& fenetres, QWidget* parent)
+    : QWidget(parent), e(etat), f(fenetres) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+Repere Table::repere() const {
+    Repere r;
+    r.regler(size(), -marge_table, e.YMax + marge_table, e.XMax + marge_table, -marge_table);
+    return r;
+}
+
+void Table::Dessine_Table() {
+    if (cle() == cle_dessinee_)
+        return;
+    if (image_.isNull()) {
+        const ZoneEntiere zone(e);
+        SurfaceVide surface; // the errors alone; the drawing comes with the next painting
+        if (!::Dessine_Table(e, surface, f, Echelle))
+            return;
+        cle_dessinee_ = cle();
+    } else if (!peindre_fond())
+        return;
+    peindre_robots();
+    update();
+}
+
+void Table::Dessine_Robot() {
+    if (e.en_course && image_.isNull() && !peindre_fond()) // a run begins
+        return;
+    effacer_robots();
+    signaler_robots(); // what they leave
+    contours_.vider();
+    ::Dessine_Robot(e, contours_, f);
+    peindre_robots();
+    signaler_robots(); // what they cover
+}
+
+Table::Cle Table::cle() const {
+    return {e.version_table, Echelle, (QSizeF(size()) * devicePixelRatioF()).toSize()};
+}
+
+bool Table::peindre_fond() {
+    const Cle nouvelle = cle();
+    QImage image(nouvelle.taille.expandedTo({1, 1}), QImage::Format_RGB32);
+    image.setDevicePixelRatio(devicePixelRatioF());
+    image.fill(couleur_qt(couleurs::vert));
+    QPainter peintre(&image);
+    SurfaceQt surface(peintre, size());
+    const ZoneEntiere zone(e);
+    regler(surface, e);
+    if (!::Dessine_Table(e, surface, f, Echelle))
+        return false;
+    peintre.end();
+    fond_ = image;
+    image_ = image.copy();
+    cle_dessinee_ = nouvelle;
+    return true;
+}
+
+void Table::peindre_robots() {
+    calculer_rectangles();
+    if (image_.isNull() || nombre_rectangles_ == 0)
+        return;
+    QPainter peintre(&image_);
+    peindre_contours(peintre);
+}
+
+void Table::peindre_contours(QPainter& peintre) {
+    SurfaceQt surface(peintre, size());
+    regler(surface, e);
+    for (const Contours::Trait& t : contours_)
+        surface.ligne(t.x1, t.y1, t.x2, t.y2, t.couleur);
+}
+
+void Table::peindre_directement(QPainter& peintre) {
+    const ZoneEntiere zone(e);
+    SurfaceQt surface(peintre, size());
+    regler(surface, e);
+    peindre_table(e, surface, Echelle);
+    peindre_contours(peintre);
+}
+
+void Table::effacer_robots() {
+    if (image_.isNull())
+        return;
+    const double densite = image_.devicePixelRatio();
+    for (int i = 0; i < nombre_rectangles_; ++i) {
+        const QRect& r = rectangles_[static_cast<std::size_t>(i)];
+        copier(image_, fond_,
+               QRectF(QPointF(r.topLeft()) * densite, QSizeF(r.size()) * densite).toAlignedRect());
+    }
+}
+
+void Table::signaler_robots() {
+    for (int i = 0; i < nombre_rectangles_; ++i)
+        update(rectangles_[static_cast<std::size_t>(i)]);
+}
+
+void Table::calculer_rectangles() {
+    nombre_rectangles_ = 0;
+    const Repere r = repere();
+    for (const Contours::Trait& t : contours_) {
+        if (!std::isfinite(t.x1 + t.y1 + t.x2 + t.y2))
+            continue;
+        const QRectF boite = r.boite(t.x1, t.y1, t.x2, t.y2);
+        ajouter_rectangle(
+            boite.adjusted(-bord_du_trait, -bord_du_trait, bord_du_trait, bord_du_trait)
+                .intersected(rect())
+                .toAlignedRect());
+    }
+}
+
+// One rectangle for outlines that touch, so that two distant robots do not repaint what lies
+// between them.
+void Table::ajouter_rectangle(QRect r) {
+    if (r.isEmpty())
+        return;
+    const auto debut = rectangles_.begin();
+    auto fin = debut + nombre_rectangles_;
+    for (auto it = debut; it != fin;)
+        if (it->intersects(r)) {
+            r |= *it;
+            *it = *--fin;
+            it = debut; // larger now, it may meet those before
+        } else
+            ++it;
+    if (fin == rectangles_.end())
+        *(fin - 1) |= r;
+    else
+        *fin++ = r;
+    nombre_rectangles_ = static_cast<int>(fin - debut);
+}
+
+// True while the table is as it was drawn, whatever size it is shown at: painting it again cannot
+// fail.
+bool Table::meme_table() const {
+    return !cle_dessinee_.taille.isEmpty() && e.version_table == cle_dessinee_.version &&
+           Echelle == cle_dessinee_.Echelle;
+}
+
+void Table::paintEvent(QPaintEvent* evenement) {
+    const bool a_garder = !image_.isNull() ? cle() != cle_dessinee_ : peinte_;
+    if (a_garder && meme_table() && peindre_fond())
+        peindre_robots();
+    QPainter peintre(this);
+    if (!image_.isNull())
+        peintre.drawImage(rect(), image_);
+    else if (meme_table()) {
+        peindre_directement(peintre);
+        peinte_ = true;
+    } else // before the first drawing
+        peintre.fillRect(evenement->rect(), palette().window());
+}
+
+void Table::mouseReleaseEvent(QMouseEvent* evenement) {
+    if (evenement->button() == Qt::LeftButton && rect().contains(evenement->pos()) && au_clic)
+        au_clic();
+}
+
+void Table::keyPressEvent(QKeyEvent* evenement) {
+    if (evenement->key() == Qt::Key_Space || evenement->key() == Qt::Key_Return)
+        au_clic();
+    else
+        QWidget::keyPressEvent(evenement);
+}

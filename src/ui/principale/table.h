@@ -1,0 +1,101 @@
+#pragma once
+
+#include "draw/surface.h"
+#include "sim/etat.h"
+#include "sim/fenetres.h"
+#include "ui/commun/surface_qt.h"
+
+#include <QImage>
+#include <QWidget>
+
+#include <array>
+#include <functional>
+
+/// The robots' outlines as they were last drawn, in a list of fixed length.
+class Contours final : public Surface {
+public:
+    struct Trait {
+        double x1, y1, x2, y2;
+        Couleur couleur;
+    };
+    static constexpr int capacite = robots_max * (points_max / 2 + 1);
+
+    void vider() { nombre_ = 0; }
+    const Trait* begin() const { return traits_.data(); }
+    const Trait* end() const { return traits_.data() + nombre_; }
+
+    void ligne(double x1, double y1, double x2, double y2, Couleur couleur) override {
+        if (nombre_ < capacite)
+            traits_[static_cast<std::size_t>(nombre_++)] = {x1, y1, x2, y2, couleur};
+    }
+    void coordonnees(double, double, double, double) override {}
+    void couleur_trait(Couleur) override {}
+    void couleur_fond(Couleur) override {}
+    void fond_plein(bool) override {}
+    void trait_pointille(bool) override {}
+    void epaisseur(Entier16) override {}
+    void boite_pleine(double, double, double, double) override {}
+    void boite(double, double, double, double, Couleur) override {}
+    void cercle(double, double, double, Couleur) override {}
+    void arc(double, double, double, Couleur, double, double, double) override {}
+
+private:
+    std::array<Trait, capacite> traits_{};
+    int nombre_ = 0;
+};
+
+/// The drawing surface of the main window. The first painting is a straight one. From the second
+/// painting or the first run on, the table is kept in one picture, painted again only when its
+/// records, its size or the screen's density change, and the table with the robots in another one:
+/// a tick gives back the pixels that the robots left and draws them where they are; the screen gets
+/// those pixels alone.
+class Table final : public QWidget {
+public:
+    Table(Etat& etat, Fenetres& fenetres, QWidget* parent);
+
+    std::function<void()> au_clic;
+    Entier16 Echelle; ///< twips per table unit, as Init_Table chose it
+
+    /// Draws the table; an error shows its message and ends the program.
+    void Dessine_Table();
+    /// Draws the robots, likewise.
+    void Dessine_Robot();
+    /// Table coordinates (cm) to this widget's logical pixels.
+    Repere repere() const;
+
+protected:
+    void paintEvent(QPaintEvent* evenement) override;
+    void mouseReleaseEvent(QMouseEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
+
+private:
+    /// What the picture of the table depends on.
+    struct Cle {
+        std::uint32_t version = 0;
+        int Echelle = 0;
+        QSize taille; ///< device pixels
+        bool operator==(const Cle&) const = default;
+    };
+    static constexpr int rectangles_max = 16;
+
+    Cle cle() const;
+    bool meme_table() const;
+    bool peindre_fond();
+    void peindre_contours(QPainter& peintre);
+    void peindre_directement(QPainter& peintre);
+    void peindre_robots();
+    void effacer_robots();
+    void signaler_robots();
+    void calculer_rectangles();
+    void ajouter_rectangle(QRect r);
+
+    Etat& e;
+    Fenetres& f;
+    bool peinte_ = false; ///< the straight painting was made
+    QImage fond_;         ///< the table
+    QImage image_;        ///< the table and the robots
+    Cle cle_dessinee_;    ///< of the table last drawn
+    Contours contours_;
+    std::array<QRect, rectangles_max> rectangles_{}; ///< pixels that the robots cover
+    int nombre_rectangles_ = 0;
+};
