@@ -42,31 +42,13 @@ Parcours::Parcours(const Etat& e, const MatchCalcule& m, int i)
 }
 
 void Parcours::ajouter(const Etat& e, const ActionJouee& action) {
-    using namespace actions;
-    struct Connue {
-        Nom10 nom;
-        Genre genre;
-        double cote;
-    };
-    static constexpr std::array<Connue, 12> connues{{{AVANCE, Genre::droit, 0},
-                                                     {RECULE, Genre::droit, 0},
-                                                     {DROITE, Genre::rotation, 0},
-                                                     {GAUCHE, Genre::rotation, 0},
-                                                     {VIRAVDR, Genre::arc, 90},
-                                                     {VIRAVGA, Genre::arc, -90},
-                                                     {VIRARDR, Genre::arc, -90},
-                                                     {VIRARGA, Genre::arc, 90},
-                                                     {BALISE_DRO, Genre::rotation, 0},
-                                                     {BALISE_GAU, Genre::rotation, 0},
-                                                     {BD, Genre::rotation, 0},
-                                                     {BG, Genre::rotation, 0}}};
-    const auto connue = std::ranges::find(connues, action.action, &Connue::nom);
-    if (connue == connues.end())
-        return; // a pause
+    const actions::Action* const connue = actions::trouver(action.action);
+    if (connue == nullptr || connue->genre == Genre::pause)
+        return;
     const std::size_t fin = action.finie() ? m_->tick(action.fin) : m_->nb_ticks();
     morceaux_.push_back({m_->tick(action.debut), fin, connue->genre,
-                         double{static_cast<double>(e.TrajParam2(robot_, action.numero))},
-                         connue->cote});
+                         static_cast<double>(e.TrajParam2(robot_, action.numero)),
+                         static_cast<double>(connue->cote)});
 }
 
 double Parcours::pas(const Morceau& m, std::size_t tick) const {
@@ -76,7 +58,7 @@ double Parcours::pas(const Morceau& m, std::size_t tick) const {
     const double marge = arrondi(b, rayon());
     if (m.genre == Genre::droit)
         return std::hypot(double{b.x} - a.x, double{b.y} - a.y) + marge;
-    if (m.genre == Genre::rotation)
+    if (m.genre != Genre::arc)
         return angle * rayon() + marge;
     // The arc's centre in the robot's frame, abreast of its reference point.
     const double centre = m.cote > 0 ? -m.rayon : m.rayon;

@@ -2,6 +2,7 @@
 
 #include "analyse/geometrie.h"
 #include "analyse/match.h"
+#include "sim/actions.h"
 #include "sim/contour.h"
 
 #include <vector>
@@ -48,7 +49,7 @@ public:
     void placer_entre(std::size_t tick, double u, std::vector<Segment>& contour) const;
 
 private:
-    enum class Genre { immobile, droit, rotation, arc };
+    using Genre = actions::Genre;
     struct Morceau {
         std::size_t debut, fin; ///< moves in the ticks debut + 1 .. fin
         Genre genre;

@@ -9,12 +9,10 @@ namespace {
 
 /// Whether the robot's program, which keeps a value in one byte, cannot hold the action's.
 bool hors_d_un_octet(const Trajectoires& t, int i, int k) {
-    const auto dehors = [](int v) { return v < 0 || v > 255; };
-    const Nom10& action = t.TrajAction(i, k);
-    if (actions::est_balise(action))
-        return false;
-    return dehors(t.TrajParam1(i, k)) ||
-           (actions::est_virage(action) && dehors(t.TrajParam2(i, k)));
+    const actions::Action* const action = actions::trouver(t.TrajAction(i, k));
+    const int nombre = action == nullptr ? 0 : action->nb_parametres();
+    return (nombre > 0 && !actions::tient_dans_un_octet(t.TrajParam1(i, k))) ||
+           (nombre > 1 && !actions::tient_dans_un_octet(t.TrajParam2(i, k)));
 }
 
 void constater_duree(const Enquete& q, const Bilan& b) {
@@ -87,7 +85,7 @@ void constater_valeurs(const Enquete& q, const Bilan& b) {
 void constater_balises(const Enquete& q, const Bilan& b) {
     constexpr double tour = 360;
     for (const ActionJouee& action : q.m.actions(b.robot)) {
-        if (!actions::est_balise(action.action))
+        if (!actions::est(action.action, actions::Genre::balise))
             continue;
         const auto& poses = q.m.poses(b.robot);
         const std::size_t fin = action.finie() ? q.m.tick(action.fin) : q.m.nb_ticks() + 1;

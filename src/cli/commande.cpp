@@ -4,11 +4,13 @@
 #include "base/visible.h"
 #include "config/ligne.h"
 #include "config/ligne_trajet.h"
-#include "record/actions_console.h"
 #include "record/appuis.h"
 #include "record/champs.h"
+#include "sim/actions.h"
 
 #include <vector>
+
+using namespace actions;
 
 namespace {
 
@@ -24,37 +26,28 @@ std::vector<std::string_view> mots_de(std::string_view ligne) {
     return mots;
 }
 
-std::size_t nombre_de_valeurs(const ActionConsole& action) {
-    return std::size_t{action.utilise_Text1()} + std::size_t{action.utilise_Text4()};
-}
-
-std::string usage(const ActionConsole& action) {
+std::string usage(const Action& action) {
     const char* valeurs = "";
-    switch (action.parametres) {
-    case Parametres::aucun:
-        break;
-    case Parametres::longueur:
-        valeurs = action.code == Code::pause ? " DUREE (centièmes de seconde)" : " DISTANCE (cm)";
-        break;
-    case Parametres::angle:
+    if (action.genre == Genre::droit)
+        valeurs = " DISTANCE (cm)";
+    else if (action.genre == Genre::pause)
+        valeurs = " DUREE (centièmes de seconde)";
+    else if (action.genre == Genre::rotation)
         valeurs = " ANGLE (degrés)";
-        break;
-    case Parametres::rayon_et_angle:
+    else if (action.genre == Genre::arc)
         valeurs = " ANGLE RAYON (degrés, cm)";
-        break;
-    }
     return std::string(action.legende) + valeurs;
 }
 
 // The action whose name the first words make, in capitals.
-const ActionConsole* reconnaitre(const std::vector<std::string_view>& mots, std::size_t& pris) {
+const Action* reconnaitre(const std::vector<std::string_view>& mots, std::size_t& pris) {
     std::string nom = majuscules(mots.front());
     pris = 1;
     if (nom == "BALISE" && mots.size() > 1) {
         nom += " " + majuscules(mots[1]);
         pris = 2;
     }
-    return action_de_nom(nom);
+    return trouver_legende(nom);
 }
 
 Commande commande_de(const Fiche& fiche) {
@@ -101,23 +94,23 @@ std::optional<Commande> lire_commande(std::string_view ligne) {
     if (mots.empty())
         return std::nullopt;
     std::size_t pris = 0;
-    const ActionConsole* const action = reconnaitre(mots, pris);
+    const Action* const action = reconnaitre(mots, pris);
     if (action == nullptr) {
         std::string attendues;
-        for (const ActionConsole& possible : actions_console)
+        for (const Action& possible : boutons)
             attendues.append(attendues.empty() ? "" : ", ").append(possible.legende);
         throw ErreurExecution("« " + abrege(mots.front()) + " » est inconnue, il faut " +
                               attendues);
     }
     const std::vector<std::string_view> valeurs(mots.begin() + static_cast<std::ptrdiff_t>(pris),
                                                 mots.end());
-    if (valeurs.size() != nombre_de_valeurs(*action))
+    if (static_cast<int>(valeurs.size()) != action->nb_parametres())
         throw ErreurExecution("il faut « " + usage(*action) + " »");
     Commande commande{std::string(action->legende)};
     std::size_t suivante = 0;
-    if (action->utilise_Text4())
+    if (action->a_un_angle())
         commande.Text4 = valeurs[suivante++];
-    if (action->utilise_Text1())
+    if (action->a_une_longueur())
         commande.Text1 = valeurs[suivante++];
     lire_champ({usage(*action), commande.Text4});
     lire_champ({usage(*action), commande.Text1});
@@ -126,7 +119,7 @@ std::optional<Commande> lire_commande(std::string_view ligne) {
 
 std::string aide_des_commandes() {
     std::string texte;
-    for (const ActionConsole& action : actions_console)
+    for (const Action& action : boutons)
         texte += "  " + usage(action) + "\n";
     return texte;
 }

@@ -2,6 +2,7 @@
 
 #include "base/erreurs.h"
 #include "codegen/traduction.h"
+#include "sim/actions.h"
 
 #include <array>
 
@@ -17,14 +18,14 @@ void ajouter_besoins(const RegleTraduction& regle, Besoins& besoins) {
         besoins.noms.emplace(rogner(regle.affectation.substr(0, egal)));
 }
 
-bool est(const Mouvement& m, std::string_view cle) {
-    return m.regle != nullptr && m.regle->cle == cle;
+bool est(const Mouvement& m, std::string_view mot) {
+    return m.regle != nullptr && m.regle->mot == mot;
 }
 bool est_droit(const Mouvement& m) {
-    return est(m, "AVANCE") || est(m, "RECULE");
+    return est(m, actions::mots::avance) || est(m, actions::mots::recule);
 }
 bool est_tour(const Mouvement& m) {
-    return est(m, "GAUCHE") || est(m, "DROITE");
+    return est(m, actions::mots::gauche) || est(m, actions::mots::droite);
 }
 
 // A recorded curve comes as a straight run, a quarter turn and a straight run of the same way; both
@@ -106,7 +107,7 @@ Besoins examiner_entree(const Demande& demande, std::string_view entree,
         while (const auto m = lecteur.suivant()) {
             if (m->regle != nullptr)
                 ajouter_besoins(*m->regle, besoins);
-            if (m->valeur < 0 || m->valeur > 255)
+            if (!actions::tient_dans_un_octet(m->valeur))
                 valeurs.ajouter(nom + ", ligne " + std::to_string(m->numero) + " : la valeur " +
                                 std::to_string(m->valeur) + " est hors de 0 à 255");
             if (virages.lire(*m)) {

@@ -1,38 +1,37 @@
 #include "codegen/traduction.h"
 
 #include "codegen/programme.h"
+#include "sim/actions.h"
 
 #include <array>
 #include <utility>
 
 namespace {
 
+using namespace actions;
+
 constexpr std::array<RegleTraduction, 8> regles{{
-    {"AVANCE", 7, "Val_Action=", "Action_Avance"},
-    {"RECULE", 7, "Val_Action=", "Action_Recule"},
-    {"GAUCHE", 7, "Val_Action=", "Action_Gauche"},
-    {"DROITE", 7, "Val_Action=", "Action_Droite"},
-    {"DELAY ", 7, "Delay ", ""},
-    {"BALDRO", 0, "", "position_balise"},
-    {"BALGAU", 0, "", "position_balise_g"},
-    {"CARREA", 9, "NBRE_CARREAUX =", "VERIFIER_NBRE_CARREAUX"},
+    {mots::avance, "Val_Action=", "Action_Avance"},
+    {mots::recule, "Val_Action=", "Action_Recule"},
+    {mots::gauche, "Val_Action=", "Action_Gauche"},
+    {mots::droite, "Val_Action=", "Action_Droite"},
+    {mots::delai, "Delay ", ""},
+    {mots::bd, "", "position_balise"},
+    {mots::bg, "", "position_balise_g"},
+    {mots::carreaux, "NBRE_CARREAUX =", "VERIFIER_NBRE_CARREAUX"},
 }};
 constexpr std::size_t longueur_cle = 6;
 
 const RegleTraduction* regle_de(std::string_view ligne) {
     const std::string cle = majuscules(premiers_caracteres(ligne, longueur_cle));
     for (const RegleTraduction& regle : regles) {
-        if (regle.cle == cle)
+        if (regle.mot.substr(0, longueur_cle) == cle)
             return &regle;
     }
     return nullptr;
 }
 
 } // namespace
-
-std::span<const RegleTraduction> regles_de_traduction() {
-    return regles;
-}
 
 LecteurMouvements::LecteurMouvements(std::string_view octets, std::filesystem::path fichier)
     : texte_(en_utf8(std::string(octets))), fichier_(std::move(fichier)), lignes_(texte_) {
@@ -44,9 +43,9 @@ std::optional<Mouvement> LecteurMouvements::suivant() {
     if (!ligne)
         return std::nullopt;
     Mouvement m{++numero_, *ligne, regle_de(*ligne), 0};
-    if (m.regle == nullptr || m.regle->avant_valeur == 0)
+    if (m.regle == nullptr || m.regle->affectation.empty())
         return m;
-    const std::size_t debut = premiers_caracteres(*ligne, m.regle->avant_valeur).size();
+    const std::size_t debut = premiers_caracteres(*ligne, m.regle->mot.size()).size();
     try {
         m.valeur = lire_entier16(ligne->substr(debut));
     } catch (const ErreurConversion& erreur) {

@@ -5,19 +5,15 @@
 
 #include <filesystem>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
-/// How one kind of move becomes statements. The key is the line's first six characters.
+/// How one kind of move becomes statements.
 struct RegleTraduction {
-    std::string_view cle;
-    std::size_t avant_valeur = 0;    ///< characters before the value; 0: no value
-    std::string_view affectation;    ///< stands before the value; empty: no value
+    std::string_view mot;         ///< its first six characters decide; the value stands behind it
+    std::string_view affectation; ///< stands before the value; empty: no value
     std::string_view sous_programme; ///< called after it; empty: none
 };
-
-std::span<const RegleTraduction> regles_de_traduction();
 
 /// One line of the generation input file.
 struct Mouvement {

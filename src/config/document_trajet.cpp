@@ -12,7 +12,8 @@
 namespace {
 
 bool est_courte(std::string_view cle) {
-    return cle == actions::BD.sans_blancs() || cle == actions::BG.sans_blancs();
+    const actions::Action* const action = actions::trouver(cle);
+    return action != nullptr && action->mot.empty();
 }
 
 std::string raison_du_refus(std::string_view ligne) {
@@ -34,7 +35,7 @@ std::string trop_d_actions() {
 
 /// Brings the key to its ten characters, the numbers that it lacks to 0. @throws ErreurExecution
 void verifier_fiche(Fiche& e) {
-    if (!est_courte(e.cle) && !parametres_de_trajet(Nom10(e.cle)))
+    if (actions::trouver(Nom10(e.cle)) == nullptr)
         throw ErreurExecution("« " + e.cle + " » n'est pas une action");
     e.cle = Nom10(e.cle).sans_blancs();
     const std::size_t n = DocumentTrajet::champs(e.cle);
@@ -60,7 +61,7 @@ std::size_t DocumentTrajet::champs(std::string_view cle) {
 std::optional<Fiche> DocumentTrajet::fiche_de(std::string_view ligne) {
     const Nom10 code = code_de_trajet(ligne);
     Fiche e{std::string(code.sans_blancs()), {}, ""};
-    if (code == actions::BD || code == actions::BG)
+    if (est_courte(e.cle))
         return e;
     try {
         const LigneTrajet lue = lire_ligne_trajet(ligne);

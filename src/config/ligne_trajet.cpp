@@ -5,28 +5,6 @@
 
 #include <algorithm>
 
-namespace {
-
-struct Action {
-    Nom10 code;
-    int parametres;
-};
-constexpr std::array<Action, 13> connues{{{actions::AVANCE, 1},
-                                          {actions::VIRAVDR, 2},
-                                          {actions::VIRAVGA, 2},
-                                          {actions::PAUSE, 1},
-                                          {actions::RECULE, 1},
-                                          {actions::DROITE, 1},
-                                          {actions::GAUCHE, 1},
-                                          {actions::VIRARDR, 2},
-                                          {actions::VIRARGA, 2},
-                                          {actions::INIT, 3},
-                                          {actions::FIN, 0},
-                                          {actions::BALISE_DRO, 0},
-                                          {actions::BALISE_GAU, 0}}};
-
-} // namespace
-
 // Unlike in the other files, the line is upper-cased as a whole first: any ASCII letter counts.
 bool compte_dans_un_trajet(std::string_view ligne) {
     return std::any_of(ligne.begin(), ligne.end(), [](char c) {
@@ -45,11 +23,10 @@ Nom10 code_de_trajet(std::string_view ligne) {
 }
 
 std::optional<int> parametres_de_trajet(const Nom10& code) {
-    for (const Action& action : connues) {
-        if (action.code == code)
-            return action.parametres;
-    }
-    return std::nullopt;
+    const actions::Action* const action = actions::trouver(code);
+    if (action == nullptr || action->mot.empty())
+        return std::nullopt;
+    return action->nb_parametres();
 }
 
 LigneTrajet lire_ligne_trajet(std::string_view ligne) {

@@ -2,6 +2,7 @@
 
 #include "config/ligne.h"
 #include "config/ligne_trajet.h"
+#include "sim/actions.h"
 
 #include <algorithm>
 #include <array>
@@ -13,13 +14,10 @@ constexpr std::string_view blancs = " \t";
 using Casse = StyleTrajet::Casse;
 constexpr std::size_t colonnes = 10;
 
-/// The keywords as the files usually have them.
-constexpr std::array<std::string_view, 13> usuels{
-    "Init",    "Pause",   "Avance",  "Recule",        "Droite",        "Gauche", "VirAvDr",
-    "VirAvGa", "VirArDr", "VirArGa", "Balise droite", "Balise gauche", "FIN"};
-
-bool est_balise(std::string_view cle) {
-    return cle.starts_with("BALISE");
+/// "Balise droite": the word goes on behind the ten characters that count.
+bool deborde(std::string_view cle) {
+    const actions::Action* const action = actions::trouver(cle);
+    return action != nullptr && action->mot.size() > colonnes;
 }
 
 /// The pieces of one line, in order; put together they are the line.
@@ -74,12 +72,8 @@ Casse casse_de(std::string_view mot) {
 }
 
 std::string mot_en(Casse casse, std::string_view cle) {
-    if (casse == Casse::majuscules && !est_balise(cle))
-        return std::string(cle);
-    std::string mot(cle);
-    for (const std::string_view usuel : usuels)
-        if (majuscules(usuel).starts_with(cle))
-            mot = usuel;
+    const actions::Action* const action = actions::trouver(cle);
+    const std::string mot(action == nullptr || action->mot.empty() ? cle : action->mot);
     if (casse == Casse::usuelle)
         return mot;
     return casse == Casse::majuscules ? majuscules(mot) : minuscules(mot);
@@ -114,9 +108,9 @@ std::string mot_et_suite(const Morceaux& m, const Fiche& lue, const Fiche& voulu
     const bool meme_longueur = voulue.cle.size() == lue.cle.size();
     std::string texte =
         meme_longueur ? meme_casse(voulue.cle, m.mot) : mot_en(casse_de(m.mot), voulue.cle);
-    if (est_balise(lue.cle) && est_balise(voulue.cle))
+    if (deborde(lue.cle) && deborde(voulue.cle))
         return texte + autre_cote(m.suite);
-    if (est_balise(lue.cle)) // the rest of its word goes with it
+    if (deborde(lue.cle)) // the rest of its word goes with it
         return texte.append(blancs_de_la_fin(m.suite));
     if (!est_blanc(m.suite) || m.mot.size() + m.suite.size() != colonnes)
         return texte.append(m.suite);

@@ -6,21 +6,9 @@
 
 namespace {
 
-constexpr std::array<std::pair<Nom10, Nom10>, 5> cotes{{{actions::DROITE, actions::GAUCHE},
-                                                        {actions::VIRAVDR, actions::VIRAVGA},
-                                                        {actions::VIRARDR, actions::VIRARGA},
-                                                        {actions::BALISE_DRO, actions::BALISE_GAU},
-                                                        {actions::BD, actions::BG}}};
-
 std::string autre_cote(const std::string& cle) {
-    const Nom10 nom(cle);
-    for (const auto& [droite, gauche] : cotes) {
-        if (nom == droite)
-            return std::string(gauche.sans_blancs());
-        if (nom == gauche)
-            return std::string(droite.sans_blancs());
-    }
-    return cle;
+    const actions::Action* const action = actions::trouver(Nom10(cle));
+    return action == nullptr ? cle : std::string(action->miroir.sans_blancs());
 }
 
 std::array<int, 3> pose_retournee(int x, int y, int cap, Axe axe, const Etendue& table) {

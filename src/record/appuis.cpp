@@ -1,6 +1,7 @@
 #include "record/appuis.h"
 
 #include "record/champs.h"
+#include "sim/actions.h"
 
 namespace {
 
@@ -16,20 +17,17 @@ void exiger_octets(const Appui& appui) {
 } // namespace
 
 std::optional<Appui> appui_de(const Fiche& action) {
-    const Nom10 nom(cle_jouee(action.cle));
-    for (const ActionConsole& bouton : actions_console) {
-        if (Nom10(bouton.nom) != nom)
-            continue;
-        Appui appui{bouton.legende};
-        // The trajectory has an arc's angle first, its radius second.
-        std::size_t suivant = 0;
-        if (bouton.utilise_Text4())
-            appui.Text4 = nombre(action, suivant++);
-        if (bouton.utilise_Text1())
-            appui.Text1 = nombre(action, suivant++);
-        return appui;
-    }
-    return std::nullopt;
+    const actions::Action* const bouton = actions::trouver_bouton(Nom10(cle_jouee(action.cle)));
+    if (bouton == nullptr)
+        return std::nullopt;
+    Appui appui{bouton->legende};
+    // The trajectory has an arc's angle first, its radius second.
+    std::size_t suivant = 0;
+    if (bouton->a_un_angle())
+        appui.Text4 = nombre(action, suivant++);
+    if (bouton->a_une_longueur())
+        appui.Text1 = nombre(action, suivant++);
+    return appui;
 }
 
 std::optional<RefusLecture> refus_de_generation(const DocumentTrajet& trajet) {

@@ -1,6 +1,7 @@
 #include "record/champs.h"
 
 #include "base/texte.h"
+#include "sim/actions.h"
 
 namespace {
 
@@ -37,7 +38,7 @@ std::uint8_t lire_champ_octet(const Champ& champ) {
     constexpr std::string_view attendu =
         "un nombre entier de 0 à 255, le seul que la génération PICBASIC sache garder";
     const Entier16 valeur = lire(champ, attendu);
-    if (valeur < 0 || valeur > 255)
+    if (!actions::tient_dans_un_octet(valeur))
         refuser(champ, attendu);
     return static_cast<std::uint8_t>(valeur);
 }

@@ -60,16 +60,10 @@ void Console::Command4_Click(std::string_view legende, const std::string& Text1,
     const Entier16 a = lire_champ({nom_Text4, Text4});
     const Entier16 b = lire_champ({nom_Text1, Text1});
     saisie_ = {Text1, Text4};
-    const ActionConsole* const connue = action_de_nom(action);
-    const Parametres p = connue == nullptr ? Parametres::longueur : connue->parametres;
-    if (p == Parametres::angle)
-        tele_action(robot_, action, a, 0);
-    else if (p == Parametres::rayon_et_angle)
-        tele_action(robot_, action, a, b);
-    else if (p == Parametres::aucun)
-        tele_action(robot_, action, 0, 0);
-    else
-        tele_action(robot_, action, b, 0);
+    const actions::Action* const connue = actions::trouver_legende(action);
+    const bool angle = connue != nullptr && connue->a_un_angle();
+    const Entier16 longueur = connue == nullptr || connue->a_une_longueur() ? b : Entier16();
+    tele_action(robot_, action, angle ? a : longueur, angle ? longueur : Entier16());
 }
 
 void Console::tele_action(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2) {
@@ -147,7 +141,7 @@ void Console::ajouter_au_trajet(Entier16 I, Entier16 p1, Entier16 p2) {
 }
 
 void Console::remplir_TableauAGenerer(const std::string& action) {
-    const ActionConsole* const connue = action_de_nom(action);
+    const actions::Action* const connue = actions::trouver_legende(action);
     if (connue == nullptr)
         return f.message("PB remplissage tableau à générer");
     const auto Text1 = [this] { return lire_champ_octet({nom_Text1, saisie_.Text1}); };
@@ -155,24 +149,24 @@ void Console::remplir_TableauAGenerer(const std::string& action) {
     std::uint8_t p1 = 0;
     std::uint8_t p2 = 0;
     // The table has an arc's radius first, its angle second: the reverse of the trajectory.
-    if (connue->utilise_Text1())
+    if (connue->a_une_longueur())
         p1 = Text1();
-    if (connue->utilise_Text4())
-        (connue->utilise_Text1() ? p2 : p1) = Text4();
+    if (connue->a_un_angle())
+        (connue->a_une_longueur() ? p2 : p1) = Text4();
     ajouter_ligne(connue->code, p1, p2);
-    if (connue->compte_carreaux && e.utiliDamier) {
+    if (connue->compte_les_carreaux() && e.utiliDamier) {
         const std::string nombre =
             nbre_carreaux ? nbre_carreaux() : std::string(texte_entier(e.NbreCarreaux).vue());
-        ajouter_ligne(Code::carreaux, lire_champ_octet({"Nbre Carreaux", nombre}), 0);
+        ajouter_ligne(actions::code_carreaux, lire_champ_octet({"Nbre Carreaux", nombre}), 0);
     }
 }
 
-void Console::ajouter_ligne(Code code, std::uint8_t p1, std::uint8_t p2) {
+void Console::ajouter_ligne(std::uint8_t code, std::uint8_t p1, std::uint8_t p2) {
     const int n = e.nb_a_generer;
     if (n > actions_max)
         throw Debordement("le tableau à générer est plein : " + std::to_string(actions_max + 1) +
                           " lignes au plus");
-    e.TableauAGenerer(n, 0) = static_cast<std::uint8_t>(code);
+    e.TableauAGenerer(n, 0) = code;
     e.TableauAGenerer(n, 1) = p1;
     e.TableauAGenerer(n, 2) = p2;
     e.nb_a_generer = n + 1;

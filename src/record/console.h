@@ -1,6 +1,5 @@
 #pragma once
 
-#include "record/actions_console.h"
 #include "record/liste.h"
 #include "record/pose.h"
 #include "record/reprise.h"
@@ -112,7 +111,7 @@ private:
     void memoriser(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2);
     void ajouter_au_trajet(Entier16 I, Entier16 p1, Entier16 p2);
     void remplir_TableauAGenerer(const std::string& action);
-    void ajouter_ligne(Code code, std::uint8_t p1, std::uint8_t p2);
+    void ajouter_ligne(std::uint8_t code, std::uint8_t p1, std::uint8_t p2);
 
     Etat& e;
     Fenetres& f;

@@ -13,11 +13,11 @@ namespace {
 // What was driven of the action, in whole units with the parameter's sign; 0 when nothing of it can
 // stay in the path.
 Entier16 unites_parcourues(const Etat& e, Entier16 robot, const Etape& etape) {
-    const ActionConsole* const action = action_de_nom(etape.nom);
-    if (action == nullptr || action->parametres == Parametres::aucun)
+    const actions::Action* const action = actions::trouver_legende(etape.nom);
+    if (action == nullptr || action->nb_parametres() == 0)
         return 0;
     // A pause is done once its duration is exceeded.
-    const int un_de_moins = action->code == Code::pause ? 1 : 0;
+    const int un_de_moins = action->genre == actions::Genre::pause ? 1 : 0;
     const int n = static_cast<int>(std::fabs(e.Progression(robot))) - un_de_moins;
     return n <= 0 ? 0 : etape.p1 < 0 ? -n : n;
 }
@@ -82,7 +82,7 @@ bool Console::arreter_action() {
 
 // The action again, shorter and at once: the state is the one that driving it would have left.
 void Console::rejouer(const Etape& etape, Entier16 robot, Entier16 parcouru) {
-    const bool angle = action_de_nom(etape.nom)->utilise_Text4();
+    const bool angle = actions::trouver_legende(etape.nom)->a_un_angle();
     (angle ? saisie_.Text4 : saisie_.Text1) = std::to_string(parcouru);
     lancer(robot, etape.nom, parcouru, etape.p2);
     try {
@@ -139,14 +139,14 @@ void Console::rejouer_le_trajet(const LignesDuTrajet& lignes) {
     bool finie = rejeu.finir_action(); // the tick that finds the robot idle
     for (int k = 1; k <= n; ++k) {
         const LignesDuTrajet::Action& ligne = lignes.actions.at(static_cast<std::size_t>(k - 1));
-        const ActionConsole* const action = action_du_trajet(e.TrajAction(robot_, k));
+        const actions::Action* const action = actions::trouver_bouton(e.TrajAction(robot_, k));
         if (!finie || action == nullptr)
             throw ErreurExecution("le trajet du robot " + std::to_string(robot_) +
                                   " ne peut pas être joué jusqu'à son action " + std::to_string(k) +
                                   " ; il reste à sauvegarder");
         e.nb_a_generer = ligne.debut; // as they were before the action: its undoing goes back there
         e.TrajNbActions(robot_) = k - 1;
-        memoriser(robot_, std::string(action->nom), e.TrajParam1(robot_, k),
+        memoriser(robot_, majuscules(action->legende), e.TrajParam1(robot_, k),
                   e.TrajParam2(robot_, k));
         etapes_.back().annulable = ligne.connue;
         etapes_.back().sans_code = ligne.sans_code;

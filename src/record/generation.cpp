@@ -1,10 +1,8 @@
 #include "record/generation.h"
 
 #include "config/ecriture.h"
-#include "record/actions_console.h"
 #include "sim/actions.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -20,52 +18,18 @@ void ajouter_virage(Ecrivain& fichier, std::string_view sens, std::string_view c
     fichier.ligne(sens, texte_double15(b));
 }
 
-void ajouter_entree(Ecrivain& fichier, Code code, int p1, int p2) {
-    const TexteCourt valeur = texte_entier(p1);
-    switch (code) {
-    case Code::avance:
-        fichier.ligne("AVANCE:", valeur);
-        return;
-    case Code::recule:
-        fichier.ligne("RECULE:", valeur);
-        return;
-    // Deliberate: turns on the spot come out crossed.
-    case Code::gauche:
-        fichier.ligne("DROITE:", valeur);
-        return;
-    case Code::droite:
-        fichier.ligne("GAUCHE:", valeur);
-        return;
-    case Code::viravga:
-        return ajouter_virage(fichier, "AVANCE:", "GAUCHE:", p1, p2);
-    case Code::viravdr:
-        return ajouter_virage(fichier, "AVANCE:", "DROITE:", p1, p2);
-    case Code::virarga:
-        return ajouter_virage(fichier, "RECULE:", "GAUCHE:", p1, p2);
-    case Code::virardr:
-        return ajouter_virage(fichier, "RECULE:", "DROITE:", p1, p2);
-    case Code::pause:
-        fichier.ligne("DELAY :", valeur);
-        return;
-    case Code::balise_droite:
-        fichier.ligne("BALDROITE");
-        return;
-    case Code::balise_gauche:
-        fichier.ligne("BALGAUCHE");
-        return;
-    case Code::carreaux:
-        fichier.ligne("CARREAUX:", valeur);
-        return;
-    }
-    fichier.ligne("'*** PB remplissage fichier");
-}
-
-// The button that records an action of a trajectory; null for what none records ("INIT").
-const ActionConsole* bouton_de(const Nom10& action) {
-    const auto* const trouve =
-        std::find_if(actions_console.begin(), actions_console.end(),
-                     [&](const ActionConsole& bouton) { return Nom10(bouton.nom) == action; });
-    return trouve == actions_console.end() ? nullptr : trouve;
+void ajouter_entree(Ecrivain& fichier, int code, int p1, int p2) {
+    const actions::Action* const action = actions::trouver_code(code);
+    if (code == actions::code_carreaux)
+        fichier.ligne(actions::mots::carreaux, texte_entier(p1));
+    else if (action == nullptr)
+        fichier.ligne("'*** PB remplissage fichier");
+    else if (action->genre == actions::Genre::arc)
+        ajouter_virage(fichier, action->genere, action->quart, p1, p2);
+    else if (action->nb_parametres() == 0)
+        fichier.ligne(action->genere);
+    else
+        fichier.ligne(action->genere, texte_entier(p1));
 }
 
 } // namespace
@@ -78,7 +42,7 @@ std::string texte_generation(const Etat& e, const std::string& nom_de_fichier) {
         "# Fichier de description du déplacement du robot: POUR GENERATION DU CODE PICBASIC.");
     fichier.ligne("#");
     for (int j = 0; j <= actions_max && e.TableauAGenerer(j, 0) != 0; ++j)
-        ajouter_entree(fichier, Code{e.TableauAGenerer(j, 0)}, e.TableauAGenerer(j, 1),
+        ajouter_entree(fichier, e.TableauAGenerer(j, 0), e.TableauAGenerer(j, 1),
                        e.TableauAGenerer(j, 2));
     return fichier.texte();
 }
@@ -86,11 +50,11 @@ std::string texte_generation(const Etat& e, const std::string& nom_de_fichier) {
 std::vector<std::string> mouvements_du_trajet(const Etat& e, Entier16 i) {
     Ecrivain fichier;
     for (int k = 1; k <= e.TrajNbActions(i) && !(e.TrajAction(i, k) == actions::FIN); ++k) {
-        const ActionConsole* const bouton = bouton_de(e.TrajAction(i, k));
+        const actions::Action* const bouton = actions::trouver_bouton(e.TrajAction(i, k));
         if (bouton == nullptr)
             continue;
         // A trajectory has the angle of a curve first, the generation table its radius.
-        const bool virage = bouton->parametres == Parametres::rayon_et_angle;
+        const bool virage = bouton->genre == actions::Genre::arc;
         const int p1 = e.TrajParam1(i, k);
         const int p2 = e.TrajParam2(i, k);
         ajouter_entree(fichier, bouton->code, virage ? p2 : p1, virage ? p1 : p2);

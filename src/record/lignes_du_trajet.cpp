@@ -1,15 +1,10 @@
 #include "record/lignes_du_trajet.h"
 
-#include "record/actions_console.h"
 #include "sim/actions.h"
 
 #include <utility>
 
 namespace {
-
-bool tient_dans_un_octet(Entier16 valeur) {
-    return valeur >= 0 && valeur <= 255;
-}
 
 int nombre_d_actions(const Etat& e, Entier16 robot) {
     const int n = e.TrajNbActions(robot);
@@ -22,14 +17,15 @@ public:
     explicit Recherche(const Etat& etat) : e(etat), reste_(etat.nb_a_generer) {}
 
     LignesDuTrajet::Action trouver(Entier16 robot, int k) {
-        const ActionConsole* const action = action_du_trajet(e.TrajAction(robot, k));
+        const actions::Action* const action = actions::trouver_bouton(e.TrajAction(robot, k));
         const Entier16 p1 = e.TrajParam1(robot, k);
         const Entier16 p2 = e.TrajParam2(robot, k);
         if (action == nullptr || perdue_)
             return {reste_};
-        if (!tient_dans_un_octet(p1) || !tient_dans_un_octet(p2))
+        if (!actions::tient_dans_un_octet(p1) || !actions::tient_dans_un_octet(p2))
             return {reste_, true};
-        const bool carreaux = action->compte_carreaux && code_a(reste_ - 1) == Code::carreaux;
+        const bool carreaux =
+            action->compte_les_carreaux() && code_a(reste_ - 1) == actions::code_carreaux;
         const int ligne = reste_ - (carreaux ? 2 : 1);
         if (code_a(ligne) != action->code || !parametres_a(ligne, *action, p1, p2)) {
             perdue_ = true;
@@ -40,13 +36,11 @@ public:
     }
 
 private:
-    Code code_a(int ligne) const {
-        return Code{ligne < 0 ? std::uint8_t{0} : e.TableauAGenerer(ligne, 0)};
-    }
+    int code_a(int ligne) const { return ligne < 0 ? 0 : e.TableauAGenerer(ligne, 0); }
 
     // The table has an arc's radius first, its angle second: the reverse of the trajectory.
-    bool parametres_a(int ligne, const ActionConsole& action, int p1, int p2) const {
-        if (action.parametres == Parametres::rayon_et_angle)
+    bool parametres_a(int ligne, const actions::Action& action, int p1, int p2) const {
+        if (action.genre == actions::Genre::arc)
             std::swap(p1, p2);
         return e.TableauAGenerer(ligne, 1) == p1 && e.TableauAGenerer(ligne, 2) == p2;
     }

@@ -1,24 +1,28 @@
 #include "record/liste.h"
 
-#include "record/actions_console.h"
+#include "sim/actions.h"
+
+using namespace actions;
 
 namespace {
 
-std::string valeurs(const Etape& etape, const ActionConsole& action) {
-    const auto nombre = [](Entier16 n) { return " " + std::to_string(n); };
-    switch (action.parametres) {
-    case Parametres::aucun:
-        return {};
-    case Parametres::longueur:
-        if (action.code == Code::pause)
-            return " " + texte_duree(etape.p1);
-        return nombre(etape.p1) + " cm";
-    case Parametres::angle:
-        return nombre(etape.p1) + "°";
-    case Parametres::rayon_et_angle:
-        return nombre(etape.p1) + "° rayon" + nombre(etape.p2) + " cm";
-    }
-    return {};
+std::string valeurs(const Etape& etape, const Action& action) {
+    const auto valeur = [](Entier16 n, Unite unite) {
+        switch (unite) {
+        case Unite::aucune:
+            break;
+        case Unite::cm:
+            return " " + std::to_string(n) + " cm";
+        case Unite::degres:
+            return " " + std::to_string(n) + "°";
+        case Unite::centiemes:
+            return " " + texte_duree(n);
+        }
+        return std::string();
+    };
+    const bool arc = action.genre == Genre::arc;
+    return valeur(etape.p1, action.parametres[0]) + (arc ? " rayon" : "") +
+           valeur(etape.p2, action.parametres[1]);
 }
 
 } // namespace
@@ -30,7 +34,7 @@ std::string texte_duree(std::int32_t centiemes) {
 }
 
 LigneListe ligne_de_liste(const Etape& etape) {
-    const ActionConsole* const action = action_de_nom(etape.nom);
+    const Action* const action = trouver_legende(etape.nom);
     const std::string texte =
         action == nullptr ? etape.nom : std::string(action->legende) + valeurs(etape, *action);
     return {std::to_string(etape.numero),

@@ -3,24 +3,21 @@
 #include "config/ecriture.h"
 #include "sim/actions.h"
 
-#include <algorithm>
-#include <initializer_list>
+#include <array>
 
 namespace {
 
-bool parmi(const Nom10& action, std::initializer_list<Nom10> noms) {
-    return std::find(noms.begin(), noms.end(), action) != noms.end();
-}
-
 // The padding stays in the line, before the comma: "AVANCE    ,120".
 void ecrire_action(Ecrivain& fichier, const Nom10& N, int param1, int param2) {
-    using namespace actions;
-    if (parmi(N, {PAUSE, AVANCE, RECULE, DROITE, GAUCHE}))
-        fichier.ligne(N.vue(), ",", texte_entier(param1));
-    else if (parmi(N, {BG, BD, BALISE_DRO, BALISE_GAU}))
-        fichier.ligne(N.vue());
-    else if (parmi(N, {VIRAVDR, VIRAVGA, VIRARDR, VIRARGA}))
-        fichier.ligne(N.vue(), ",", texte_entier(param1), ",", texte_entier(param2));
+    using actions::Genre;
+    const actions::Action* const action = actions::trouver(N);
+    if (action == nullptr || action->genre == Genre::fin || action->genre == Genre::depart)
+        return;
+    const std::array valeurs{param1, param2};
+    std::string ligne(N.vue());
+    for (int k = 0; k < action->nb_parametres(); ++k)
+        (ligne += ',').append(texte_entier(valeurs.at(static_cast<std::size_t>(k))));
+    fichier.ligne(ligne);
 }
 
 } // namespace

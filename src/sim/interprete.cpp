@@ -1,37 +1,14 @@
 #include "sim/actions.h"
 #include "sim/moteur.h"
 
-#include <array>
 #include <string>
-#include <utility>
 
-Moteur::Code Moteur::Decodee::code_de(const Nom10& action) {
-    if (action == nom)
-        return code;
-    constexpr std::array<std::pair<Nom10, Code>, 15> codes{{
-        {actions::FIN, Code::FIN},
-        {actions::PAUSE, Code::PAUSE},
-        {actions::AVANCE, Code::AVANCE},
-        {actions::RECULE, Code::RECULE},
-        {actions::DROITE, Code::DROITE},
-        {actions::GAUCHE, Code::GAUCHE},
-        {actions::VIRAVDR, Code::VIRAVDR},
-        {actions::VIRAVGA, Code::VIRAVGA},
-        {actions::VIRARDR, Code::VIRARDR},
-        {actions::VIRARGA, Code::VIRARGA},
-        {actions::BALISE_DRO, Code::BALISE_DROITE},
-        {actions::BALISE_GAU, Code::BALISE_GAUCHE},
-        {actions::BD, Code::BALISE_DROITE},
-        {actions::BG, Code::BALISE_GAUCHE},
-        {actions::AUCUNE, Code::AUCUNE},
-    }};
-    nom = action;
-    code = Code::INCONNUE;
-    for (const auto& [connu, son_code] : codes) {
-        if (connu == action)
-            code = son_code;
+const actions::Action* Moteur::Decodee::action_de(const Nom10& action) {
+    if (!(action == nom)) {
+        nom = action;
+        connue = actions::trouver(action);
     }
-    return code;
+    return connue;
 }
 
 bool Moteur::Executer_Actions() {
@@ -48,38 +25,28 @@ bool Moteur::Executer_Actions() {
 }
 
 void Moteur::executer(Entier16 i) {
-    const Entier16 p = e.ParamEnCours(i);
-    switch (decodees_(i).code_de(e.ActionEnCours(i))) {
-    case Code::FIN:
+    using actions::Genre;
+    const actions::Action* const action = decodees_(i).action_de(e.ActionEnCours(i));
+    if (action == nullptr)
+        return e.ActionEnCours(i) == actions::AUCUNE ? charger_action_suivante(i)
+                                                     : signaler_action_inconnue(i);
+    const int p = action->sens * e.ParamEnCours(i);
+    switch (action->genre) {
+    case Genre::fin:
         return;
-    case Code::PAUSE:
+    case Genre::pause:
         return Action_Pause(p, i);
-    case Code::AVANCE:
+    case Genre::droit:
         return Action_Avance(p, i);
-    case Code::RECULE:
-        return Action_Avance(-p, i);
-    case Code::DROITE:
-        return Action_Tourne(-p, i);
-    case Code::GAUCHE:
+    case Genre::rotation:
         return Action_Tourne(p, i);
-    case Code::VIRAVDR:
-        return Action_Virage(-p, e.Param2EnCours(i), 90, i);
-    case Code::VIRAVGA:
-        return Action_Virage(p, e.Param2EnCours(i), -90, i);
-    case Code::VIRARDR:
-        return Action_Virage(-p, e.Param2EnCours(i), -90, i);
-    case Code::VIRARGA:
-        return Action_Virage(p, e.Param2EnCours(i), 90, i);
-    case Code::BALISE_DROITE:
-        return Chercher_Balise(balise_droite, i);
-    case Code::BALISE_GAUCHE:
-        return Chercher_Balise(balise_gauche, i);
-    case Code::AUCUNE:
-        return charger_action_suivante(i);
-    case Code::INCONNUE:
-        break;
+    case Genre::arc:
+        return Action_Virage(p, e.Param2EnCours(i), action->cote, i);
+    case Genre::balise:
+        return Chercher_Balise(action->sens < 0 ? balise_droite : balise_gauche, i);
+    case Genre::depart:
+        return signaler_action_inconnue(i);
     }
-    signaler_action_inconnue(i);
 }
 
 void Moteur::signaler_action_inconnue(Entier16 i) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sim/actions.h"
 #include "sim/direction.h"
 #include "sim/etat.h"
 #include "sim/fenetres.h"
@@ -64,27 +65,11 @@ private:
         void calculer(float nouvelle_vitesse, float nouvel_entraxe, Entier16 pas_temps,
                       Entier16 nouveau_rayon, bool negatif);
     };
-    enum class Code : std::uint8_t {
-        FIN,
-        PAUSE,
-        AVANCE,
-        RECULE,
-        DROITE,
-        GAUCHE,
-        VIRAVDR,
-        VIRAVGA,
-        VIRARDR,
-        VIRARGA,
-        BALISE_DROITE,
-        BALISE_GAUCHE,
-        AUCUNE,
-        INCONNUE
-    };
-    /// The last name decoded and its code: a robot's action stays the same for many ticks.
+    /// The last name looked up and its action: a robot's action stays the same for many ticks.
     struct Decodee {
         Nom10 nom;
-        Code code = Code::AUCUNE;
-        Code code_de(const Nom10& action);
+        const actions::Action* connue = nullptr; ///< null: none of that name
+        const actions::Action* action_de(const Nom10& action);
     };
 
     void executer(Entier16 i);

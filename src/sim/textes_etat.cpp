@@ -5,18 +5,6 @@
 #include <cmath>
 #include <cstdlib>
 
-std::string_view unite_action(const Nom10& action) {
-    using namespace actions;
-    if (action == PAUSE)
-        return "ms";
-    if (action == AVANCE || action == RECULE)
-        return "cm";
-    // Deliberate: the short beacon names BG and BD show no unit.
-    if (action == DROITE || action == GAUCHE || action == BALISE_DRO || action == BALISE_GAU)
-        return "°";
-    return "";
-}
-
 TexteCourt LigneMess::texte() const {
     const auto partie_entiere = std::div(TempsEcoule / 100, 60);
     TexteCourt t;
@@ -35,7 +23,8 @@ TexteCourt LigneMess::texte() const {
     t.ajouter('/');
     t.ajouter(texte_entier(ParamEnCours));
     t.ajouter(' ');
-    t.ajouter(unite_action(action_pour_l_unite));
+    if (const actions::Action* const action = actions::trouver(action_pour_l_unite))
+        t.ajouter(action->unite_etat);
     t.ajouter(" Incidence:");
     t.ajouter(texte_simple(Incidence));
     t.ajouter(" Nbre carreaux:");

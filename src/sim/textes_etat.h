@@ -34,7 +34,3 @@ struct LigneInfo {
 
     TexteCourt texte() const;
 };
-
-/// The unit that the status line gives to an action's progress: "ms", "cm", "°" or nothing. The
-/// short names "BG" and "BD" have none.
-std::string_view unite_action(const Nom10& action);

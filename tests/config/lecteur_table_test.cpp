@@ -89,7 +89,7 @@ TEST(LireTable, refuse_a_la_ligne_fautive) {
         {"L,0,0,5,0\n", "1"}, // nor along y
         {"PB,5,5,5", "1"},    // pieces do not count for it
         {b + "Z, 1, 2, 3, 4", "2"},
-        {b + "LLL, 1, 2, 3, 4", "2"},
+        {b + "PZB, 1, 2, 3", "2"},
         {b + "L 1", "2"},
         {b + "L , -1, 0, 5, 5", "2"},
         {b + "L , 5, 5, 0, -1", "2"},

@@ -20,7 +20,7 @@ const std::map<std::string, Dossiers> permis{
     {"edition", {"base", "sim", "config"}},
     {"draw", {"base", "sim"}},
     {"record", {"base", "sim", "config"}},
-    {"codegen", {"base", "config"}},
+    {"codegen", {"base", "sim", "config"}},
     {"analyse", {"base", "sim", "config", "draw", "codegen"}},
     {"seance", {"base", "sim", "config", "record"}},
     {"cli", {"base", "sim", "config", "edition", "draw", "record", "codegen", "analyse", "seance"}},

@@ -33,7 +33,7 @@ struct BancOrigine : BancConsole {
 
 TEST(Origine, l_entree_qui_vient_d_etre_ecrite_est_celle_de_son_trajet) {
     BancOrigine b;
-    for (const ActionConsole& action : actions_console)
+    for (const actions::Action& action : actions::boutons)
         b.jouer(std::string(action.legende).c_str(), "30", "40");
     b.ecrire_entree();
     EXPECT_EQ(b.avertissement(), "") << "no trajectory beside it: nothing to compare with";

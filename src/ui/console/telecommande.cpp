@@ -187,7 +187,7 @@ void Télécommande::indiquer_position() {
 
 void Télécommande::Command4_Click(std::size_t k) {
     const ALaFin fin([this] { actualiser(); });
-    console_.Command4_Click(actions_console.at(k).legende, Text1.text().toStdString(),
+    console_.Command4_Click(actions::boutons[k].legende, Text1.text().toStdString(),
                             Text4.text().toStdString());
 }
 
@@ -292,13 +292,13 @@ bool Télécommande::eventFilter(QObject* objet, QEvent* evenement) {
     const bool part = evenement->type() == QEvent::Leave || evenement->type() == QEvent::FocusOut;
     for (std::size_t k = 0; k < nb_actions && (arrive || part); ++k) {
         if (objet == &Command4.at(k))
-            surligner(arrive ? &actions_console.at(k) : nullptr);
+            surligner(arrive ? &actions::boutons[k] : nullptr);
     }
     return QWidget::eventFilter(objet, evenement);
 }
 
 // Shows which fields the action under the pointer or the keyboard reads.
-void Télécommande::surligner(const ActionConsole* action) {
+void Télécommande::surligner(const actions::Action* action) {
     const auto teinter = [this](QLineEdit& champ, bool utile) {
         QPalette p = palette();
         if (utile) {
@@ -308,8 +308,8 @@ void Télécommande::surligner(const ActionConsole* action) {
         }
         champ.setPalette(p);
     };
-    teinter(Text1, action != nullptr && action->utilise_Text1());
-    teinter(Text4, action != nullptr && action->utilise_Text4());
+    teinter(Text1, action != nullptr && action->a_une_longueur());
+    teinter(Text4, action != nullptr && action->a_un_angle());
 }
 
 void Télécommande::connecter() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "record/console.h"
+#include "sim/actions.h"
 #include "ui/commun/barre_nombre.h"
 
 #include <QLabel>
@@ -49,7 +50,7 @@ protected:
     void showEvent(QShowEvent* evenement) override;
 
 private:
-    static constexpr std::size_t nb_actions = actions_console.size();
+    static constexpr std::size_t nb_actions = actions::boutons.size();
 
     /// The captions of the console, in the order of their indices.
     enum Legende { // NOLINT(performance-enum-size)
@@ -77,7 +78,7 @@ private:
     void actualiser();
     void ecrire_le_temps();
     void actualiser_liste();
-    void surligner(const ActionConsole* action);
+    void surligner(const actions::Action* action);
 
     void nommer();
     void nommer_champs();

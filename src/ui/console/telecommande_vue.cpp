@@ -12,37 +12,47 @@
 
 namespace {
 
-struct Touche {
-    const char* legende;
-    int touche;
-    const char* nom;
+struct Bouton {
+    Nom10 action;
+    int ligne, colonne;
+    int touche; ///< with Alt
+    const char* nom_touche;
     const char* bulle;
 };
 
-constexpr Touche touches[] = {
-    {"Avance", Qt::Key_Up, "Alt+Haut", "Avance de la distance donnée"},
-    {"Recule", Qt::Key_Down, "Alt+Bas", "Recule de la distance donnée"},
-    {"Droite", Qt::Key_Right, "Alt+Droite", "Tourne à droite sur place"},
-    {"Gauche", Qt::Key_Left, "Alt+Gauche", "Tourne à gauche sur place"},
-    {"Pause", Qt::Key_P, "Alt+P", "Attend la durée donnée"},
-    {"VirAvDr", Qt::Key_PageUp, "Alt+Page haut", "Vire en avant vers la droite"},
-    {"VirAvGa", Qt::Key_Home, "Alt+Début", "Vire en avant vers la gauche"},
-    {"VirArDr", Qt::Key_PageDown, "Alt+Page bas", "Vire en arrière vers la droite"},
-    {"VirArGa", Qt::Key_End, "Alt+Fin", "Vire en arrière vers la gauche"},
-    {"Balise Droite", Qt::Key_D, "Alt+D", "Cherche la balise droite"},
-    {"Balise Gauche", Qt::Key_G, "Alt+G", "Cherche la balise gauche"},
-};
+// As seen from above the robot: ahead is up, left is left.
+constexpr std::array<Bouton, actions::boutons.size()> boutons{{
+    {actions::VIRAVGA, 0, 0, Qt::Key_Home, "Alt+Début", "Vire en avant vers la gauche"},
+    {actions::AVANCE, 0, 1, Qt::Key_Up, "Alt+Haut", "Avance de la distance donnée"},
+    {actions::VIRAVDR, 0, 2, Qt::Key_PageUp, "Alt+Page haut", "Vire en avant vers la droite"},
+    {actions::GAUCHE, 1, 0, Qt::Key_Left, "Alt+Gauche", "Tourne à gauche sur place"},
+    {actions::PAUSE, 1, 1, Qt::Key_P, "Alt+P", "Attend la durée donnée"},
+    {actions::DROITE, 1, 2, Qt::Key_Right, "Alt+Droite", "Tourne à droite sur place"},
+    {actions::VIRARGA, 2, 0, Qt::Key_End, "Alt+Fin", "Vire en arrière vers la gauche"},
+    {actions::RECULE, 2, 1, Qt::Key_Down, "Alt+Bas", "Recule de la distance donnée"},
+    {actions::VIRARDR, 2, 2, Qt::Key_PageDown, "Alt+Page bas", "Vire en arrière vers la droite"},
+    {actions::BALISE_GAU, 3, 0, Qt::Key_G, "Alt+G", "Cherche la balise gauche"},
+    {actions::BALISE_DRO, 3, 2, Qt::Key_D, "Alt+D", "Cherche la balise droite"},
+}};
+
+/// Its index among the console's buttons.
+constexpr std::size_t rang(const Bouton& bouton) {
+    const auto trouve = std::ranges::find(actions::boutons, bouton.action, &actions::Action::nom);
+    return static_cast<std::size_t>(trouve - actions::boutons.begin());
+}
+static_assert(std::ranges::all_of(actions::boutons, [](const actions::Action& action) {
+    return std::ranges::count(boutons, action.nom, &Bouton::action) == 1;
+}));
 
 // What becomes of the action in the generated code, where that is not what the screen shows.
-QString dans_le_code(const QString& legende) {
-    if (legende.startsWith("Vir"))
+QString dans_le_code(const actions::Action& action) {
+    if (action.genre == actions::Genre::arc)
         return "\nDans le code généré : une ligne droite, un quart de tour et une ligne droite, "
-               "dont "
-               "les longueurs ne suivent pas l'arc dessiné à l'écran.";
-    if (legende == "Droite" || legende == "Gauche")
+               "dont les longueurs ne suivent pas l'arc dessiné à l'écran.";
+    if (action.genre == actions::Genre::rotation)
         return QString("\nDans le code généré : Action_%1. C'est voulu : les tours sur place sont "
                        "croisés à cause du nom des sous-programmes du robot.")
-            .arg(legende == "Droite" ? QString("Gauche") : QString("Droite"));
+            .arg(texte_qt(actions::trouver(action.miroir)->legende));
     return {};
 }
 
@@ -60,7 +70,7 @@ void Télécommande::nommer() {
     for (std::size_t k = 0; k < nb_actions; ++k) {
         Command4.at(k).setObjectName("Command4");
         Command4.at(k).setProperty("index", int(k));
-        Command4.at(k).setText(texte_qt(actions_console.at(k).legende));
+        Command4.at(k).setText(texte_qt(actions::boutons[k].legende));
     }
     constexpr std::array<const char*, nb_legendes> legendes{"Numéro du robot :",
                                                             "Position initiale :",
@@ -190,30 +200,10 @@ QLayout* Télécommande::placer_action() {
     return grille;
 }
 
-// As seen from above the robot: ahead is up, left is left.
 QLayout* Télécommande::placer_boutons() {
-    struct Place {
-        const char* legende;
-        int ligne, colonne;
-    };
-    constexpr std::array<Place, nb_actions> places{{{"VirAvGa", 0, 0},
-                                                    {"Avance", 0, 1},
-                                                    {"VirAvDr", 0, 2},
-                                                    {"Gauche", 1, 0},
-                                                    {"Pause", 1, 1},
-                                                    {"Droite", 1, 2},
-                                                    {"VirArGa", 2, 0},
-                                                    {"Recule", 2, 1},
-                                                    {"VirArDr", 2, 2},
-                                                    {"Balise Gauche", 3, 0},
-                                                    {"Balise Droite", 3, 2}}};
     auto* grille = new QGridLayout;
-    for (const Place& place : places) {
-        for (QPushButton& bouton : Command4) {
-            if (bouton.text() == QLatin1String(place.legende))
-                grille->addWidget(&bouton, place.ligne, place.colonne);
-        }
-    }
+    for (const Bouton& bouton : boutons)
+        grille->addWidget(&Command4.at(rang(bouton)), bouton.ligne, bouton.colonne);
     for (int colonne = 0; colonne < 3; ++colonne)
         grille->setColumnStretch(colonne, 1);
     grille->setRowMinimumHeight(3, Command4[0].sizeHint().height() + 8);
@@ -246,14 +236,11 @@ void Télécommande::connecter_touches() {
         connect(action, &QAction::triggered, &bouton, [&bouton] { bouton.click(); });
         addAction(action);
     };
-    for (const Touche& t : touches) {
-        for (QPushButton& bouton : Command4) {
-            if (bouton.text() != QLatin1String(t.legende))
-                continue;
-            relier(bouton, QKeySequence(int(Qt::ALT) | t.touche));
-            bouton.setToolTip(QString("%1 (%2)").arg(QString(t.bulle), QString(t.nom)) +
-                              dans_le_code(bouton.text()));
-        }
+    for (const Bouton& b : boutons) {
+        QPushButton& bouton = Command4.at(rang(b));
+        relier(bouton, QKeySequence(int(Qt::ALT) | b.touche));
+        bouton.setToolTip(QString("%1 (%2)").arg(QString(b.bulle), QString(b.nom_touche)) +
+                          dans_le_code(actions::boutons[rang(b)]));
     }
     relier(Command9, QKeySequence(int(Qt::ALT) | int(Qt::Key_E)));
     relier(annuler_, QKeySequence(QKeySequence::Undo));
