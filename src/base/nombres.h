@@ -11,10 +11,12 @@
 /// divided by 180 after.
 inline constexpr double Pi = 3.14159;
 
+/// h Pi / 180, in that order.
 inline constexpr double radians(double degres) {
     return degres * Pi / 180;
 }
 
+// Out of line, so that a check costs its caller one branch.
 [[noreturn]] void lever_Debordement(long long valeur);
 [[noreturn]] void lever_DivisionParZero();
 

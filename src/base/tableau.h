@@ -36,9 +36,6 @@ private:
 template <typename T, int Dernier1, int Dernier2>
 class Tableau2 {
 public:
-    static constexpr int dernier1 = Dernier1;
-    static constexpr int dernier2 = Dernier2;
-
     constexpr T& operator()(int i, int k) { return lignes_(i)(k); }
     constexpr const T& operator()(int i, int k) const { return lignes_(i)(k); }
 

@@ -18,6 +18,7 @@ inline constexpr std::string_view RetourLigne = "\r\n";
 
 enum class Encodage { utf8, windows1252 };
 
+/// True when every sequence of bytes is a character; the empty text is.
 bool est_utf8(std::string_view octets);
 
 /// UTF-8 when the bytes are valid UTF-8, else Windows-1252.
@@ -39,7 +40,14 @@ std::string minuscules(std::string_view texte);
 void mettre_en_majuscules(std::span<char> texte);
 
 /// Without leading and trailing blanks; a TAB counts as a blank.
-std::string_view rogner(std::string_view texte);
+inline std::string_view rogner(std::string_view texte) {
+    const auto est_blanc = [](char c) { return c == ' ' || c == '\t'; };
+    while (!texte.empty() && est_blanc(texte.front()))
+        texte.remove_prefix(1);
+    while (!texte.empty() && est_blanc(texte.back()))
+        texte.remove_suffix(1);
+    return texte;
+}
 
 /// True if the text holds an ASCII capital letter or a digit: the pattern "*[A-Z0-9]*".
 bool contient_capitale_ou_chiffre(std::string_view texte);
@@ -62,15 +70,12 @@ private:
     bool cr_seul_ = false; ///< some CR is not followed by LF; else lines end at LF alone
 };
 
-/// Reads blanks, sign, digits, optional decimal part with ".", optional exponent.
-/// @throws ErreurConversion for anything else and for what no double holds
-double lire_nombre(std::string_view texte);
-
-/// lire_nombre rounded to the nearest 16-bit integer, halves to even.
+/// Blanks, sign, digits, optional decimal part with ".", optional exponent, blanks; rounded to the
+/// nearest 16-bit integer, halves to even.
 /// @throws ErreurConversion for anything else, out of range included
 Entier16 lire_entier16(std::string_view texte);
 
-/// lire_nombre as a single. @throws ErreurConversion also when no single holds it
+/// The same as a single. @throws ErreurConversion also when no single holds it
 float lire_simple(std::string_view texte);
 
 /// A short text in a fixed buffer: writing a number allocates nothing.
@@ -102,9 +107,6 @@ TexteCourt texte_double15(double valeur);
 /// from zero.
 TexteCourt format_0(double valeur);
 TexteCourt format_00(double valeur);
-
-/// The number that the pattern "000.00" shows: rounded to two decimals, halves away from zero.
-double arrondi_centiemes(double valeur);
 
 /// Ten characters, left-justified and padded with blanks: the name of an action.
 class Nom10 {
