@@ -13,6 +13,7 @@ public:
     explicit Sorte(std::vector<std::string>& liste) : liste_(liste) {}
 
     void ajouter(std::string phrase);
+    /// To be called once, behind the last: says how many were left out.
     void clore();
 
 private:

@@ -49,4 +49,5 @@ struct LignesMuettes {
     std::size_t premiere = 0;    ///< line number of the first unexpected one
 };
 
+/// @param octets  a generation input file
 LignesMuettes compter_les_muettes(std::string_view octets);

@@ -23,7 +23,7 @@ public:
 
     /// @param reprise  receives what was recorded after each action; may be null
     Console(Etat& etat, Fenetres& fenetres, Moteur& moteur, Reprise* reprise = nullptr)
-        : e(etat), f(fenetres), moteur_(moteur), reprise_(reprise) {}
+        : etat_(etat), fenetres_(fenetres), moteur_(moteur), reprise_(reprise) {}
 
     /// The text of the tile count's box, which a code-12 row keeps; without it the count itself.
     std::function<std::string()> nbre_carreaux;
@@ -113,8 +113,8 @@ private:
     void remplir_TableauAGenerer(const std::string& action);
     void ajouter_ligne(std::uint8_t code, std::uint8_t p1, std::uint8_t p2);
 
-    Etat& e;
-    Fenetres& f;
+    Etat& etat_;
+    Fenetres& fenetres_;
     Moteur& moteur_;
     Reprise* reprise_;
     Phase phase_ = Phase::arret;

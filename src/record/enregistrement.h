@@ -28,7 +28,7 @@ struct Enregistrement {
     std::vector<Robot> robots;
     std::vector<std::array<std::uint8_t, 3>> lignes; ///< generation table, at most 1001 rows
 
-    std::size_t nb_actions() const;
+    std::size_t nb_actions() const; ///< of all robots
 };
 
 /// The recording that `e` holds for `robots`.
@@ -38,6 +38,8 @@ Enregistrement prendre_enregistrement(const Etat& e, const Robots& robots);
 /// robots that it does not name stay as they are.
 void restaurer_enregistrement(Etat& e, const Enregistrement& enregistrement);
 
+/// The recovery file: a line for each robot, start pose, action and row, a last one with how many
+/// there are, by which a file cut short is known.
 std::string texte_enregistrement(const Enregistrement& enregistrement);
 
 /// Reads what texte_enregistrement writes. @param ligne  the line being read, counted from 1

@@ -14,12 +14,12 @@ int nombre_d_actions(const Etat& e, Entier16 robot) {
 // Looks for the rows of one action at the end of those that are left.
 class Recherche {
 public:
-    explicit Recherche(const Etat& etat) : e(etat), reste_(etat.nb_a_generer) {}
+    explicit Recherche(const Etat& etat) : etat_(etat), reste_(etat.nb_a_generer) {}
 
     LignesDuTrajet::Action trouver(Entier16 robot, int k) {
-        const actions::Action* const action = actions::trouver_bouton(e.TrajAction(robot, k));
-        const Entier16 p1 = e.TrajParam1(robot, k);
-        const Entier16 p2 = e.TrajParam2(robot, k);
+        const actions::Action* const action = actions::trouver_bouton(etat_.TrajAction(robot, k));
+        const Entier16 p1 = etat_.TrajParam1(robot, k);
+        const Entier16 p2 = etat_.TrajParam2(robot, k);
         if (action == nullptr || perdue_)
             return {reste_};
         if (!actions::tient_dans_un_octet(p1) || !actions::tient_dans_un_octet(p2))
@@ -36,16 +36,16 @@ public:
     }
 
 private:
-    int code_a(int ligne) const { return ligne < 0 ? 0 : e.TableauAGenerer(ligne, 0); }
+    int code_a(int ligne) const { return ligne < 0 ? 0 : etat_.TableauAGenerer(ligne, 0); }
 
     // The table has an arc's radius first, its angle second: the reverse of the trajectory.
     bool parametres_a(int ligne, const actions::Action& action, int p1, int p2) const {
         if (action.genre == actions::Genre::arc)
             std::swap(p1, p2);
-        return e.TableauAGenerer(ligne, 1) == p1 && e.TableauAGenerer(ligne, 2) == p2;
+        return etat_.TableauAGenerer(ligne, 1) == p1 && etat_.TableauAGenerer(ligne, 2) == p2;
     }
 
-    const Etat& e;
+    const Etat& etat_;
     int reste_;
     bool perdue_ = false;
 };

@@ -26,6 +26,7 @@ struct LigneListe {
     bool marquee = false; ///< the generated code will lack it
 };
 
+/// Values in the action's units (cm, degrees), times in seconds.
 LigneListe ligne_de_liste(const Etape& etape);
 
 /// Hundredths of a second as the user reads them: "12,50 s".

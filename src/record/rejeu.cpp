@@ -2,9 +2,9 @@
 
 bool Rejeu::finir_action() {
     finie_ = interrompu_ = false;
-    while (!finie_ && !interrompu_ && e.TempsEcoule <= duree_du_match) {
-        e.TempsEcoule += e.PasTemps;
+    while (!finie_ && !interrompu_ && etat_.TempsEcoule <= duree_du_match) {
+        etat_.TempsEcoule += etat_.PasTemps;
         moteur_.Executer_Actions();
     }
-    return finie_ && e.TempsEcoule <= duree_du_match;
+    return finie_ && etat_.TempsEcoule <= duree_du_match;
 }

@@ -7,7 +7,7 @@
 /// The other robots move meanwhile.
 class Rejeu final : public FenetresMuettes {
 public:
-    explicit Rejeu(Etat& etat) : e(etat), moteur_(etat, *this) {}
+    explicit Rejeu(Etat& etat) : etat_(etat), moteur_(etat, *this) {}
 
     /// Plays the present action of robot RobotTele up to and with the tick that finds it done.
     /// @returns false when the match ended first, or an error of any robot ended the run
@@ -19,7 +19,7 @@ public:
     void fin_du_programme() override { interrompu_ = true; }
 
 private:
-    Etat& e;
+    Etat& etat_;
     Moteur moteur_;
     bool finie_ = false;
     bool interrompu_ = false;

@@ -43,21 +43,21 @@ std::string question_de_reprise(const std::string& projet, const Enregistrement&
 } // namespace
 
 AvisPartage Reprise::prendre_projet(bool vierge) {
-    if (!place_.prendre(e.NomProjet, vierge))
+    if (!place_.prendre(etat_.NomProjet, vierge))
         return {};
     return {
-        "Le projet « " + e.NomProjet + " » est déjà ouvert dans un autre programme Tavolmex.",
+        "Le projet « " + etat_.NomProjet + " » est déjà ouvert dans un autre programme Tavolmex.",
         "Les deux écrivent les mêmes fichiers : le dernier qui sauvegarde l'emporte, la version "
         "précédente reste dans Sauvegardes. Chacun garde l'enregistrement qu'il n'a pas encore "
         "sauvegardé dans un fichier de reprise à lui."};
 }
 
 fs::path Reprise::chemin() const {
-    return place_.fichier(e.NomProjet);
+    return place_.fichier(etat_.NomProjet);
 }
 
 std::string Reprise::texte(const Robots& robots) const {
-    return texte_enregistrement(prendre_enregistrement(e, robots));
+    return texte_enregistrement(prendre_enregistrement(etat_, robots));
 }
 
 bool Reprise::contient(const std::string& texte) const {
@@ -69,7 +69,7 @@ bool Reprise::contient(const std::string& texte) const {
 }
 
 void Reprise::ecrire() {
-    en_attente_ |= robots_modifies(e);
+    en_attente_ |= robots_modifies(etat_);
     if (en_attente_.none())
         return;
     const fs::path fichier = chemin();
@@ -77,7 +77,7 @@ void Reprise::ecrire() {
     // A recording that was there before and never came back is not ours to replace.
     std::error_code erreur;
     if (tenu_ != fichier && fs::exists(fichier, erreur))
-        garder_texte(e.NomProjet, lire_octets(fichier));
+        garder_texte(etat_.NomProjet, lire_octets(fichier));
     remplacer_fichier(fichier, texte(en_attente_));
     tenu_ = fichier;
 }
@@ -99,11 +99,11 @@ std::string Reprise::ou_restent_les_refus() const {
 }
 
 BilanSauvegarde Reprise::sauver(Fenetres& f, const Ecrit& ecrit) {
-    const Robots demandes = robots_modifies(e); // SauvRobot forgets the flags
+    const Robots demandes = robots_modifies(etat_); // SauvRobot forgets the flags
     en_attente_ |= demandes;
     if (demandes.any())
         recreer(dossier_);
-    BilanSauvegarde bilan = SauvRobot(e, f, dossier_, ou_restent_les_refus(), ecrit);
+    BilanSauvegarde bilan = SauvRobot(etat_, f, dossier_, ou_restent_les_refus(), ecrit);
     bilan.reprise = chemin();
     garder_les_refus(bilan);
     if (bilan.complete())
@@ -118,7 +118,7 @@ BilanSauvegarde Reprise::sauver(Fenetres& f, const Ecrit& ecrit) {
             bilan.echec_reprise = erreur.what();
     }
     for (int i = 0; i <= robots_max && !bilan.en_surete(); ++i)
-        e.TrajetModifie(i) = en_attente_.test(static_cast<std::size_t>(i));
+        etat_.TrajetModifie(i) = en_attente_.test(static_cast<std::size_t>(i));
     return bilan;
 }
 
@@ -138,7 +138,7 @@ void Reprise::garder_les_refus(BilanSauvegarde& bilan) {
 
 std::vector<EchecEcriture> Reprise::sauver_ailleurs(const BilanSauvegarde& bilan,
                                                     const fs::path& dossier) {
-    std::vector<EchecEcriture> echecs = ecrire_ailleurs(e, bilan, dossier);
+    std::vector<EchecEcriture> echecs = ecrire_ailleurs(etat_, bilan, dossier);
     const fs::path fichier = dossier / chemin().filename();
     try {
         if (bilan.refuses.any())
@@ -148,13 +148,13 @@ std::vector<EchecEcriture> Reprise::sauver_ailleurs(const BilanSauvegarde& bilan
     }
     if (echecs.empty()) {
         en_attente_.reset();
-        e.TrajetModifie.remplir(false);
+        etat_.TrajetModifie.remplir(false);
     }
     return echecs;
 }
 
 void Reprise::garder(const Robots& robots) {
-    garder_texte(e.NomProjet, texte(robots));
+    garder_texte(etat_.NomProjet, texte(robots));
 }
 
 // Whichever program's recovery file it was in: the kept ones are the project's.
@@ -172,7 +172,7 @@ void Reprise::garder_texte(const std::string& projet, const std::string& contenu
 }
 
 bool Reprise::garder_ou_prevenir(Fenetres& f) {
-    const Robots robots = en_attente_ | robots_modifies(e);
+    const Robots robots = en_attente_ | robots_modifies(etat_);
     if (robots.none())
         return false;
     try {
@@ -187,7 +187,7 @@ bool Reprise::garder_ou_prevenir(Fenetres& f) {
 
 void Reprise::abandonner(Fenetres& f) {
     const bool garde = garder_ou_prevenir(f);
-    e.TrajetModifie.remplir(false);
+    etat_.TrajetModifie.remplir(false);
     en_attente_.reset();
     if (garde && tenu_ == chemin())
         supprimer(tenu_);
@@ -196,8 +196,8 @@ void Reprise::abandonner(Fenetres& f) {
 
 std::vector<EnregistrementGarde> Reprise::gardes() const {
     std::vector<EnregistrementGarde> lus;
-    for (const fs::path& fichier :
-         versions_gardees(chemin_de_projet(dossier_, e.NomProjet, nom_garde), dossier_gardes())) {
+    for (const fs::path& fichier : versions_gardees(
+             chemin_de_projet(dossier_, etat_.NomProjet, nom_garde), dossier_gardes())) {
         try {
             int ligne = 0;
             lus.push_back({fichier, lire_enregistrement(en_utf8(lire_octets(fichier)), ligne)});
@@ -209,7 +209,7 @@ std::vector<EnregistrementGarde> Reprise::gardes() const {
 }
 
 void Reprise::restaurer(const Enregistrement& enregistrement) {
-    restaurer_enregistrement(e, enregistrement);
+    restaurer_enregistrement(etat_, enregistrement);
     for (const Enregistrement::Robot& robot : enregistrement.robots)
         en_attente_.set(static_cast<std::size_t>(robot.numero));
     tenu_ = chemin();
@@ -217,7 +217,7 @@ void Reprise::restaurer(const Enregistrement& enregistrement) {
 
 void Reprise::reprendre(Fenetres& f, const Enregistrement& enregistrement) {
     garder_ou_prevenir(f);
-    e.TrajetModifie.remplir(false);
+    etat_.TrajetModifie.remplir(false);
     en_attente_.reset();
     restaurer(enregistrement);
     ecrire_ou_prevenir(f);
@@ -256,7 +256,7 @@ std::optional<Enregistrement> Reprise::lire(Fenetres& f, const fs::path& fichier
 bool Reprise::proposer(Fenetres& f, const std::function<void(const std::string&)>& charger_projet) {
     en_attente_.reset();
     tenu_.clear();
-    auto attente = place_.en_attente(e.NomProjet, charger_projet != nullptr);
+    auto attente = place_.en_attente(etat_.NomProjet, charger_projet != nullptr);
     if (!attente)
         return false;
     const fs::path fichier = attente->fichier;
@@ -272,7 +272,7 @@ bool Reprise::proposer(Fenetres& f, const std::function<void(const std::string&)
             return false;
         }
         place_.adopter(std::move(*attente));
-        if (projet != e.NomProjet)
+        if (projet != etat_.NomProjet)
             charger_projet(projet);
         restaurer(*lu);
         return true;

@@ -30,7 +30,7 @@ struct AvisPartage {
 class Reprise {
 public:
     Reprise(Etat& etat, std::filesystem::path dossier_configuration)
-        : e(etat), dossier_(std::move(dossier_configuration)), place_(dossier_) {}
+        : etat_(etat), dossier_(std::move(dossier_configuration)), place_(dossier_) {}
 
     /// Makes the present project's recovery file this program's own, as long as no other project is
     /// taken in its place.
@@ -91,7 +91,7 @@ private:
     void mettre_de_cote(Fenetres& f, const std::filesystem::path& fichier,
                         const std::string& raison) const;
 
-    Etat& e;
+    Etat& etat_;
     std::filesystem::path dossier_;
     PlaceReprise place_;
     Robots en_attente_;          ///< recorded and not saved, asked about or not

@@ -18,10 +18,10 @@ constexpr int dernier_robot_propose = 9;
 class Ecriture {
 public:
     Ecriture(Etat& etat, fs::path dossier, const Ecrit& ecrit)
-        : e(etat), dossier_(std::move(dossier)), ecrit_(ecrit) {}
+        : etat_(etat), dossier_(std::move(dossier)), ecrit_(ecrit) {}
 
     std::string nom(const char* sorte, int i) const {
-        return nom_de_fichier(e.NomProjet, sorte + std::to_string(i) + ".ini");
+        return nom_de_fichier(etat_.NomProjet, sorte + std::to_string(i) + ".ini");
     }
     fs::path chemin(const std::string& nom) const { return trouver_fichier(dossier_, nom); }
     fs::path chemin_trajet(int i) const { return chemin(nom(" Trajet", i)); }
@@ -57,27 +57,28 @@ public:
     }
 
     void ecrire_trajet(int i) {
-        ecrire(chemin_trajet(i), [&] { return texte_trajet(e, i, nom(" Trajet", i)); });
+        ecrire(chemin_trajet(i), [&] { return texte_trajet(etat_, i, nom(" Trajet", i)); });
     }
     void ecrire_generation() {
-        ecrire(chemin_generation(),
-               [&] { return texte_generation(e, nom(" PourGenerer", dernier_robot_propose + 1)); });
+        ecrire(chemin_generation(), [&] {
+            return texte_generation(etat_, nom(" PourGenerer", dernier_robot_propose + 1));
+        });
     }
 
     // Runs `action` with the table as the files have it; when a coordinate does not allow that,
     // everything stays as it was.
     template <typename Action>
     void sur_la_table_droite(Action action) {
-        const bool tournee = e.TableHorizontale && essayer(dossier_, [&] { vertical(e); });
+        const bool tournee = etat_.TableHorizontale && essayer(dossier_, [&] { vertical(etat_); });
         action();
         if (tournee)
-            essayer(dossier_, [&] { horizontal(e); });
+            essayer(dossier_, [&] { horizontal(etat_); });
     }
 
     std::vector<EchecEcriture> echecs() && { return std::move(echecs_); }
 
 private:
-    Etat& e;
+    Etat& etat_;
     fs::path dossier_;
     const Ecrit& ecrit_;
     std::vector<EchecEcriture> echecs_;

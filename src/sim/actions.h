@@ -68,6 +68,7 @@ struct Action {
     std::string_view genere{};         ///< its line in the generation input file
     std::string_view quart{};          ///< likewise an arc's quarter turn
 
+    /// 0 to 3.
     constexpr int nb_parametres() const {
         return static_cast<int>(
             std::ranges::count_if(parametres, [](Unite unite) { return unite != Unite::aucune; }));

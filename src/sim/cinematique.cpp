@@ -39,83 +39,85 @@ void deplacer(std::span<float> xs, std::span<float> ys, const Deplacement& d) {
 } // namespace
 
 const Direction& Moteur::direction_capteur() {
-    incidence_.viser(e.Incidence);
+    incidence_.viser(etat_.Incidence);
     return incidence_;
 }
 
 void Moteur::terminer(Entier16 i) {
-    e.ActionEnCours(i) = actions::AUCUNE;
+    etat_.ActionEnCours(i) = actions::AUCUNE;
 }
 
 void Moteur::ecrire_Info() {
-    info_.Xm = e.Xm(1);
-    info_.Ym = e.Ym(1);
-    info_.Xextr = e.Xextr(1);
-    info_.Yextr = e.Yextr(1);
+    info_.Xm = etat_.Xm(1);
+    info_.Ym = etat_.Ym(1);
+    info_.Xextr = etat_.Xextr(1);
+    info_.Yextr = etat_.Yextr(1);
     info_.avec_balise = false;
-    f.ecrire_Info(info_);
+    fenetres_.ecrire_Info(info_);
 }
 
 void Moteur::placer_extremites(const Direction& d) {
-    const int n = e.NbRobot;
-    projeter(e.Xextr.premiers(n), e.Xm.premiers(n), e.DistExtr.premiers(n), d.c);
-    projeter(e.Yextr.premiers(n), e.Ym.premiers(n), e.DistExtr.premiers(n), d.s);
+    const int n = etat_.NbRobot;
+    projeter(etat_.Xextr.premiers(n), etat_.Xm.premiers(n), etat_.DistExtr.premiers(n), d.c);
+    projeter(etat_.Yextr.premiers(n), etat_.Ym.premiers(n), etat_.DistExtr.premiers(n), d.s);
 }
 
 void Moteur::Action_Pause(Entier16 duree, Entier16 i) {
-    e.Progression(i) = simple(double{e.Progression(i)} + e.PasTemps);
-    if (e.Progression(i) > static_cast<float>(duree))
+    etat_.Progression(i) = simple(double{etat_.Progression(i)} + etat_.PasTemps);
+    if (etat_.Progression(i) > static_cast<float>(duree))
         terminer(i);
 }
 
 void Moteur::Action_Avance(Entier16 distance, Entier16 i) {
-    const double longueur = double{e.VitesseLin(i)} * e.PasTemps;
+    const double longueur = double{etat_.VitesseLin(i)} * etat_.PasTemps;
     float pas = simple(distance < 1 ? -longueur : longueur);
 
     // Deliberate: every robot's sensor line moves, by the untrimmed step.
     const Direction& capteur = direction_capteur();
-    decaler(e.Xm.premiers(e.NbRobot), pas * capteur.c);
-    decaler(e.Ym.premiers(e.NbRobot), pas * capteur.s);
+    decaler(etat_.Xm.premiers(etat_.NbRobot), pas * capteur.c);
+    decaler(etat_.Ym.premiers(etat_.NbRobot), pas * capteur.s);
     placer_extremites(capteur);
     ecrire_Info();
 
-    e.Progression(i) = simple(double{e.Progression(i)} + pas);
-    if (std::fabs(e.Progression(i)) >= std::fabs(static_cast<float>(distance))) {
+    etat_.Progression(i) = simple(double{etat_.Progression(i)} + pas);
+    if (std::fabs(etat_.Progression(i)) >= std::fabs(static_cast<float>(distance))) {
         terminer(i);
-        pas = simple(distance - double{e.Progression(i)} + pas);
+        pas = simple(distance - double{etat_.Progression(i)} + pas);
     }
     // x := x + pas cos h, y := y + pas sin h (h: heading)
     Direction& cap = caps_(i);
-    cap.viser(e.CapRobot(i));
-    e.XRobot(i) = simple(e.XRobot(i) + pas * cap.c);
-    e.YRobot(i) = simple(e.YRobot(i) + pas * cap.s);
+    cap.viser(etat_.CapRobot(i));
+    etat_.XRobot(i) = simple(etat_.XRobot(i) + pas * cap.c);
+    etat_.YRobot(i) = simple(etat_.YRobot(i) + pas * cap.s);
 }
 
 void Moteur::Action_Tourne(Entier16 angle, Entier16 i) {
     // Deliberate: the two sides compare with different quantities and normalise in one direction
     // only; the sensor's heading lags one tick behind the robot's.
     const bool a_gauche = angle >= 1;
-    const float compare = a_gauche ? e.CapRobot(i) : e.Progression(i);
+    const float compare = a_gauche ? etat_.CapRobot(i) : etat_.Progression(i);
     if (static_cast<float>(angle) == compare)
-        e.Incidence = simple(double{e.Progression(i)} + 1);
+        etat_.Incidence = simple(double{etat_.Progression(i)} + 1);
     else if (a_gauche)
-        e.Incidence = simple(e.CapRobot(i) < 0 ? double{e.CapRobot(i)} + 360 : e.CapRobot(i));
+        etat_.Incidence =
+            simple(etat_.CapRobot(i) < 0 ? double{etat_.CapRobot(i)} + 360 : etat_.CapRobot(i));
     else
-        e.Incidence = simple(e.CapRobot(i) > 360 ? double{e.CapRobot(i)} - 360 : e.CapRobot(i));
-    if (e.Incidence == 360)
-        e.Incidence = 0;
+        etat_.Incidence =
+            simple(etat_.CapRobot(i) > 360 ? double{etat_.CapRobot(i)} - 360 : etat_.CapRobot(i));
+    if (etat_.Incidence == 360)
+        etat_.Incidence = 0;
 
-    const double tour = double{e.VitesseRot(i)} * e.PasTemps;
+    const double tour = double{etat_.VitesseRot(i)} * etat_.PasTemps;
     float pas = simple(a_gauche ? tour : -tour);
     placer_extremites(direction_capteur());
     ecrire_Info();
 
-    e.Progression(i) = simple(double{e.Progression(i)} + pas);
-    if (std::fabs(e.Progression(i)) >= std::fabs(static_cast<float>(angle))) {
+    etat_.Progression(i) = simple(double{etat_.Progression(i)} + pas);
+    if (std::fabs(etat_.Progression(i)) >= std::fabs(static_cast<float>(angle))) {
         terminer(i);
-        pas = simple(angle - double{e.Progression(i)} + pas);
+        pas = simple(angle - double{etat_.Progression(i)} + pas);
     }
-    e.CapRobot(i) = simple(double{e.CapRobot(i)} + pas);
+    etat_.CapRobot(i) = simple(double{etat_.CapRobot(i)} + pas);
 }
 
 void Moteur::Arc::calculer(float nouvelle_vitesse, float nouvel_entraxe, Entier16 pas_temps,
@@ -140,15 +142,15 @@ void Moteur::Arc::calculer(float nouvelle_vitesse, float nouvel_entraxe, Entier1
 
 void Moteur::Action_Virage(Entier16 angle, Entier16 rayon, Entier16 cote, Entier16 i) {
     Arc& arc = arcs_(i);
-    arc.calculer(e.VitesseLin(i), e.Entraxe(i), e.PasTemps, rayon, angle <= 0);
+    arc.calculer(etat_.VitesseLin(i), etat_.Entraxe(i), etat_.PasTemps, rayon, angle <= 0);
     float da = arc.pas;
-    e.Progression(i) = simple(double{e.Progression(i)} + da);
-    if (std::fabs(e.Progression(i)) >= std::fabs(static_cast<float>(angle))) {
+    etat_.Progression(i) = simple(double{etat_.Progression(i)} + da);
+    if (std::fabs(etat_.Progression(i)) >= std::fabs(static_cast<float>(angle))) {
         terminer(i);
-        da = simple(angle - double{e.Progression(i)} + da);
+        da = simple(angle - double{etat_.Progression(i)} + da);
     }
 
-    const double h = e.CapRobot(i);
+    const double h = etat_.CapRobot(i);
     double c1 = 0;
     double s1 = 0;
     double c2 = 0;
@@ -156,8 +158,8 @@ void Moteur::Action_Virage(Entier16 angle, Entier16 rayon, Entier16 cote, Entier
     ::sincos(radians(cote + h), &s1, &c1);
     ::sincos(radians(da + h + cote), &s2, &c2);
     const Deplacement d{rayon * c1, rayon * c2, rayon * s1, rayon * s2};
-    e.XRobot(i) = simple(e.XRobot(i) - d.x1 + d.x2);
-    e.YRobot(i) = simple(e.YRobot(i) - d.y1 + d.y2);
-    e.CapRobot(i) = simple(h + da);
-    deplacer(e.Xm.premiers(e.NbRobot), e.Ym.premiers(e.NbRobot), d);
+    etat_.XRobot(i) = simple(etat_.XRobot(i) - d.x1 + d.x2);
+    etat_.YRobot(i) = simple(etat_.YRobot(i) - d.y1 + d.y2);
+    etat_.CapRobot(i) = simple(h + da);
+    deplacer(etat_.Xm.premiers(etat_.NbRobot), etat_.Ym.premiers(etat_.NbRobot), d);
 }

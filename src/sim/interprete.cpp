@@ -14,7 +14,7 @@ const actions::Action* Moteur::Decodee::action_de(const Nom10& action) {
 bool Moteur::Executer_Actions() {
     int i = 1;
     try {
-        for (; i <= e.NbRobot; ++i)
+        for (; i <= etat_.NbRobot; ++i)
             executer(i);
         return true;
     } catch (const ErreurExecution&) {
@@ -26,11 +26,11 @@ bool Moteur::Executer_Actions() {
 
 void Moteur::executer(Entier16 i) {
     using actions::Genre;
-    const actions::Action* const action = decodees_(i).action_de(e.ActionEnCours(i));
+    const actions::Action* const action = decodees_(i).action_de(etat_.ActionEnCours(i));
     if (action == nullptr)
-        return e.ActionEnCours(i) == actions::AUCUNE ? charger_action_suivante(i)
-                                                     : signaler_action_inconnue(i);
-    const int p = action->sens * e.ParamEnCours(i);
+        return etat_.ActionEnCours(i) == actions::AUCUNE ? charger_action_suivante(i)
+                                                         : signaler_action_inconnue(i);
+    const int p = action->sens * etat_.ParamEnCours(i);
     switch (action->genre) {
     case Genre::fin:
         return;
@@ -41,7 +41,7 @@ void Moteur::executer(Entier16 i) {
     case Genre::rotation:
         return Action_Tourne(p, i);
     case Genre::arc:
-        return Action_Virage(p, e.Param2EnCours(i), action->cote, i);
+        return Action_Virage(p, etat_.Param2EnCours(i), action->cote, i);
     case Genre::balise:
         return Chercher_Balise(action->sens < 0 ? balise_droite : balise_gauche, i);
     case Genre::depart:
@@ -51,28 +51,28 @@ void Moteur::executer(Entier16 i) {
 
 void Moteur::signaler_action_inconnue(Entier16 i) {
     robot_en_cause_ = i;
-    f.message("Erreur : L'action " + std::to_string(e.NumAction(i)) + " " +
-              std::string(e.ActionEnCours(i).vue()) + " du robot " + std::to_string(i) +
-              " est inconnue !");
+    fenetres_.message("Erreur : L'action " + std::to_string(etat_.NumAction(i)) + " " +
+                      std::string(etat_.ActionEnCours(i).vue()) + " du robot " + std::to_string(i) +
+                      " est inconnue !");
     Fin_Jeu();
 }
 
 void Moteur::charger_action_suivante(Entier16 i) {
-    if (i == e.RobotTele) {
+    if (i == etat_.RobotTele) {
         // The console plays one action at a time: this one is over.
-        f.regler_Timer(0);
-        f.Active_Desactive(true);
+        fenetres_.regler_Timer(0);
+        fenetres_.Active_Desactive(true);
     } else {
-        e.NumAction(i) = e.NumAction(i) + 1;
-        if (e.NumAction(i) <= e.TrajNbActions(i)) {
-            e.ActionEnCours(i) = e.TrajAction(i, e.NumAction(i));
-            e.ParamEnCours(i) = e.TrajParam1(i, e.NumAction(i));
-            e.Param2EnCours(i) = e.TrajParam2(i, e.NumAction(i));
+        etat_.NumAction(i) = etat_.NumAction(i) + 1;
+        if (etat_.NumAction(i) <= etat_.TrajNbActions(i)) {
+            etat_.ActionEnCours(i) = etat_.TrajAction(i, etat_.NumAction(i));
+            etat_.ParamEnCours(i) = etat_.TrajParam1(i, etat_.NumAction(i));
+            etat_.Param2EnCours(i) = etat_.TrajParam2(i, etat_.NumAction(i));
             abandons_(i) += predire_carreaux(i) ? 1 : 0;
         } else {
-            e.NumAction(i) = e.TrajNbActions(i);
-            e.ActionEnCours(i) = actions::FIN;
+            etat_.NumAction(i) = etat_.TrajNbActions(i);
+            etat_.ActionEnCours(i) = actions::FIN;
         }
     }
-    e.Progression(i) = 0;
+    etat_.Progression(i) = 0;
 }

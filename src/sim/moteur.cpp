@@ -3,77 +3,77 @@
 #include "sim/actions.h"
 
 void Moteur::Run_Jeu() {
-    f.ecrire_nbre_carreaux("0");
-    e.NbreCarreaux = 0;
-    f.montrer_course(true);
-    if (!e.AffichageLent) {
-        f.Dessine_Table();
-        e.persistant = false;
+    fenetres_.ecrire_nbre_carreaux("0");
+    etat_.NbreCarreaux = 0;
+    fenetres_.montrer_course(true);
+    if (!etat_.AffichageLent) {
+        fenetres_.Dessine_Table();
+        etat_.persistant = false;
     }
-    e.en_course = true;
-    f.montrer_logo(false);
-    e.TempsEcoule = 0;
+    etat_.en_course = true;
+    fenetres_.montrer_logo(false);
+    etat_.TempsEcoule = 0;
     abandons_.remplir(0);
     robot_en_cause_ = 0;
-    for (int i = 1; i <= e.NbRobot; ++i) {
-        e.NumAction(i) = 0;
-        e.ActionEnCours(i) = actions::AUCUNE;
-        e.ParamEnCours(i) = 0;
-        e.Param2EnCours(i) = 0;
-        e.CapRobot(i) = e.CapInit(i);
-        e.XRobot(i) = e.XInit(i);
-        e.YRobot(i) = e.YInit(i);
-        e.Xm(i) = e.XmInit(i);
-        e.Ym(i) = e.YmInit(i);
-        e.Xextr(i) = e.XextrInit(i);
-        e.Yextr(i) = e.YextrInit(i);
-        e.Incidence = 0;
+    for (int i = 1; i <= etat_.NbRobot; ++i) {
+        etat_.NumAction(i) = 0;
+        etat_.ActionEnCours(i) = actions::AUCUNE;
+        etat_.ParamEnCours(i) = 0;
+        etat_.Param2EnCours(i) = 0;
+        etat_.CapRobot(i) = etat_.CapInit(i);
+        etat_.XRobot(i) = etat_.XInit(i);
+        etat_.YRobot(i) = etat_.YInit(i);
+        etat_.Xm(i) = etat_.XmInit(i);
+        etat_.Ym(i) = etat_.YmInit(i);
+        etat_.Xextr(i) = etat_.XextrInit(i);
+        etat_.Yextr(i) = etat_.YextrInit(i);
+        etat_.Incidence = 0;
     }
-    e.ZoneRedessin = {0, e.XMax, 0, e.YMax};
-    f.regler_Timer(e.PasTemps * 10);
+    etat_.ZoneRedessin = {0, etat_.XMax, 0, etat_.YMax};
+    fenetres_.regler_Timer(etat_.PasTemps * 10);
 }
 
 void Moteur::Fin_Jeu() {
-    e.ActionEnCours(1) = actions::FIN;
-    e.ParamEnCours(1) = 0;
-    e.Param2EnCours(1) = 0;
-    e.Progression(1) = 0;
-    f.regler_Timer(0);
-    e.en_course = false;
-    f.montrer_logo(true);
-    if (!e.persistant) {
-        e.persistant = true;
-        e.ZoneRedessin = {0, e.XMax, 0, e.YMax};
-        f.Dessine_Table();
-        f.Dessine_Robot();
+    etat_.ActionEnCours(1) = actions::FIN;
+    etat_.ParamEnCours(1) = 0;
+    etat_.Param2EnCours(1) = 0;
+    etat_.Progression(1) = 0;
+    fenetres_.regler_Timer(0);
+    etat_.en_course = false;
+    fenetres_.montrer_logo(true);
+    if (!etat_.persistant) {
+        etat_.persistant = true;
+        etat_.ZoneRedessin = {0, etat_.XMax, 0, etat_.YMax};
+        fenetres_.Dessine_Table();
+        fenetres_.Dessine_Robot();
     }
-    f.montrer_course(false);
+    fenetres_.montrer_course(false);
 }
 
 bool Moteur::Timer_Timer() {
     try {
-        e.TempsEcoule += e.PasTemps;
+        etat_.TempsEcoule += etat_.PasTemps;
         if (!Executer_Actions())
             return false;
-        f.apres_actions();
-        f.Dessine_Table();
-        f.Dessine_Robot();
-        const Nom10 action_pour_l_unite = e.ActionEnCours(1);
-        if (e.TempsEcoule > duree_du_match) {
+        fenetres_.apres_actions();
+        fenetres_.Dessine_Table();
+        fenetres_.Dessine_Robot();
+        const Nom10 action_pour_l_unite = etat_.ActionEnCours(1);
+        if (etat_.TempsEcoule > duree_du_match) {
             Fin_Jeu();
-            if (e.RobotTele != 0)
-                f.Active_Desactive(true); // the match ended a console action
+            if (etat_.RobotTele != 0)
+                fenetres_.Active_Desactive(true); // the match ended a console action
         }
-        mess_.TempsEcoule = e.TempsEcoule;
-        mess_.NumAction = e.NumAction(1);
-        mess_.TrajNbActions = e.TrajNbActions(1);
-        mess_.ActionEnCours = e.ActionEnCours(1);
+        mess_.TempsEcoule = etat_.TempsEcoule;
+        mess_.NumAction = etat_.NumAction(1);
+        mess_.TrajNbActions = etat_.TrajNbActions(1);
+        mess_.ActionEnCours = etat_.ActionEnCours(1);
         mess_.action_pour_l_unite = action_pour_l_unite;
-        mess_.Progression = e.Progression(1);
-        mess_.ParamEnCours = e.ParamEnCours(1);
-        mess_.Incidence = e.Incidence;
-        mess_.NbreCarreaux = e.NbreCarreaux;
-        f.ecrire_Mess(mess_);
+        mess_.Progression = etat_.Progression(1);
+        mess_.ParamEnCours = etat_.ParamEnCours(1);
+        mess_.Incidence = etat_.Incidence;
+        mess_.NbreCarreaux = etat_.NbreCarreaux;
+        fenetres_.ecrire_Mess(mess_);
         return true;
     } catch (const ErreurExecution&) {
         return erreur_majeure(
@@ -83,12 +83,12 @@ bool Moteur::Timer_Timer() {
 
 // Called from a handler: the exception there is the reason.
 bool Moteur::erreur_majeure(const char* texte) {
-    f.regler_Timer(0); // no further tick while the message box is open
+    fenetres_.regler_Timer(0); // no further tick while the message box is open
     try {
         throw;
     } catch (const ErreurExecution& erreur) {
-        f.message(texte, std::string("Raison : ") + erreur.what());
+        fenetres_.message(texte, std::string("Raison : ") + erreur.what());
     }
-    f.fin_du_programme();
+    fenetres_.fin_du_programme();
     return false;
 }

@@ -11,7 +11,7 @@
 /// Run_Jeu, then Timer_Timer once per tick, then Fin_Jeu. A tick allocates nothing.
 class Moteur {
 public:
-    Moteur(Etat& etat, Fenetres& fenetres) : e(etat), f(fenetres) {}
+    Moteur(Etat& etat, Fenetres& fenetres) : etat_(etat), fenetres_(fenetres) {}
     // Tied to its state: a copy would step the same one.
     Moteur(const Moteur&) = delete;
     Moteur& operator=(const Moteur&) = delete;
@@ -37,11 +37,14 @@ public:
     /// Turns robot i on the spot by one step. @param angle  degrees, right is negative (below 1)
     void Action_Tourne(Entier16 angle, Entier16 i);
     /// Moves robot i along a circle of radius `rayon` (cm) whose centre lies 90 degrees off its
-    /// heading; the outer wheel keeps the linear speed.
+    /// heading; the outer wheel keeps the linear speed: a step turns by v dt / (Entraxe(i) / 2 +
+    /// rayon).
     /// @param angle  degrees, right is negative  @param cote  +90 or -90
     /// @throws DivisionParZero when Entraxe(i) / 2 + rayon is 0
     void Action_Virage(Entier16 angle, Entier16 rayon, Entier16 cote, Entier16 i);
-    /// One tick of the search for the right (Sens = 1) or left beacon.
+    /// One tick of the search for the right (Sens = 1) or left beacon: turns robot i to that side.
+    /// Done when the sensor line points at the beacon: dmin = d + DistExtr(i) to two decimals (dmin
+    /// from its middle point, d from its extremity, cm).
     void Chercher_Balise(std::uint8_t Sens, Entier16 i);
 
     /// Predicts the tiles that the action just loaded crosses: adds them to NbreCarreaux and shows
@@ -81,8 +84,8 @@ private:
     void placer_extremites(const Direction& d);
     bool erreur_majeure(const char* texte);
 
-    Etat& e;
-    Fenetres& f;
+    Etat& etat_;
+    Fenetres& fenetres_;
     Tableau<Decodee, robots_max> decodees_;
     Direction incidence_;
     Tableau<Direction, robots_max> caps_;

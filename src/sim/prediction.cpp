@@ -24,19 +24,19 @@ Point fin_d_arc(const Etat& e, Entier16 i, int s, Point depart) {
 
 bool Moteur::predire_carreaux(Entier16 i) {
     using actions::Genre;
-    const actions::Action* const action = actions::trouver(e.ActionEnCours(i));
+    const actions::Action* const action = actions::trouver(etat_.ActionEnCours(i));
     const Genre genre = action == nullptr ? Genre::fin : action->genre;
     // An angle counts as a distance here, and a backward move is predicted ahead.
     const bool droit = genre == Genre::droit || genre == Genre::rotation;
     if (!droit && genre != Genre::arc)
         return false;
     // Always robot 1's sensor, whichever robot moves.
-    const Point depart{e.Xextr(1), e.Yextr(1)};
+    const Point depart{etat_.Xextr(1), etat_.Yextr(1)};
     const Direction& d = direction_capteur();
-    const double p = e.ParamEnCours(i);
+    const double p = etat_.ParamEnCours(i);
     const Point fin = droit ? Point{simple(depart.x + p * d.c), simple(depart.y + p * d.s)}
-                            : fin_d_arc(e, i, action->cote, depart);
-    const bool menee = predire_marche(e, depart.x, depart.y, fin.x, fin.y, d.c, d.s);
-    f.ecrire_nbre_carreaux(texte_entier(e.NbreCarreaux));
+                            : fin_d_arc(etat_, i, action->cote, depart);
+    const bool menee = predire_marche(etat_, depart.x, depart.y, fin.x, fin.y, d.c, d.s);
+    fenetres_.ecrire_nbre_carreaux(texte_entier(etat_.NbreCarreaux));
     return !menee;
 }

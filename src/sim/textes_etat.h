@@ -32,5 +32,6 @@ struct LigneInfo {
     double dmin = 0; ///< sensor origin to beacon
     double d2 = 0;   ///< d + length of the sensor line
 
+    /// Whole cm: "Xm=12 Ym=40 Xextr=12 Yextr=60", behind it in a search "d=88 dmin=90 d2=108".
     TexteCourt texte() const;
 };
