@@ -73,7 +73,7 @@ Casse casse_de(std::string_view mot) {
 
 std::string mot_en(Casse casse, std::string_view cle) {
     const actions::Action* const action = actions::trouver(cle);
-    const std::string mot(action == nullptr || action->mot.empty() ? cle : action->mot);
+    std::string mot(action == nullptr || action->mot.empty() ? cle : action->mot);
     if (casse == Casse::usuelle)
         return mot;
     return casse == Casse::majuscules ? majuscules(mot) : minuscules(mot);
