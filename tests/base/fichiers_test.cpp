@@ -3,15 +3,13 @@
 #include "base/brouillon.h"
 
 #include "outils/dossier_temporaire.h"
+#include "outils/pannes.h"
 
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <regex>
 #include <vector>
 
@@ -101,15 +99,11 @@ TEST(RemplacerFichier, refuse_un_dossier_un_tube_une_boucle_et_un_dossier_absent
 TEST(RemplacerFichier, une_ecriture_interrompue_laisse_l_ancien_fichier_seul) {
     const DossierTemporaire d;
     d.ecrire("f", "ancien");
-    rlimit avant{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &avant), 0);
-    const auto signal_avant = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit petit{4096, avant.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &petit), 0);
-    const std::string pourquoi =
-        raison([&] { remplacer_fichier(d / "f", std::string(100000, 'x')); });
-    ::setrlimit(RLIMIT_FSIZE, &avant);
-    std::signal(SIGXFSZ, signal_avant);
+    std::string pourquoi;
+    {
+        const DisquePlein plein(4096);
+        pourquoi = raison([&] { remplacer_fichier(d / "f", std::string(100000, 'x')); });
+    }
     EXPECT_EQ(pourquoi, "le fichier est trop grand");
     EXPECT_EQ(d.lire("f"), "ancien");
     EXPECT_EQ(entrees(d.chemin()), 1);

@@ -2,9 +2,7 @@
 
 #include "banc_projet.h"
 
-#include <sys/resource.h>
-
-#include <csignal>
+#include "outils/pannes.h"
 
 namespace fs = std::filesystem;
 using namespace std::string_view_literals;
@@ -101,14 +99,10 @@ TEST_F(Installation, dossier_relatif_au_dossier_courant_fichiers_sous_l_applicat
 
 // Files may not grow past 600 bytes: the shorter ones are written, no other is left half-written.
 TEST_F(Installation, disque_plein_pas_de_fichier_a_moitie_ecrit) {
-    rlimit avant{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &avant), 0);
-    const auto signal_avant = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit petit{600, avant.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &petit), 0);
-    projet.Installe();
-    ::setrlimit(RLIMIT_FSIZE, &avant);
-    std::signal(SIGXFSZ, signal_avant);
+    {
+        const DisquePlein plein(600);
+        projet.Installe();
+    }
     EXPECT_EQ(lire("Tavolmex.ini"), attendu("Tavolmex.ini"));
     EXPECT_FALSE(fs::exists(d / "Configuration/Defaut Trajet1.ini"));
     for (const auto& entree : fs::directory_iterator(d / "Configuration"))

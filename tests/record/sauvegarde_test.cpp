@@ -1,18 +1,13 @@
 #include "banc_console.h"
 
 #include "base/brouillon.h"
+#include "outils/pannes.h"
 #include "record/generation.h"
 #include "sim/orientation.h"
 
 #include <gtest/gtest.h>
 
-#include <sys/ptrace.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <array>
-#include <csignal>
 #include <set>
 
 namespace {
@@ -217,27 +212,6 @@ TEST(Sauver, un_echec_est_dit_et_l_enregistrement_est_garde) {
     EXPECT_NE(b.d.lire("Defaut Reprise.ini").find("Robot,1\r\n"), std::string::npos);
 }
 
-// A full disk: no file may grow beyond some bytes.
-class DisquePlein {
-public:
-    explicit DisquePlein(rlim_t octets) {
-        ::getrlimit(RLIMIT_FSIZE, &avant_);
-        ancien_ = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limite{octets, avant_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limite);
-    }
-    DisquePlein(const DisquePlein&) = delete;
-    DisquePlein& operator=(const DisquePlein&) = delete;
-    ~DisquePlein() {
-        ::setrlimit(RLIMIT_FSIZE, &avant_);
-        std::signal(SIGXFSZ, ancien_);
-    }
-
-private:
-    rlimit avant_{};
-    void (*ancien_)(int) = nullptr;
-};
-
 TEST(Sauver, un_disque_plein_laisse_les_anciens_fichiers_entiers) {
     for (const rlim_t octets : {rlim_t{0}, rlim_t{40}, rlim_t{200}}) {
         BancSauvegarde b;
@@ -312,30 +286,6 @@ TEST(SauvRobot, la_question_dit_ce_qui_suit) {
     EXPECT_EQ(b.f.explications[0], refus);
     EXPECT_EQ(b.f.explications[1],
               refus + "\r\nCette réponse décide aussi du fichier de génération.");
-}
-
-// Runs `action` in a child that is killed at its `arret`-th system call. @returns true when it
-// ended by itself before
-template <typename Action>
-bool tuer_au_pas(int arret, Action action) {
-    const pid_t enfant = ::fork();
-    if (enfant == 0) {
-        ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
-        ::raise(SIGSTOP);
-        action();
-        ::_exit(0);
-    }
-    int etat = 0;
-    ::waitpid(enfant, &etat, 0);
-    for (int pas = 0; WIFSTOPPED(etat) && pas < arret; ++pas) {
-        ::ptrace(PTRACE_SYSCALL, enfant, nullptr, nullptr);
-        ::waitpid(enfant, &etat, 0);
-    }
-    if (!WIFSTOPPED(etat))
-        return true;
-    ::kill(enfant, SIGKILL);
-    ::waitpid(enfant, &etat, 0);
-    return false;
 }
 
 TEST(Sauver, tue_a_tout_instant_chaque_fichier_est_l_ancien_ou_le_nouveau) {
