@@ -201,7 +201,7 @@ void BoucleMinimale::virer(Robot& r, int angle, int cote) {
 }
 
 void BoucleMinimale::chercher(Robot& r, bool a_droite) {
-    constexpr float pas = static_cast<float>(5 * 3.14159 / 180);
+    constexpr auto pas = static_cast<float>(5 * 3.14159 / 180);
     r.progression = 0;
     for (Robot& j : robots_) {
         j.xextr = f32(j.xm + j.dist * std::cos(rad(incidence_)));

@@ -24,7 +24,7 @@ void comparer(benchmark::State& state, Base base, Notre notre) {
     std::vector<double> temps_base;
     std::vector<double> temps_notre;
     bool base_d_abord = true;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         if (base_d_abord)
             temps_base.push_back(duree(base));
         temps_notre.push_back(duree(notre));

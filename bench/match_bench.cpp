@@ -110,7 +110,7 @@ BENCHMARK(recherche_de_balise)->Unit(benchmark::kMicrosecond);
 void marche_la_plus_longue(benchmark::State& state) {
     Banc<> b;
     preparer(b.e);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         b.e.NbreCarreaux = 0;
         calculer_nbre_carreaux(b.e, 0, 15, 32767, 15);
     }

@@ -10,8 +10,6 @@
 
 #include <vector>
 
-using namespace actions;
-
 namespace {
 
 std::vector<std::string_view> mots_de(std::string_view ligne) {
@@ -26,28 +24,28 @@ std::vector<std::string_view> mots_de(std::string_view ligne) {
     return mots;
 }
 
-std::string usage(const Action& action) {
+std::string usage(const actions::Action& action) {
     const char* valeurs = "";
-    if (action.genre == Genre::droit)
+    if (action.genre == actions::Genre::droit)
         valeurs = " DISTANCE (cm)";
-    else if (action.genre == Genre::pause)
+    else if (action.genre == actions::Genre::pause)
         valeurs = " DUREE (centièmes de seconde)";
-    else if (action.genre == Genre::rotation)
+    else if (action.genre == actions::Genre::rotation)
         valeurs = " ANGLE (degrés)";
-    else if (action.genre == Genre::arc)
+    else if (action.genre == actions::Genre::arc)
         valeurs = " ANGLE RAYON (degrés, cm)";
     return std::string(action.legende) + valeurs;
 }
 
 // The action whose name the first words make, in capitals.
-const Action* reconnaitre(const std::vector<std::string_view>& mots, std::size_t& pris) {
+const actions::Action* reconnaitre(const std::vector<std::string_view>& mots, std::size_t& pris) {
     std::string nom = majuscules(mots.front());
     pris = 1;
     if (nom == "BALISE" && mots.size() > 1) {
         nom += " " + majuscules(mots[1]);
         pris = 2;
     }
-    return trouver_legende(nom);
+    return actions::trouver_legende(nom);
 }
 
 Commande commande_de(const Fiche& fiche) {
@@ -94,10 +92,10 @@ std::optional<Commande> lire_commande(std::string_view ligne) {
     if (mots.empty())
         return std::nullopt;
     std::size_t pris = 0;
-    const Action* const action = reconnaitre(mots, pris);
+    const actions::Action* const action = reconnaitre(mots, pris);
     if (action == nullptr) {
         std::string attendues;
-        for (const Action& possible : boutons)
+        for (const actions::Action& possible : actions::boutons)
             attendues.append(attendues.empty() ? "" : ", ").append(possible.legende);
         throw ErreurExecution("« " + abrege(mots.front()) + " » est inconnue, il faut " +
                               attendues);
@@ -119,7 +117,7 @@ std::optional<Commande> lire_commande(std::string_view ligne) {
 
 std::string aide_des_commandes() {
     std::string texte;
-    for (const Action& action : boutons)
+    for (const actions::Action& action : actions::boutons)
         texte += "  " + usage(action) + "\n";
     return texte;
 }

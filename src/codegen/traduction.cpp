@@ -8,17 +8,15 @@
 
 namespace {
 
-using namespace actions;
-
 constexpr std::array<RegleTraduction, 8> regles{{
-    {mots::avance, "Val_Action=", "Action_Avance"},
-    {mots::recule, "Val_Action=", "Action_Recule"},
-    {mots::gauche, "Val_Action=", "Action_Gauche"},
-    {mots::droite, "Val_Action=", "Action_Droite"},
-    {mots::delai, "Delay ", ""},
-    {mots::bd, "", "position_balise"},
-    {mots::bg, "", "position_balise_g"},
-    {mots::carreaux, "NBRE_CARREAUX =", "VERIFIER_NBRE_CARREAUX"},
+    {actions::mots::avance, "Val_Action=", "Action_Avance"},
+    {actions::mots::recule, "Val_Action=", "Action_Recule"},
+    {actions::mots::gauche, "Val_Action=", "Action_Gauche"},
+    {actions::mots::droite, "Val_Action=", "Action_Droite"},
+    {actions::mots::delai, "Delay ", ""},
+    {actions::mots::bd, "", "position_balise"},
+    {actions::mots::bg, "", "position_balise_g"},
+    {actions::mots::carreaux, "NBRE_CARREAUX =", "VERIFIER_NBRE_CARREAUX"},
 }};
 constexpr std::size_t longueur_cle = 6;
 

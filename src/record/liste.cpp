@@ -2,25 +2,23 @@
 
 #include "sim/actions.h"
 
-using namespace actions;
-
 namespace {
 
-std::string valeurs(const Etape& etape, const Action& action) {
-    const auto valeur = [](Entier16 n, Unite unite) {
+std::string valeurs(const Etape& etape, const actions::Action& action) {
+    const auto valeur = [](Entier16 n, actions::Unite unite) {
         switch (unite) {
-        case Unite::aucune:
+        case actions::Unite::aucune:
             break;
-        case Unite::cm:
+        case actions::Unite::cm:
             return " " + std::to_string(n) + " cm";
-        case Unite::degres:
+        case actions::Unite::degres:
             return " " + std::to_string(n) + "°";
-        case Unite::centiemes:
+        case actions::Unite::centiemes:
             return " " + texte_duree(n);
         }
         return std::string();
     };
-    const bool arc = action.genre == Genre::arc;
+    const bool arc = action.genre == actions::Genre::arc;
     return valeur(etape.p1, action.parametres[0]) + (arc ? " rayon" : "") +
            valeur(etape.p2, action.parametres[1]);
 }
@@ -34,7 +32,7 @@ std::string texte_duree(std::int32_t centiemes) {
 }
 
 LigneListe ligne_de_liste(const Etape& etape) {
-    const Action* const action = trouver_legende(etape.nom);
+    const actions::Action* const action = actions::trouver_legende(etape.nom);
     const std::string texte =
         action == nullptr ? etape.nom : std::string(action->legende) + valeurs(etape, *action);
     return {std::to_string(etape.numero),

@@ -100,7 +100,7 @@ TEST(Apercu, un_avertissement_par_virage_et_aucun_pour_ce_qui_est_tape) {
         "AVANCE:0\nDROITE:90\nAVANCE:0\n",
     };
     for (const std::string& virage : virages) {
-        Atelier deux("", "#\nAVANCE:5\n" + virage + virage);
+        Atelier deux("", std::string("#\nAVANCE:5\n").append(virage).append(virage));
         const Apercu apercu = preparer_apercu(deux.demande, true);
         EXPECT_TRUE(contient(apercu.avertissements, "entree.ini, lignes 3 à 5 : le virage"))
             << virage;

@@ -46,7 +46,7 @@ struct Programme {
     bool partage = false;
 };
 
-std::set<std::string> noms(const DossierTemporaire& d) {
+std::set<std::string> fichiers_presents(const DossierTemporaire& d) {
     std::set<std::string> trouves;
     for (const auto& entree : fs::directory_iterator(d.chemin())) {
         if (entree.is_regular_file()) // what was refused is kept in a directory
@@ -76,7 +76,8 @@ TEST(Partage, le_second_programme_le_sait_et_a_sa_propre_reprise) {
     // Both gone: each one's is offered, one start after the other.
     second.reset();
     premier.reset();
-    EXPECT_EQ(noms(d), (std::set<std::string>{"Defaut Reprise.ini", "Defaut Reprise2.ini"}));
+    EXPECT_EQ(fichiers_presents(d),
+              (std::set<std::string>{"Defaut Reprise.ini", "Defaut Reprise2.ini"}));
     Programme suivant(d);
     EXPECT_FALSE(suivant.partage);
     EXPECT_EQ(suivant.repris(), 10);
@@ -115,7 +116,8 @@ TEST(Partage, le_verrou_suit_le_projet_et_celui_d_un_tue_ne_tient_plus) {
     EXPECT_TRUE(fs::exists(d / "Essai Verrou"));
     // Any start clears away what the killed one left.
     EXPECT_FALSE(premier.changer("Autre"));
-    EXPECT_EQ(noms(d), (std::set<std::string>{"Autre Verrou", "Essai Reprise.ini", "Plan Verrou"}));
+    EXPECT_EQ(fichiers_presents(d),
+              (std::set<std::string>{"Autre Verrou", "Essai Reprise.ini", "Plan Verrou"}));
     Programme suivant(d, "Essai");
     EXPECT_FALSE(suivant.partage);
     EXPECT_EQ(suivant.repris(), 40);

@@ -16,8 +16,8 @@ std::string trajet(int robot) {
     return "Configuration/Defaut Trajet" + std::to_string(robot) + ".ini";
 }
 
-Resultat piloter(const DossierTemporaire& d, std::vector<std::string> options,
-                 std::string_view commandes) {
+Resultat piloter_et_sauver(const DossierTemporaire& d, std::vector<std::string> options,
+                           std::string_view commandes) {
     options.insert(options.begin(), {"piloter", "--dossier", d.chemin(), "--sauver", "oui"});
     return lancer_avec_entree(d, std::move(options), commandes);
 }
@@ -68,7 +68,8 @@ TEST(Preparer, apres_piloter_les_memes_octets_que_piloter) {
         depart.insert(depart.end(), {"--position", std::to_string(hasard() % 200) + "," +
                                                        std::to_string(hasard() % 300) + "," +
                                                        std::to_string(hasard() % 720)});
-        const Resultat pilote = piloter(d, depart, actions_au_hasard(hasard, essai % 5 == 0));
+        const Resultat pilote =
+            piloter_et_sauver(d, depart, actions_au_hasard(hasard, essai % 5 == 0));
         const std::string attendu = d.lire(generation);
         ASSERT_FALSE(attendu.empty()) << pilote.erreurs;
         // A match that ended begins the trajectory anew; the generation input keeps it all.
@@ -103,7 +104,7 @@ TEST(Preparer, un_fichier_ecrit_a_la_main_se_pilote_aussi) {
         d.ecrire(trajet(1), fichier);
         const Resultat r = preparer(d, options);
         EXPECT_EQ(r.code, 0) << r.erreurs;
-        EXPECT_EQ(piloter(pilote, options, fichier).code, 0);
+        EXPECT_EQ(piloter_et_sauver(pilote, options, fichier).code, 0);
         EXPECT_EQ(d.lire(generation), pilote.lire(generation));
         EXPECT_NE(d.lire(generation).find("AVANCE:80\r\n"), std::string::npos);
         EXPECT_EQ(d.lire(generation).find("CARREAUX:") != std::string::npos, *damier != 0);
@@ -178,13 +179,13 @@ TEST(Piloter, apres_fin_ou_une_action_certaines_lignes_n_ont_plus_de_place) {
     for (const auto& [commandes, message, ecrit] : cas) {
         const DossierTemporaire d;
         d.ecrire("Configuration/Defaut Table.ini", "U,0,0,210,300\nY,190,30,3\nX,20,250,3\n");
-        const Resultat r = piloter(d, {"--robot", "1"}, commandes);
+        const Resultat r = piloter_et_sauver(d, {"--robot", "1"}, commandes);
         EXPECT_EQ(r.code, 2);
         EXPECT_NE(r.erreurs.find(message), std::string::npos) << r.erreurs;
         EXPECT_NE(d.lire(trajet(1)).find(ecrit), std::string::npos) << d.lire(trajet(1));
     }
     const DossierTemporaire d; // --position comes before the file's
-    const Resultat r = piloter(d, {"--position", "7,8,9"}, "Init,1,2,3\nAvance,5\n");
+    const Resultat r = piloter_et_sauver(d, {"--position", "7,8,9"}, "Init,1,2,3\nAvance,5\n");
     EXPECT_NE(r.erreurs.find("Ligne 1 : --position remplace cette position"), std::string::npos);
     EXPECT_NE(d.lire(trajet(1)).find("Init,7,8,9"), std::string::npos);
 }

@@ -49,7 +49,8 @@ TEST(Contour, est_celui_que_le_dessin_trace) {
     for (const int i : {1, 3}) {
         const Contour c(*e, i);
         ASSERT_EQ(c.nombre(), 8U);
-        for (float cap = -400; cap < 2000; cap += 37.3F) {
+        for (int essai = 0; essai < 65; ++essai) {
+            const float cap = -400 + 37.3F * static_cast<float>(essai);
             const Points p = placer(c, 12.5, -3, cap);
             for (int k = 1; k <= 8; ++k) {
                 const double a = radians(cap) + e->RobotAngle(i, k);

@@ -9,8 +9,9 @@
 
 namespace {
 
-constexpr std::string_view fichier = "# r\r\nV,100,90\r\nA,10,14,10\r\nI,100,60,0\r\nE,10,30,16\r\n"
-                                     "R,0,0,0,34 # gauche\r\nR,0,0,20,0\r\n";
+constexpr std::string_view fichier_robot =
+    "# r\r\nV,100,90\r\nA,10,14,10\r\nI,100,60,0\r\nE,10,30,16\r\n"
+    "R,0,0,0,34 # gauche\r\nR,0,0,20,0\r\n";
 
 /// The robot editor on a file of its own, driven by the mouse.
 class EditeurRobot : public Banc {
@@ -19,7 +20,7 @@ protected:
         demarrer();
         cliquer("dessinAire");
         trouver<QRadioButton>("chx_dessinRobot").setChecked(true);
-        editeur().ouvrir(dossier.ecrire("Configuration/Essai Robot2.ini", fichier));
+        editeur().ouvrir(dossier.ecrire("Configuration/Essai Robot2.ini", fichier_robot));
         vue().resize(500, 500);
         vue().ajuster();
     }
@@ -82,7 +83,7 @@ TEST_F(EditeurRobot, les_outils_tracent_des_segments_et_tout_s_annule) {
     EXPECT_EQ(nombres("R"), "-2 3 12 25");
     for (int i = 0; i < 7; ++i)
         commande("annuler");
-    EXPECT_EQ(doc().ecrire(), fichier); // the very bytes
+    EXPECT_EQ(doc().ecrire(), fichier_robot); // the very bytes
 }
 
 TEST_F(EditeurRobot, reperes_tires_a_la_souris_ou_donnes_en_nombres) {
@@ -114,7 +115,7 @@ TEST_F(EditeurRobot, reperes_tires_a_la_souris_ou_donnes_en_nombres) {
     EXPECT_EQ(nombres("I"), "120 90 169");
     for (int i = 0; i < 8; ++i)
         commande("annuler");
-    EXPECT_EQ(doc().ecrire(), fichier);
+    EXPECT_EQ(doc().ecrire(), fichier_robot);
 }
 
 TEST_F(EditeurRobot, l_apercu_tourne_autour_du_point_de_reference) {

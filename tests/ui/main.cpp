@@ -17,6 +17,12 @@ void dire(QtMsgType, const QMessageLogContext&, const QString& texte) {
 
 } // namespace
 
+// What the system's libraries keep for the whole life of the program. The linker finds the name.
+extern "C" const char* __lsan_default_suppressions();  // NOLINT(bugprone-reserved-identifier)
+extern "C" const char* __lsan_default_suppressions() { // NOLINT(bugprone-reserved-identifier)
+    return "leak:libfontconfig\nleak:libQt6\nleak:libdbus\n";
+}
+
 // The windows live on a screen in memory, unless a platform is asked for.
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);

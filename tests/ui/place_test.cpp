@@ -9,8 +9,8 @@
 
 namespace {
 
-struct Fenetre : QWidget {
-    Fenetre() {
+struct FenetrePlacee : QWidget {
+    FenetrePlacee() {
         setObjectName("Essai");
         resize(300, 200);
         retenir_place(*this);
@@ -19,13 +19,13 @@ struct Fenetre : QWidget {
 
 TEST(Place, la_place_choisie_revient_celle_du_programme_non) {
     {
-        Fenetre f;
+        FenetrePlacee f;
         proposer_place(f, {100, 80});
         f.show();
         EXPECT_EQ(f.pos(), QPoint(100, 80));
     }
     {
-        Fenetre f; // left where the program had put it: the program puts it anew
+        FenetrePlacee f; // left where the program had put it: the program puts it anew
         proposer_place(f, {200, 90});
         f.show();
         EXPECT_EQ(f.pos(), QPoint(200, 90));
@@ -37,7 +37,7 @@ TEST(Place, la_place_choisie_revient_celle_du_programme_non) {
         proposer_place(f, {10, 10}); // nor when it is shown again
         EXPECT_EQ(f.pos(), QPoint(310, 150));
     }
-    Fenetre f;
+    FenetrePlacee f;
     proposer_place(f, {100, 80});
     f.show();
     EXPECT_EQ(f.pos(), QPoint(310, 150));
@@ -61,7 +61,7 @@ TEST(Place, meme_trop_grande_ou_sans_place_retenue_elle_s_ouvre_entiere) {
     QSettings().clear();
     for (const QRect& r : {QRect(ecran.right() - 20, ecran.bottom() - 20, 300, 200),
                            QRect(0, 0, 3 * ecran.width(), 2 * ecran.height())}) {
-        Fenetre f;
+        FenetrePlacee f;
         f.resize(r.size());
         f.move(r.topLeft());
         f.show();
@@ -73,7 +73,7 @@ TEST(Place, meme_trop_grande_ou_sans_place_retenue_elle_s_ouvre_entiere) {
 TEST(Place, des_controles_plus_grands_que_l_ecran_defilent) {
     QSettings().clear();
     const QRect ecran = QGuiApplication::primaryScreen()->availableGeometry();
-    Fenetre f;
+    FenetrePlacee f;
     auto* colonne = new QVBoxLayout(&f);
     for (int i = 0; i < 40; ++i)
         colonne->addWidget(new QPushButton(QString("bouton %1").arg(i)));
@@ -92,11 +92,11 @@ TEST(Place, des_controles_plus_grands_que_l_ecran_defilent) {
 
 TEST(Place, revient_sur_un_ecran_qui_existe) {
     {
-        Fenetre f;
+        FenetrePlacee f;
         f.show();
         f.move(90000, 90000);
     }
-    Fenetre f;
+    FenetrePlacee f;
     f.show();
     EXPECT_TRUE(f.screen()->geometry().intersects(f.frameGeometry()));
 }

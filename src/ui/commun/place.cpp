@@ -18,15 +18,8 @@ namespace {
 
 /// A window manager shifts a window by its frame; only more than that is a move by the user.
 constexpr int ecart_du_cadre = 60;
-/// Least frame of a window: the window manager tells its own only later.
-constexpr QSize cadre_habituel{4, 38};
 /// By then it has told it, and has put the window where it likes.
 constexpr int cadre_connu_ms = 250;
-
-QSize cadre(const QWidget& fenetre) {
-    const QSize connu = fenetre.frameGeometry().size() - fenetre.size();
-    return connu.isNull() ? cadre_habituel : connu;
-}
 
 // Controls that need more room than the screen has can be scrolled.
 void rendre_defilante(QWidget& fenetre) {
@@ -128,6 +121,11 @@ Place* place_de(const QWidget& fenetre) {
 }
 
 } // namespace
+
+QSize cadre(const QWidget& fenetre) {
+    constexpr QSize habituel{4, 38};
+    return (fenetre.frameGeometry().size() - fenetre.size()).expandedTo(habituel);
+}
 
 QRect dans_l_ecran(QRect cadre, const QRect& ecran) {
     cadre.setSize(cadre.size().boundedTo(ecran.size()));

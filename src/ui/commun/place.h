@@ -2,6 +2,7 @@
 
 #include <QPoint>
 #include <QRect>
+#include <QSize>
 
 class QWidget;
 
@@ -10,6 +11,10 @@ class QWidget;
 /// from, it opens whole inside its screen. Call it once the window has its name and its controls,
 /// before it is shown.
 void retenir_place(QWidget& fenetre);
+
+/// What a window manager adds around the window, in logical pixels: at least the usual, for it
+/// tells its own only once the window is shown.
+QSize cadre(const QWidget& fenetre);
 
 /// Where a window (frame, global logical pixels) lies whole inside a screen: smaller when it has to
 /// be, then moved.

@@ -1,11 +1,11 @@
 // How the console looks: names, captions, keys and places of its controls.
 #include "ui/commun/boites.h"
 #include "ui/commun/nombre.h"
+#include "ui/commun/separateur.h"
 #include "ui/commun/touches_annulation.h"
 #include "ui/console/telecommande.h"
 
 #include <QAction>
-#include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -54,12 +54,6 @@ QString dans_le_code(const actions::Action& action) {
                        "croisés à cause du nom des sous-programmes du robot.")
             .arg(texte_qt(actions::trouver(action.miroir)->legende));
     return {};
-}
-
-QFrame* separateur() {
-    auto* trait = new QFrame;
-    trait->setFrameStyle(int(QFrame::HLine) | int(QFrame::Sunken));
-    return trait;
 }
 
 } // namespace

@@ -14,7 +14,7 @@
 #include <cmath>
 
 namespace {
-constexpr double prise = 6; ///< how near the mouse must be, logical pixels
+constexpr double portee = 6; ///< how near the mouse must be, logical pixels
 constexpr QRectF table_vide{0, 0, 200, 320};
 } // namespace
 
@@ -107,7 +107,7 @@ std::optional<std::size_t> VueTable::objet_sous(QPointF cm) const {
     for (std::size_t s = sortes.size(); s-- > 0;)
         for (std::size_t i = d.nombre(); i-- > 0;)
             if (sorte_table(d[i].cle) == &sortes[s] && !verrouille(d[i]) &&
-                formes::touchee(d[i], cm, prise / pixels_par_cm()))
+                formes::touchee(d[i], cm, portee / pixels_par_cm()))
                 return i;
     return std::nullopt;
 }
@@ -117,7 +117,7 @@ std::optional<std::size_t> VueTable::poignee_sous(QPointF pixels) const {
         return std::nullopt;
     const std::vector<QPointF> points = formes::poignees(h_.doc()[h_.selection().front()]);
     for (std::size_t k = 0; k < points.size(); ++k)
-        if ((en_pixels(points[k]) - pixels).manhattanLength() <= prise + 2)
+        if ((en_pixels(points[k]) - pixels).manhattanLength() <= portee + 2)
             return k;
     return std::nullopt;
 }

@@ -1,7 +1,7 @@
 // How the options window looks: names, captions, tool tips and places of its controls.
+#include "ui/commun/separateur.h"
 #include "ui/principale/foption.h"
 
-#include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QStyleOptionButton>
@@ -25,12 +25,6 @@ void ecrire_texte(QWidget& controle, const char* texte) {
         bouton->setText(texte);
     else if (auto* etiquette = qobject_cast<QLabel*>(&controle))
         etiquette->setText(texte);
-}
-
-QFrame* separateur() {
-    auto* trait = new QFrame;
-    trait->setFrameStyle(int(QFrame::HLine) | int(QFrame::Sunken));
-    return trait;
 }
 
 } // namespace

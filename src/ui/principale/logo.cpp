@@ -8,7 +8,7 @@
 namespace {
 
 constexpr int plus_petite_police = 6;
-constexpr int marge = 8; ///< logical pixels around the banner's text
+constexpr int marge_banniere = 8; ///< logical pixels around the banner's text
 constexpr int apres_les_fenetres_ms = 20;
 constexpr int drapeaux = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
 
@@ -53,7 +53,7 @@ void Banniere::placer(const QRect& logo) {
     for (int taille = font().pointSize(); taille > plus_petite_police && !mots_entiers(); --taille)
         setFont(QFont(font().family(), taille - 1));
     const QRect texte = fontMetrics().boundingRect(zone_du_texte(), drapeaux, text().trimmed());
-    resize(logo.width(), haut_du_texte_ + texte.height() + marge);
+    resize(logo.width(), haut_du_texte_ + texte.height() + marge_banniere);
 }
 
 // No line break cuts a word that is wider than the card.
@@ -63,7 +63,7 @@ bool Banniere::mots_entiers() const {
 }
 
 QRect Banniere::zone_du_texte() const {
-    return {marge, haut_du_texte_, width() - 2 * marge, 1 << 14};
+    return {marge_banniere, haut_du_texte_, width() - 2 * marge_banniere, 1 << 14};
 }
 
 void Banniere::paintEvent(QPaintEvent*) {

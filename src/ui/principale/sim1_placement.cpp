@@ -12,8 +12,6 @@ namespace {
 
 /// Largest screen side that the layout is told of: its sizes are 16-bit twips.
 constexpr int ecran_maximal = 2000;
-/// Least frame of a window, in logical pixels: the window manager tells its own only later.
-constexpr QSize cadre_habituel{4, 38};
 /// Side of the logo, of the table's smaller one.
 constexpr double part_du_logo = 0.4;
 
@@ -23,11 +21,6 @@ double twips(int pixels) {
 
 int pixels(double twips) {
     return static_cast<int>(twips / twips_par_pixel);
-}
-
-QSize cadre(const QWidget& fenetre) {
-    const QSize connu = fenetre.frameGeometry().size() - fenetre.size();
-    return connu.expandedTo(cadre_habituel);
 }
 
 double cote_logo(const Etat& e) {
