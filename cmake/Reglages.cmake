@@ -24,18 +24,12 @@ function(reglages cible)
         # The libraries report their coverage too: without it the fuzzer works blindly.
         target_compile_options(${cible} PRIVATE -fsanitize=fuzzer-no-link)
     endif()
-    if(AVEC_LINT)
-        set_target_properties(${cible} PROPERTIES
-            CXX_CLANG_TIDY "${CLANG_TIDY};--quiet;--extra-arg=-Wno-unknown-warning-option")
+    if(EN_UN_BLOC)
+        set_target_properties(${cible} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 0)
+        # What only the joining of files brings about; clang-tidy reads each file by itself.
+        target_compile_options(${cible} PRIVATE -Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
     endif()
 endfunction()
-
-# clang-tidy runs with each compilation, so that only what changed is read again.
-if(AVEC_LINT)
-    find_program(CLANG_TIDY clang-tidy REQUIRED)
-    # moc's output is not ours: it gets a configuration under which nothing can be found.
-    file(WRITE ${CMAKE_BINARY_DIR}/.clang-tidy "Checks: '-*,misc-definitions-in-headers'\n")
-endif()
 
 # bibliotheque(name SOURCES ... DEPENDANCES ...): one static library for one folder of src/.
 function(bibliotheque nom)

@@ -16,7 +16,7 @@ PAQUETS_PROGRAMME=(
 PAQUETS_WAYLAND=(qt6-wayland) # for a session without X at all
 # Tests: second compiler, sanitizers, lint, and a small desktop for the end-to-end test.
 PAQUETS_TESTS=(
-    at-spi2-core clang clang-format clang-tidy dbus gir1.2-atspi-2.0 libclang-rt-14-dev
+    at-spi2-core clang clang-format clang-tidy dbus gir1.2-atspi-2.0 libbenchmark-dev libclang-rt-14-dev
     libgtest-dev openbox procps python3 python3-pyatspi shellcheck xauth xvfb
 )
 
