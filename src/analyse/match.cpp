@@ -21,39 +21,39 @@ std::string_view raison_seule(std::string_view texte) {
 /// Nobody looks: the drawing's arithmetic is done for its errors, messages end the match.
 class FenetresAbsentes final : public FenetresMuettes {
 public:
-    explicit FenetresAbsentes(Etat& etat) : e(etat) {}
+    explicit FenetresAbsentes(Etat& etat) : etat_(etat) {}
 
     void message(std::string_view texte, std::string_view explication) override {
         raison = raison_seule(explication.empty() ? texte : explication);
         arrete = true;
     }
-    void Dessine_Table() override { dessin_.table(e, *this); }
-    void Dessine_Robot() override { dessin_.robots(e, *this); }
+    void Dessine_Table() override { dessin_.table(etat_, *this); }
+    void Dessine_Robot() override { dessin_.robots(etat_, *this); }
     void fin_du_programme() override { arrete = true; }
 
     bool arrete = false;
     std::string raison;
 
 private:
-    Etat& e;
+    Etat& etat_;
     DessinAVide dessin_;
 };
 
 class Joueur {
 public:
-    explicit Joueur(Etat& etat) : e(etat), f_(etat), moteur_(etat, f_) {
-        m_.PasTemps = e.PasTemps;
-        m_.NbRobot = e.NbRobot;
+    explicit Joueur(Etat& etat) : etat_(etat), fenetres_(etat), moteur_(etat, fenetres_) {
+        m_.PasTemps = etat_.PasTemps;
+        m_.NbRobot = etat_.NbRobot;
     }
 
     MatchCalcule jouer() {
         reserver();
-        e.RobotTele = 0;
+        etat_.RobotTele = 0;
         moteur_.Run_Jeu();
         noter_poses();
-        while (!f_.arrete && e.TempsEcoule <= duree_du_match && tick()) {
+        while (!fenetres_.arrete && etat_.TempsEcoule <= duree_du_match && tick()) {
         }
-        if (f_.arrete)
+        if (fenetres_.arrete)
             noter_arret();
         m_.duree = m_.temps(m_.nb_ticks());
         finir_les_actions();
@@ -62,7 +62,8 @@ public:
 
 private:
     void reserver() {
-        const auto ticks = static_cast<std::size_t>(dernier_tick(e.PasTemps) / e.PasTemps) + 1;
+        const auto ticks =
+            static_cast<std::size_t>(dernier_tick(etat_.PasTemps) / etat_.PasTemps) + 1;
         m_.Incidence.reserve(ticks);
         m_.NbreCarreaux.reserve(ticks);
         for (int i = 1; i <= m_.NbRobot; ++i)
@@ -70,12 +71,12 @@ private:
     }
 
     bool tick() {
-        e.TempsEcoule += e.PasTemps;
+        etat_.TempsEcoule += etat_.PasTemps;
         if (!moteur_.Executer_Actions())
             return false;
-        f_.Dessine_Table();
-        f_.Dessine_Robot();
-        if (f_.arrete)
+        fenetres_.Dessine_Table();
+        fenetres_.Dessine_Robot();
+        if (fenetres_.arrete)
             return false;
         noter_poses();
         for (int i = 1; i <= m_.NbRobot; ++i)
@@ -85,14 +86,14 @@ private:
 
     void noter_poses() {
         for (int i = 1; i <= m_.NbRobot; ++i)
-            m_.poses(i).push_back({e.XRobot(i), e.YRobot(i), e.CapRobot(i)});
-        m_.Incidence.push_back(e.Incidence);
-        m_.NbreCarreaux.push_back(e.NbreCarreaux);
+            m_.poses(i).push_back({etat_.XRobot(i), etat_.YRobot(i), etat_.CapRobot(i)});
+        m_.Incidence.push_back(etat_.Incidence);
+        m_.NbreCarreaux.push_back(etat_.NbreCarreaux);
     }
 
     void suivre_action(int i) {
-        const bool en_action = e.ActionEnCours(i) != actions::AUCUNE;
-        if (e.NumAction(i) != chargees_(i))
+        const bool en_action = etat_.ActionEnCours(i) != actions::AUCUNE;
+        if (etat_.NumAction(i) != chargees_(i))
             charger(i);
         else if (!en_action && en_action_(i))
             terminer(i);
@@ -100,26 +101,26 @@ private:
     }
 
     void charger(int i) {
-        chargees_(i) = e.NumAction(i);
-        const Nom10& action = e.TrajAction(i, chargees_(i));
+        chargees_(i) = etat_.NumAction(i);
+        const Nom10& action = etat_.TrajAction(i, chargees_(i));
         if (action == actions::FIN)
             return;
         const PoseTick& pose = m_.poses(i).back();
         const int abandons = moteur_.predictions_abandonnees(i);
         m_.actions(i).push_back(
-            {chargees_(i), action, e.TempsEcoule, 0, pose, pose, abandons != abandons_(i)});
+            {chargees_(i), action, etat_.TempsEcoule, 0, pose, pose, abandons != abandons_(i)});
         abandons_(i) = abandons;
     }
 
     void terminer(int i) {
         ActionJouee& action = m_.actions(i).back();
-        action.fin = e.TempsEcoule;
+        action.fin = etat_.TempsEcoule;
         action.apres = m_.poses(i).back();
     }
 
     void noter_arret() {
         const int robot = moteur_.robot_en_cause();
-        m_.arret = ArretDeMatch{robot, e.NumAction(robot), f_.raison};
+        m_.arret = ArretDeMatch{robot, etat_.NumAction(robot), fenetres_.raison};
     }
 
     void finir_les_actions() {
@@ -129,8 +130,8 @@ private:
         }
     }
 
-    Etat& e;
-    FenetresAbsentes f_;
+    Etat& etat_;
+    FenetresAbsentes fenetres_;
     Moteur moteur_;
     MatchCalcule m_;
     Tableau<Entier16, robots_max> chargees_; ///< number of the action loaded last
