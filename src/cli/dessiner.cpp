@@ -2,13 +2,12 @@
 #include "cli/sortie.h"
 #include "cli/verbes.h"
 #include "draw/robot.h"
+#include "draw/sillages.h"
 #include "draw/svg.h"
 #include "draw/table.h"
 
-#include <array>
 #include <iostream>
 #include <limits>
-#include <vector>
 
 namespace {
 
@@ -19,56 +18,14 @@ struct OptionsDessiner {
     std::string sortie;
 };
 
-// Where each robot's reference point went; standing still adds no point.
 class FenetresDessiner final : public FenetresTerminal {
 public:
     using FenetresTerminal::FenetresTerminal;
 
-    void apres_actions() override {
-        for (int i = 1; i <= e.NbRobot; ++i) {
-            const PointTable p{e.XRobot(i), e.YRobot(i)};
-            if (chemins(i).empty() || chemins(i).back().x != p.x || chemins(i).back().y != p.y)
-                chemins(i).push_back(p);
-            if (e.TempsEcoule % 100 == 0)
-                secondes(i).push_back(p);
-        }
-    }
+    void apres_actions() override { sillages.noter(e); }
 
-    Tableau<std::vector<PointTable>, robots_max> chemins;
-    Tableau<std::vector<PointTable>, robots_max> secondes; ///< one point a second
+    Sillages sillages;
 };
-
-constexpr std::array<Couleur, robots_des_fichiers> couleurs_robots{{{0, 255, 255},
-                                                                    {255, 140, 0},
-                                                                    {255, 105, 180},
-                                                                    {173, 255, 47},
-                                                                    {186, 130, 255},
-                                                                    {255, 215, 0},
-                                                                    {135, 206, 250},
-                                                                    {255, 160, 122},
-                                                                    {64, 224, 208}}};
-
-void tracer_chemins(const Etat& e, const FenetresDessiner& f, SurfaceSvg& svg) {
-    constexpr double rayon_seconde = 0.8; // cm; every tenth one is larger, with a white heart
-    for (int i = 1; i <= e.NbRobot; ++i) {
-        const Couleur couleur = couleurs_robots[static_cast<std::size_t>(i - 1)];
-        svg.epaisseur(4);
-        svg.chemin(f.chemins(i), couleurs::noir);
-        svg.epaisseur(2);
-        svg.chemin(f.chemins(i), couleur);
-        int seconde = 0;
-        for (const PointTable& p : f.secondes(i)) {
-            ++seconde;
-            const std::string bulle =
-                "robot " + std::to_string(i) + ", " + std::to_string(seconde) + " s";
-            const bool dizaine = seconde % 10 == 0;
-            svg.repere(p, dizaine ? 2.5 * rayon_seconde : rayon_seconde, couleurs::noir, bulle);
-            if (dizaine)
-                svg.repere(p, 1.5 * rayon_seconde, couleurs::blanc, bulle);
-        }
-        svg.epaisseur(1);
-    }
-}
 
 std::string peindre(Etat& e, const FenetresDessiner& f, Image image, bool avec_trace) {
     SurfaceSvg svg(image.largeur, image.hauteur);
@@ -76,7 +33,7 @@ std::string peindre(Etat& e, const FenetresDessiner& f, Image image, bool avec_t
     e.ZoneRedessin = {0, e.XMax, 0, e.YMax};
     peindre_table(e, svg, image.Echelle);
     if (avec_trace)
-        tracer_chemins(e, f, svg);
+        f.sillages.peindre(e, svg);
     peindre_robots(e, svg);
     return svg.document(e.NomProjet + ", " + std::to_string(e.TempsEcoule / 100) + " s");
 }

@@ -1,6 +1,7 @@
 #include "draw/robot.h"
 
 #include <cmath>
+#include <vector>
 
 namespace {
 
@@ -20,14 +21,15 @@ void elargir_y(Region& r, double y) {
         r.ymax = arrondir16(y + 1);
 }
 
-} // namespace
-
-PointContour point_contour(const Etat& e, int i, int k, double h) {
+// One end of the outline: point k of robot i at a heading (radians), in table coordinates (cm).
+PointTable point_contour(const Etat& e, int i, int k, double h) {
     double s = 0;
     double c = 0;
     ::sincos(h + e.RobotAngle(i, k), &s, &c);
     return {e.XRobot(i) + e.RobotDist(i, k) * c, e.YRobot(i) + e.RobotDist(i, k) * s};
 }
+
+} // namespace
 
 void peindre_robots(Etat& e, Surface& s) {
     s.couleur_trait(couleurs::cyan);
@@ -36,8 +38,8 @@ void peindre_robots(Etat& e, Surface& s) {
     for (int i = 1; i <= e.NbRobot; ++i) {
         const double h = radians(e.CapRobot(i));
         for (int k = 1; k <= e.NbPoints(i); k += 2) {
-            const PointContour a = point_contour(e, i, k, h);
-            const PointContour b = point_contour(e, i, k + 1, h);
+            const PointTable a = point_contour(e, i, k, h);
+            const PointTable b = point_contour(e, i, k + 1, h);
             elargir_x(e.ZoneRedessin, a.x);
             elargir_x(e.ZoneRedessin, b.x);
             elargir_y(e.ZoneRedessin, a.y);
@@ -58,4 +60,14 @@ bool Dessine_Robot(Etat& e, Surface& s, Fenetres& f) {
         f.fin_du_programme();
         return false;
     }
+}
+
+void peindre_contour(const Contour& contour, double x, double y, float cap, Surface& s) {
+    Direction direction;
+    direction.viser(cap);
+    std::vector<double> xs(contour.nombre());
+    std::vector<double> ys(contour.nombre());
+    contour.placer(x, y, direction, xs, ys);
+    for (std::size_t k = 0; k < xs.size(); k += 2)
+        s.ligne(xs[k], ys[k], xs[k + 1], ys[k + 1], couleurs::cyan);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "draw/surface.h"
+#include "sim/contour.h"
 #include "sim/etat.h"
 #include "sim/fenetres.h"
 
@@ -12,8 +13,6 @@ void peindre_robots(Etat& e, Surface& s);
 /// peindre_robots; an error shows a message and ends the program. @returns false after an error
 bool Dessine_Robot(Etat& e, Surface& s, Fenetres& f);
 
-/// One end of the outline: point k of robot i, in table coordinates (cm).
-struct PointContour {
-    double x, y;
-};
-PointContour point_contour(const Etat& e, int i, int k, double h);
+/// Draws one robot's outline at a pose: no box is kept, nothing is too far away.
+/// @param x, y  reference point (cm)  @param cap  heading (degrees)
+void peindre_contour(const Contour& contour, double x, double y, float cap, Surface& s);

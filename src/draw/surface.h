@@ -3,6 +3,8 @@
 #include "base/nombres.h"
 
 #include <cstdint>
+#include <span>
+#include <string_view>
 
 /// 24-bit colour.
 struct Couleur {
@@ -21,6 +23,11 @@ inline constexpr Couleur cyan{0, 255, 255};
 inline constexpr Couleur cyan_pale{176, 255, 254};
 inline constexpr Couleur orange_clair{255, 192, 128};
 } // namespace couleurs
+
+/// A point in table coordinates (cm).
+struct PointTable {
+    double x, y;
+};
 
 /// A drawing surface in table coordinates (cm, y upwards). One implementation paints in the window,
 /// one writes SVG, one does nothing, tests record the calls.
@@ -45,6 +52,19 @@ public:
     /// radius divided by the horizontal one; angles in radians, anticlockwise.
     virtual void arc(double x, double y, double rayon, Couleur couleur, double debut, double fin,
                      double aspect) = 0;
+
+    /// How much of what is drawn from now on covers what lies beneath, 0..1; 1 at first.
+    virtual void opacite(double part) = 0;
+    /// A path through many points, never filled.
+    virtual void chemin(std::span<const PointTable> points, Couleur couleur) = 0;
+    /// A closed shape full of one colour, without an outline.
+    virtual void polygone(std::span<const PointTable> points, Couleur couleur) = 0;
+    /// A dot. @param rayon  cm  @param bulle  what it says where it is pointed at
+    virtual void repere(PointTable centre, double rayon, Couleur couleur,
+                        std::string_view bulle) = 0;
+    /// A short text about its middle. @param hauteur  of the letters, pixels
+    virtual void texte(PointTable milieu, double hauteur, Couleur couleur,
+                       std::string_view texte) = 0;
 
 protected:
     ~Surface() = default;

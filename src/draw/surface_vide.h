@@ -2,9 +2,12 @@
 
 #include "draw/surface.h"
 
-/// Draws nothing: only the drawing's arithmetic, and its errors, remain.
-class SurfaceVide final : public Surface {
+/// Draws nothing: only the drawing's arithmetic, and its errors, remain. Whoever wants a few calls
+/// overrides those.
+class SurfaceVide : public Surface {
 public:
+    virtual ~SurfaceVide() = default;
+
     void coordonnees(double, double, double, double) override {}
     void couleur_trait(Couleur) override {}
     void couleur_fond(Couleur) override {}
@@ -16,4 +19,9 @@ public:
     void ligne(double, double, double, double, Couleur) override {}
     void cercle(double, double, double, Couleur) override {}
     void arc(double, double, double, Couleur, double, double, double) override {}
+    void opacite(double) override {}
+    void chemin(std::span<const PointTable>, Couleur) override {}
+    void polygone(std::span<const PointTable>, Couleur) override {}
+    void repere(PointTable, double, Couleur, std::string_view) override {}
+    void texte(PointTable, double, Couleur, std::string_view) override {}
 };

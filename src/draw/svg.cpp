@@ -64,12 +64,21 @@ void SurfaceSvg::contour(Couleur couleur, bool rempli) {
     nombre("stroke-width", std::max(epaisseur_, 1));
     if (pointille_)
         corps_ += " stroke-dasharray=\"1 2\"";
+    if (opacite_ < 1)
+        nombre("opacity", opacite_);
     corps_ += " vector-effect=\"non-scaling-stroke\"/>\n";
+}
+
+void SurfaceSvg::plein(Couleur couleur) {
+    corps_ += " fill=\"" + hexadecimal(couleur) + "\" stroke=\"none\"";
+    if (opacite_ < 1)
+        nombre("opacity", opacite_);
 }
 
 void SurfaceSvg::boite_pleine(double x1, double y1, double x2, double y2) {
     rectangle(x1, y1, x2, y2);
-    corps_ += " fill=\"" + hexadecimal(trait_) + "\" stroke=\"none\"/>\n";
+    plein(trait_);
+    corps_ += "/>\n";
 }
 
 void SurfaceSvg::boite(double x1, double y1, double x2, double y2, Couleur couleur) {
@@ -111,12 +120,22 @@ void SurfaceSvg::arc(double x, double y, double rayon, Couleur couleur, double d
     contour(couleur, false);
 }
 
-void SurfaceSvg::chemin(std::span<const PointTable> points, Couleur couleur) {
-    corps_ += "<polyline points=\"";
+void SurfaceSvg::points(std::string_view balise, std::span<const PointTable> points) {
+    corps_.append("<").append(balise).append(" points=\"");
     for (const PointTable& p : points)
         corps_.append(decimal(p.x).vue()).append(",").append(decimal(-p.y).vue()).append(" ");
     corps_ += "\"";
+}
+
+void SurfaceSvg::chemin(std::span<const PointTable> points, Couleur couleur) {
+    this->points("polyline", points);
     contour(couleur, false);
+}
+
+void SurfaceSvg::polygone(std::span<const PointTable> points, Couleur couleur) {
+    this->points("polygon", points);
+    plein(couleur);
+    corps_ += "/>\n";
 }
 
 void SurfaceSvg::repere(PointTable centre, double rayon, Couleur couleur, std::string_view bulle) {
@@ -124,8 +143,18 @@ void SurfaceSvg::repere(PointTable centre, double rayon, Couleur couleur, std::s
     nombre("cx", centre.x);
     nombre("cy", -centre.y);
     nombre("r", rayon);
-    corps_ += " fill=\"" + hexadecimal(couleur) + "\" stroke=\"none\"><title>" + echapper(bulle) +
-              "</title></circle>\n";
+    plein(couleur);
+    corps_ += "><title>" + echapper(bulle) + "</title></circle>\n";
+}
+
+void SurfaceSvg::texte(PointTable milieu, double hauteur, Couleur couleur, std::string_view texte) {
+    corps_ += "<text";
+    nombre("x", milieu.x);
+    nombre("y", -milieu.y);
+    nombre("font-size", hauteur * (droite_ - gauche_) / largeur_); // user units are centimetres
+    corps_ += " text-anchor=\"middle\" dominant-baseline=\"central\" font-family=\"sans-serif\"";
+    plein(couleur);
+    corps_ += ">" + echapper(texte) + "</text>\n";
 }
 
 std::string SurfaceSvg::document(std::string_view titre) const {

@@ -2,14 +2,8 @@
 
 #include "draw/surface.h"
 
-#include <span>
 #include <string>
 #include <string_view>
-
-/// A point in table coordinates (cm).
-struct PointTable {
-    double x, y;
-};
 
 /// Writes the drawing as an SVG picture: user units are centimetres of the table, pens keep their
 /// width in pixels at any size.
@@ -31,10 +25,11 @@ public:
     void arc(double x, double y, double rayon, Couleur couleur, double debut, double fin,
              double aspect) override;
 
-    /// What the table's drawing does not need: a path through many points, and a dot of a given
-    /// radius (cm) with a tool tip.
-    void chemin(std::span<const PointTable> points, Couleur couleur);
-    void repere(PointTable centre, double rayon, Couleur couleur, std::string_view bulle);
+    void opacite(double part) override { opacite_ = part; }
+    void chemin(std::span<const PointTable> points, Couleur couleur) override;
+    void polygone(std::span<const PointTable> points, Couleur couleur) override;
+    void repere(PointTable centre, double rayon, Couleur couleur, std::string_view bulle) override;
+    void texte(PointTable milieu, double hauteur, Couleur couleur, std::string_view texte) override;
 
     /// The whole picture. @param titre  shown by viewers
     std::string document(std::string_view titre) const;
@@ -42,7 +37,9 @@ public:
 private:
     void nombre(std::string_view attribut, double valeur);
     void rectangle(double x1, double y1, double x2, double y2);
+    void points(std::string_view balise, std::span<const PointTable> points);
     void contour(Couleur couleur, bool rempli);
+    void plein(Couleur couleur);
 
     double largeur_, hauteur_;
     double gauche_ = 0, haut_ = 0, droite_ = 0, bas_ = 0;
@@ -50,5 +47,6 @@ private:
     bool plein_ = true;
     bool pointille_ = false;
     int epaisseur_ = 1;
+    double opacite_ = 1;
     std::string corps_;
 };

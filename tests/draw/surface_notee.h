@@ -34,13 +34,32 @@ public:
              double aspect) override {
         noter("arc", {x, y, r, debut, fin, aspect}, nom(c));
     }
+    void opacite(double part) override { noter("opacite", {part}, ""); }
+    void chemin(std::span<const PointTable> points, Couleur c) override {
+        noter("chemin", points, nom(c));
+    }
+    void polygone(std::span<const PointTable> points, Couleur c) override {
+        noter("polygone", points, nom(c));
+    }
+    void repere(PointTable p, double rayon, Couleur c, std::string_view bulle) override {
+        noter("repere", {p.x, p.y, rayon}, nom(c) + " " + std::string(bulle));
+    }
+    void texte(PointTable p, double hauteur, Couleur c, std::string_view texte) override {
+        noter("texte", {p.x, p.y, hauteur}, nom(c) + " " + std::string(texte));
+    }
 
 private:
     static std::string nom(Couleur c) {
         return std::to_string(c.rouge) + "," + std::to_string(c.vert) + "," +
                std::to_string(c.bleu);
     }
-    void noter(std::string appel, std::initializer_list<double> valeurs, const std::string& fin) {
+    void noter(std::string appel, std::span<const PointTable> points, const std::string& fin) {
+        std::vector<double> valeurs;
+        for (const PointTable& p : points)
+            valeurs.insert(valeurs.end(), {p.x, p.y});
+        noter(std::move(appel), valeurs, fin);
+    }
+    void noter(std::string appel, const std::vector<double>& valeurs, const std::string& fin) {
         for (const double v : valeurs)
             appel.append(" ").append(texte_double15(v).vue());
         appels.push_back(fin.empty() ? appel : appel + " " + fin);

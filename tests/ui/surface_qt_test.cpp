@@ -7,6 +7,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <vector>
 
 namespace {
 
@@ -93,12 +94,31 @@ TEST(SurfaceQtTest, chaque_primitive_tombe_a_sa_place_a_toutes_les_echelles) {
              s.arc(2, 1, 1, bleu, 0, 6.28, 0);
          },
          {{90, 24, rouge}, {50, 5, rouge}, {10, 25, couleurs::blanc}, {20, 45, bleu}}},
+        {"a translucent shape lets half of the floor through, a dot covers it again",
+         [](Surface& s) {
+             const std::vector<PointTable> carre{{1, 1}, {6, 1}, {6, 9}, {1, 9}};
+             s.opacite(0.5);
+             s.polygone(carre, rouge);
+             s.opacite(1);
+             s.repere({3, 5}, 1, bleu, "");
+             s.epaisseur(4);
+             s.chemin(carre, rouge);
+         },
+         {{50, 25, {255, 128, 128}}, {30, 25, bleu}, {60, 25, rouge}, {70, 25, couleurs::blanc}}},
+        {"a text is about its middle",
+         [](Surface& s) {
+             s.texte({5, 5}, 40, rouge, "I");
+         },
+         {{50, 25, rouge}, {20, 25, couleurs::blanc}, {80, 25, couleurs::blanc}}},
         {"what is not a number is left out",
          [](Surface& s) {
              const double rien = std::numeric_limits<double>::quiet_NaN();
              s.ligne(rien, 0, 10, 10, rouge);
              s.cercle(5, 5, std::numeric_limits<double>::infinity(), rouge);
              s.arc(5, 5, 1, rouge, 0, 6, rien);
+             s.repere({rien, 5}, 1, rouge, "");
+             s.texte({5, rien}, 20, rouge, "I");
+             s.polygone(std::vector<PointTable>{{0, 0}, {rien, 9}, {9, 9}}, rouge);
          },
          {{50, 25, couleurs::blanc}}}};
     for (const Cas& c : cas)

@@ -108,6 +108,50 @@ void SurfaceQt::arc(double x, double y, double rayon, Couleur couleur, double de
                      seiziemes(fin - debut));
 }
 
+void SurfaceQt::opacite(double part) {
+    peintre_.setOpacity(part);
+}
+
+QPolygonF SurfaceQt::en_pixels(std::span<const PointTable> points) const {
+    QPolygonF resultat;
+    resultat.reserve(static_cast<qsizetype>(points.size()));
+    for (const PointTable& p : points)
+        if (finis({p.x, p.y}))
+            resultat << repere_.point(p.x, p.y);
+    return resultat;
+}
+
+void SurfaceQt::chemin(std::span<const PointTable> points, Couleur couleur) {
+    choisir_trait(couleur);
+    peintre_.drawPolyline(en_pixels(points));
+}
+
+void SurfaceQt::polygone(std::span<const PointTable> points, Couleur couleur) {
+    choisir_plein(couleur);
+    peintre_.drawPolygon(en_pixels(points));
+}
+
+void SurfaceQt::repere(PointTable centre, double rayon, Couleur couleur, std::string_view) {
+    if (!finis({centre.x, centre.y, rayon}))
+        return;
+    choisir_plein(couleur);
+    peintre_.drawEllipse(repere_.point(centre.x, centre.y), repere_.pixels_x(rayon),
+                         repere_.pixels_y(rayon));
+}
+
+void SurfaceQt::texte(PointTable milieu, double hauteur, Couleur couleur, std::string_view texte) {
+    if (!finis({milieu.x, milieu.y, hauteur}))
+        return;
+    choisir_trait(couleur);
+    QFont police = peintre_.font();
+    police.setPixelSize(std::max(1, static_cast<int>(std::lround(hauteur))));
+    peintre_.setFont(police);
+    QRectF cadre(0, 0, 1, 1); // the text overflows it on all sides
+    cadre.moveCenter(repere_.point(milieu.x, milieu.y));
+    peintre_.drawText(cadre, Qt::AlignCenter | Qt::TextDontClip,
+                      QString::fromUtf8(texte.data(), static_cast<qsizetype>(texte.size())));
+}
+
 // Edges on whole device pixels: neighbouring boxes meet without a seam. Never thinner than one.
 QRectF SurfaceQt::sur_les_pixels(QRectF r) const {
     const double gauche = std::round(r.left() * densite_);
@@ -133,6 +177,13 @@ void SurfaceQt::choisir_trait(Couleur couleur) {
                          pointille_ ? Qt::FlatCap : Qt::RoundCap, Qt::MiterJoin));
     trait_du_peintre_ = couleur;
     trait_a_jour_ = true;
+}
+
+void SurfaceQt::choisir_plein(Couleur couleur) {
+    lisser(true);
+    peintre_.setPen(Qt::NoPen);
+    trait_a_jour_ = false;
+    peintre_.setBrush(couleur_qt(couleur));
 }
 
 void SurfaceQt::choisir_fond() {

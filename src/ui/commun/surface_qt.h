@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QPointF>
+#include <QPolygonF>
 #include <QRectF>
 #include <QSizeF>
 
@@ -47,12 +48,20 @@ public:
     void cercle(double x, double y, double rayon, Couleur couleur) override;
     void arc(double x, double y, double rayon, Couleur couleur, double debut, double fin,
              double aspect) override;
+    void opacite(double part) override;
+    void chemin(std::span<const PointTable> points, Couleur couleur) override;
+    void polygone(std::span<const PointTable> points, Couleur couleur) override;
+    /// The tool tip is left out: a painter has none.
+    void repere(PointTable centre, double rayon, Couleur couleur, std::string_view bulle) override;
+    void texte(PointTable milieu, double hauteur, Couleur couleur, std::string_view texte) override;
 
 private:
     QRectF sur_les_pixels(QRectF r) const;
     double au_milieu_du_pixel(double valeur) const;
     void choisir_trait(Couleur couleur);
     void choisir_fond();
+    void choisir_plein(Couleur couleur);
+    QPolygonF en_pixels(std::span<const PointTable> points) const;
     void lisser(bool oui);
 
     QPainter& peintre_;

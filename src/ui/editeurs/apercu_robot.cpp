@@ -45,6 +45,7 @@ void ApercuRobot::montrer(const DocumentRobot& robot) {
     e_->XInit(1) = e_->YInit(1) = e_->CapInit(1) = 0;
     e_->VitesseRot(1) = 0;
     robot.remplir(*e_);
+    contour_ = Contour(*e_, 1);
     if (horloge_.isActive())
         e_->CapRobot(1) = cap;
     update();
@@ -75,11 +76,7 @@ void ApercuRobot::peindre(QPainter& peintre) {
     orienter(surface);
     e_->ZoneRedessin = {-marge_table, e_->XMax + marge_table, -marge_table, e_->YMax + marge_table};
     peindre_table(*e_, surface, arrondir16(std::min(pixels_par_cm() * 15, 32000.0)));
-    try {
-        peindre_robots(*e_, surface);
-    } catch (const ErreurExecution&) { // NOLINT(bugprone-empty-catch)
-        // A robot too far away for the simulator's 16 bits is not in the picture either.
-    }
+    peindre_contour(contour_, e_->XRobot(1), e_->YRobot(1), e_->CapRobot(1), surface);
 }
 
 QPointF ApercuRobot::pointe() const {

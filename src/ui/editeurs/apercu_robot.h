@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/document_robot.h"
+#include "sim/contour.h"
 #include "ui/commun/vue_echelle.h"
 
 #include <QTimer>
@@ -45,6 +46,7 @@ private:
     bool sur_la_pointe(QPointF pixels) const;
 
     std::unique_ptr<Etat> e_;
+    Contour contour_;
     QTimer horloge_;
     QPointF depart_;
     Geste geste_ = Geste::aucun;

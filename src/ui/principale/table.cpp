@@ -1,7 +1,6 @@
 #include "ui/principale/table.h"
 
 #include "draw/robot.h"
-#include "draw/surface_vide.h"
 #include "draw/table.h"
 
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "draw/surface.h"
+#include "draw/surface_vide.h"
 #include "sim/etat.h"
 #include "sim/fenetres.h"
 #include "ui/commun/surface_qt.h"
@@ -12,7 +12,7 @@
 #include <functional>
 
 /// The robots' outlines as they were last drawn, in a list of fixed length.
-class Contours final : public Surface {
+class Contours final : public SurfaceVide {
 public:
     struct Trait {
         double x1, y1, x2, y2;
@@ -28,16 +28,6 @@ public:
         if (nombre_ < capacite)
             traits_[static_cast<std::size_t>(nombre_++)] = {x1, y1, x2, y2, couleur};
     }
-    void coordonnees(double, double, double, double) override {}
-    void couleur_trait(Couleur) override {}
-    void couleur_fond(Couleur) override {}
-    void fond_plein(bool) override {}
-    void trait_pointille(bool) override {}
-    void epaisseur(Entier16) override {}
-    void boite_pleine(double, double, double, double) override {}
-    void boite(double, double, double, double, Couleur) override {}
-    void cercle(double, double, double, Couleur) override {}
-    void arc(double, double, double, Couleur, double, double, double) override {}
 
 private:
     std::array<Trait, capacite> traits_{};
