@@ -1,37 +1,22 @@
 #include "ui/commun/vue_echelle.h"
 
+#include "ui/commun/graduations.h"
 #include "ui/commun/surface_qt.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
-#include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace {
 
-constexpr int regle = 24;            ///< thickness of the rulers, logical pixels
 constexpr double echelle_min = 0.05; ///< logical pixels per cm
 constexpr double echelle_max = 80;
 
-/// The smallest of `pas` times 1, 2, 5, 10, 20... that is at least `pixels` apart.
-double pas_lisible(double pas, double echelle, double pixels) {
-    static constexpr double facteurs[] = {2, 2.5, 2};
-    for (int i = 0; pas * echelle < pixels; ++i)
-        pas *= facteurs[i % 3];
-    return pas;
-}
-
-// The first multiple of a step at or beyond a place.
-int premier_pas(double cm, double pas) {
-    return static_cast<int>(std::ceil(cm / pas));
-}
-
 } // namespace
 
-VueEchelle::VueEchelle(QWidget* parent) : QWidget(parent) {
+VueEchelle::VueEchelle(QWidget* parent) : QWidget(parent), camera_(echelle_min, echelle_max) {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(240, 200);
@@ -43,42 +28,19 @@ void VueEchelle::regler_grille(int pas) {
 }
 
 void VueEchelle::ajuster() {
-    ajuste_ = true;
     cadrer();
     update();
 }
 
 void VueEchelle::cadrer() {
     constexpr double marge = 14;
-    const QRectF tout = etendue();
-    const double l = std::max(20.0, width() - regle - 2 * marge);
-    const double h = std::max(20.0, height() - regle - 2 * marge);
-    echelle_ =
-        std::clamp(std::min(l / std::max(1.0, tout.width()), h / std::max(1.0, tout.height())),
-                   echelle_min, echelle_max);
-    centre_ = tout.center();
+    camera_.poser(QRectF(rect()).adjusted(epaisseur_regle, epaisseur_regle, 0, 0));
+    camera_.ajuster(etendue(), marge);
 }
 
 void VueEchelle::zoomer(double facteur, QPointF autour) {
-    const QPointF fixe = en_cm(autour);
-    echelle_ = std::clamp(echelle_ * facteur, echelle_min, echelle_max);
-    centre_ += fixe - en_cm(autour);
-    ajuste_ = false;
+    camera_.zoomer(facteur, autour);
     update();
-}
-
-QPointF VueEchelle::en_cm(QPointF p) const {
-    return {centre_.x() + (p.x() - (width() + regle) / 2.0) / echelle_,
-            centre_.y() - (p.y() - (height() + regle) / 2.0) / echelle_};
-}
-
-QPointF VueEchelle::en_pixels(QPointF cm) const {
-    return {(width() + regle) / 2.0 + (cm.x() - centre_.x()) * echelle_,
-            (height() + regle) / 2.0 - (cm.y() - centre_.y()) * echelle_};
-}
-
-QRectF VueEchelle::en_pixels(QRectF cm) const {
-    return QRectF(en_pixels(cm.topLeft()), en_pixels(cm.bottomRight())).normalized();
 }
 
 QPointF VueEchelle::aimanter(QPointF cm, Qt::KeyboardModifiers touches) const {
@@ -93,169 +55,89 @@ void VueEchelle::orienter(SurfaceQt& surface) const {
 }
 
 void VueEchelle::paintEvent(QPaintEvent*) {
-    preparer_fonds();
     QPainter peintre(this);
     peintre.fillRect(rect(), palette().color(QPalette::Dark));
     peindre(peintre);
-    peintre.drawPixmap(0, 0, fond_grille_);
+    peintre.drawPixmap(0, 0, fond_grille_.image(*this, {camera_, grille_}, [this](QPainter& p) {
+        peindre_grille(p, camera_, grille_, size());
+    }));
     peintre.setRenderHint(QPainter::Antialiasing);
     peindre_dessus(peintre);
-    const double d = fond_regles_.devicePixelRatio();
-    const QRectF en_haut(0, 0, width(), regle);
-    const QRectF a_gauche(0, 0, regle, height());
+    const QPixmap& regles =
+        fond_regles_.image(*this, camera_, [this](QPainter& p) { peindre_regles(p); });
+    const double d = regles.devicePixelRatio();
+    const QRectF en_haut(0, 0, width(), epaisseur_regle);
+    const QRectF a_gauche(0, 0, epaisseur_regle, height());
     for (const QRectF& r : {en_haut, a_gauche})
-        peintre.drawPixmap(r, fond_regles_, QRectF(r.topLeft() * d, r.size() * d));
+        peintre.drawPixmap(r, regles, QRectF(r.topLeft() * d, r.size() * d));
     peindre_curseur(peintre);
 }
 
-void VueEchelle::preparer_fonds() {
-    const Cadrage voulu{
-        size(), centre_, echelle_, devicePixelRatioF(), grille_, palette().cacheKey()};
-    if (voulu == cadrage_)
-        return;
-    cadrage_ = voulu;
-    const auto refaire = [&](QPixmap& fond, void (VueEchelle::*peindre_le)(QPainter&) const) {
-        fond = QPixmap(size() * voulu.densite);
-        fond.setDevicePixelRatio(voulu.densite);
-        fond.fill(Qt::transparent);
-        QPainter peintre(&fond);
-        (this->*peindre_le)(peintre);
-    };
-    refaire(fond_grille_, &VueEchelle::peindre_grille);
-    refaire(fond_regles_, &VueEchelle::peindre_regles);
-}
-
-void VueEchelle::peindre_grille(QPainter& peintre) const {
-    const double pas = pas_lisible(grille_, echelle_, 7);
-    const QPointF a = en_cm({regle, double(height())});
-    const QPointF b = en_cm({double(width()), regle});
-    peintre.setRenderHint(QPainter::Antialiasing, false);
-    const auto crayon = [&](double valeur) {
-        const bool forte = std::fmod(std::round(std::fabs(valeur / pas)), 10) == 0;
-        peintre.setPen(QPen(QColor(128, 128, 128, forte ? 130 : 60), 0));
-    };
-    for (int i = premier_pas(a.x(), pas); i * pas <= b.x(); ++i) {
-        const double x = i * pas;
-        crayon(x);
-        const double px = en_pixels(QPointF(x, 0)).x();
-        peintre.drawLine(QPointF(px, regle), QPointF(px, height()));
-    }
-    for (int i = premier_pas(a.y(), pas); i * pas <= b.y(); ++i) {
-        const double y = i * pas;
-        crayon(y);
-        const double py = en_pixels(QPointF(0, y)).y();
-        peintre.drawLine(QPointF(regle, py), QPointF(width(), py));
-    }
-}
-
 void VueEchelle::peindre_regles(QPainter& peintre) const {
-    const QPalette& p = palette();
-    peintre.setRenderHint(QPainter::Antialiasing, false);
-    peintre.fillRect(0, 0, width(), regle, p.color(QPalette::Window));
-    peintre.fillRect(0, 0, regle, height(), p.color(QPalette::Window));
-    peintre.setPen(p.color(QPalette::WindowText));
-    QFont police = font();
-    police.setPixelSize(10);
-    peintre.setFont(police);
-    const double pas = pas_lisible(1, echelle_, 48); // between two numbers
-    const double petit = pas / 5;
-    const QPointF a = en_cm({regle, double(height())});
-    const QPointF b = en_cm({double(width()), regle});
-    const auto long_trait = [&](double v) { return std::fabs(std::remainder(v, pas)) < petit / 2; };
-    for (int i = premier_pas(a.x(), petit); i * petit <= b.x(); ++i) {
-        const double x = i * petit;
-        const double px = en_pixels(QPointF(x, 0)).x();
-        peintre.drawLine(QPointF(px, long_trait(x) ? regle - 10 : regle - 4),
-                         QPointF(px, regle - 1));
-        if (long_trait(x))
-            peintre.drawText(QRectF(px - 30, 1, 60, 12), Qt::AlignCenter,
-                             QString::number(std::lround(x)));
-    }
-    for (int i = premier_pas(a.y(), petit); i * petit <= b.y(); ++i) {
-        const double y = i * petit;
-        const double py = en_pixels(QPointF(0, y)).y();
-        peintre.drawLine(QPointF(long_trait(y) ? regle - 10 : regle - 4, py),
-                         QPointF(regle - 1, py));
-        if (!long_trait(y))
-            continue;
-        peintre.save();
-        peintre.translate(7, py);
-        peintre.rotate(-90);
-        peintre.drawText(QRectF(-30, -6, 60, 12), Qt::AlignCenter, QString::number(std::lround(y)));
-        peintre.restore();
-    }
-    peintre.fillRect(0, 0, regle, regle, p.color(QPalette::Window));
-    peintre.drawText(QRect(0, 0, regle, regle), Qt::AlignCenter, "cm");
+    peindre_regle(peintre, camera_.x(), Qt::Horizontal, width(), palette(), font());
+    peindre_regle(peintre, camera_.y(), Qt::Vertical, height(), palette(), font());
+    const QRect coin(0, 0, epaisseur_regle, epaisseur_regle);
+    peintre.fillRect(coin, palette().color(QPalette::Window));
+    peintre.drawText(coin, Qt::AlignCenter, "cm");
 }
 
 void VueEchelle::peindre_curseur(QPainter& peintre) const {
+    const QPointF ici = gestes_.ici();
     peintre.setRenderHint(QPainter::Antialiasing, false);
     peintre.setPen(QPen(palette().color(QPalette::Highlight), 0));
-    peintre.drawLine(QPointF(dernier_.x(), 0), QPointF(dernier_.x(), regle));
-    peintre.drawLine(QPointF(0, dernier_.y()), QPointF(regle, dernier_.y()));
+    peintre.drawLine(QPointF(ici.x(), 0), QPointF(ici.x(), epaisseur_regle));
+    peintre.drawLine(QPointF(0, ici.y()), QPointF(epaisseur_regle, ici.y()));
 }
 
 void VueEchelle::resizeEvent(QResizeEvent*) {
-    if (ajuste_)
+    camera_.poser(QRectF(rect()).adjusted(epaisseur_regle, epaisseur_regle, 0, 0));
+    if (camera_.ajustee())
         cadrer();
 }
 
-// A gesture belongs to the button that began it; another one gives it up.
-void VueEchelle::mousePressEvent(QMouseEvent* evenement) {
-    if (bouton_ != Qt::NoButton)
-        return couper_le_geste();
-    dernier_ = evenement->position();
-    const Qt::MouseButton bouton = evenement->button();
-    panoramique_ = bouton == Qt::MiddleButton || (espace_ && bouton == Qt::LeftButton);
-    if (!panoramique_ && bouton != Qt::LeftButton)
+void VueEchelle::suivre(Gestes::Suite suite, Qt::KeyboardModifiers touches) {
+    using Suite = Gestes::Suite;
+    switch (suite) {
+    case Suite::rien:
         return;
-    bouton_ = bouton;
-    if (panoramique_)
-        setCursor(Qt::ClosedHandCursor);
-    else
-        presser(dernier_, evenement->modifiers());
+    case Suite::survoler:
+        return survoler(gestes_.ici());
+    case Suite::presser:
+        return presser(gestes_.ici(), touches);
+    case Suite::glisser:
+        return glisser(gestes_.ici(), touches);
+    case Suite::relacher:
+        return relacher(gestes_.ici(), touches);
+    case Suite::abandonner:
+        unsetCursor();
+        return abandonner();
+    case Suite::prendre_la_vue:
+        return setCursor(Qt::ClosedHandCursor);
+    case Suite::deplacer_la_vue:
+        return camera_.glisser(gestes_.ecart());
+    case Suite::lacher_la_vue:
+        return unsetCursor();
+    }
+}
+
+void VueEchelle::mousePressEvent(QMouseEvent* evenement) {
+    suivre(gestes_.presser(evenement->button(), evenement->position()), evenement->modifiers());
 }
 
 void VueEchelle::mouseMoveEvent(QMouseEvent* evenement) {
-    const QPointF ici = evenement->position();
-    if (bouton_ != Qt::NoButton && !evenement->buttons().testFlag(bouton_))
-        couper_le_geste(); // released where nobody told us
-    if (bouton_ == Qt::NoButton) {
-        survoler(ici);
-    } else if (panoramique_) {
-        const QPointF ecart = (ici - dernier_) / echelle_;
-        centre_ += QPointF(-ecart.x(), ecart.y());
-        ajuste_ = false;
-    } else {
-        glisser(ici, evenement->modifiers());
-    }
-    dernier_ = ici;
+    suivre(gestes_.bouger(evenement->buttons(), evenement->position()), evenement->modifiers());
     if (au_deplacement)
-        au_deplacement(en_cm(ici));
+        au_deplacement(en_cm(evenement->position()));
     update();
 }
 
 void VueEchelle::mouseReleaseEvent(QMouseEvent* evenement) {
-    if (bouton_ == Qt::NoButton || evenement->button() != bouton_)
-        return;
-    bouton_ = Qt::NoButton;
-    if (panoramique_)
-        unsetCursor();
-    else
-        relacher(evenement->position(), evenement->modifiers());
-}
-
-void VueEchelle::couper_le_geste() {
-    const bool du_dessin = std::exchange(bouton_, Qt::NoButton) != Qt::NoButton && !panoramique_;
-    unsetCursor();
-    if (du_dessin)
-        abandonner();
+    suivre(gestes_.relacher(evenement->button(), evenement->position()), evenement->modifiers());
 }
 
 void VueEchelle::focusOutEvent(QFocusEvent* evenement) {
-    espace_ = false;
-    if (bouton_ != Qt::NoButton)
-        couper_le_geste();
+    gestes_.tenir_espace(false);
+    suivre(gestes_.couper());
     QWidget::focusOutEvent(evenement);
 }
 
@@ -266,10 +148,10 @@ void VueEchelle::wheelEvent(QWheelEvent* evenement) {
 
 void VueEchelle::keyPressEvent(QKeyEvent* evenement) {
     if (evenement->key() == Qt::Key_Space) {
-        espace_ = true;
+        gestes_.tenir_espace(true);
     } else if (evenement->key() == Qt::Key_Escape) {
-        couper_le_geste();
-        abandonner();
+        suivre(gestes_.couper());
+        abandonner(); // the tool in hand too
     } else {
         QWidget::keyPressEvent(evenement);
     }
@@ -277,7 +159,7 @@ void VueEchelle::keyPressEvent(QKeyEvent* evenement) {
 
 void VueEchelle::keyReleaseEvent(QKeyEvent* evenement) {
     if (evenement->key() == Qt::Key_Space && !evenement->isAutoRepeat())
-        espace_ = false;
+        gestes_.tenir_espace(false);
     else
         QWidget::keyReleaseEvent(evenement);
 }

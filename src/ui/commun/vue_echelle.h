@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QPixmap>
-#include <QPointF>
-#include <QRectF>
+#include "ui/commun/camera.h"
+#include "ui/commun/couche.h"
+#include "ui/commun/gestes.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -25,10 +26,10 @@ public:
     void ajuster();
     void zoomer(double facteur, QPointF autour);
 
-    QPointF en_cm(QPointF pixels) const;
-    QPointF en_pixels(QPointF cm) const;
-    QRectF en_pixels(QRectF cm) const;
-    double pixels_par_cm() const { return echelle_; }
+    QPointF en_cm(QPointF pixels) const { return camera_.en_cm(pixels); }
+    QPointF en_pixels(QPointF cm) const { return camera_.en_pixels(cm); }
+    QRectF en_pixels(QRectF cm) const { return camera_.en_pixels(cm); }
+    double pixels_par_cm() const { return camera_.echelle(); }
     /// The nearest point of the grid; without it the nearest whole centimetre.
     QPointF aimanter(QPointF cm, Qt::KeyboardModifiers touches) const;
     /// Alt or Ctrl held suspends the grid: many window managers keep Alt and the mouse to
@@ -48,6 +49,8 @@ protected:
     virtual void survoler(QPointF) {}
     virtual void abandonner() = 0; ///< Escape, or a gesture that was cut short
 
+    /// Where the present gesture began and has come to.
+    const Gestes& gestes() const { return gestes_; }
     /// Sets a surface to this view's coordinates.
     void orienter(SurfaceQt& surface) const;
 
@@ -62,32 +65,22 @@ protected:
     void focusOutEvent(QFocusEvent* evenement) override;
 
 private:
-    /// What the grid and the rulers depend on.
-    struct Cadrage {
-        QSize taille;
-        QPointF centre;
-        double echelle = 0, densite = 0;
-        int grille = 0;
-        qint64 couleurs = 0;
-        bool operator==(const Cadrage&) const = default;
+    /// What the grid's lines depend on.
+    struct Quadrillage {
+        Camera camera;
+        int pas;
+        bool operator==(const Quadrillage&) const = default;
     };
 
-    void preparer_fonds();
-    void peindre_grille(QPainter& peintre) const;
+    void suivre(Gestes::Suite suite, Qt::KeyboardModifiers touches = {});
     void peindre_regles(QPainter& peintre) const;
     void peindre_curseur(QPainter& peintre) const;
     void cadrer();
-    void couper_le_geste();
 
-    QPointF centre_{100, 160}; ///< cm, in the middle of the view
-    double echelle_ = 2;       ///< logical pixels per cm
-    int grille_ = 5;
-    bool ajuste_ = true;
-    bool espace_ = false;                   ///< the space bar is held
-    Qt::MouseButton bouton_ = Qt::NoButton; ///< that holds the present gesture
-    bool panoramique_ = false;              ///< it moves the view
-    QPointF dernier_;                       ///< last position of the cursor (pixels)
-    // Painted once a framing: their many translucent lines cost more than the whole drawing.
-    Cadrage cadrage_;
-    QPixmap fond_grille_, fond_regles_;
+    Camera camera_;
+    Gestes gestes_;
+    int grille_ = 5; ///< cm
+    // Their many translucent lines cost more than the whole drawing.
+    Couche<Quadrillage> fond_grille_;
+    Couche<Camera> fond_regles_;
 };

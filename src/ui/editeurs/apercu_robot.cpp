@@ -104,7 +104,6 @@ void ApercuRobot::peindre_dessus(QPainter& peintre) {
 }
 
 void ApercuRobot::presser(QPointF pixels, Qt::KeyboardModifiers) {
-    depart_ = en_cm(pixels);
     geste_ = sur_la_pointe(pixels) ? Geste::orienter : Geste::deplacer;
     change_ = false;
 }
@@ -117,7 +116,8 @@ void ApercuRobot::glisser(QPointF pixels, Qt::KeyboardModifiers touches) {
         const double cap = std::round(std::atan2(bras.y(), bras.x()) * 180 / Pi / pas) * pas;
         e_->CapRobot(1) = static_cast<float>(cap == -180 ? 180 : cap);
     } else {
-        const QPointF pose = aimanter(QPointF(e_->XInit(1), e_->YInit(1)) + ici - depart_, touches);
+        const QPointF pose =
+            aimanter(QPointF(e_->XInit(1), e_->YInit(1)) + ici - en_cm(gestes().depart()), touches);
         e_->XRobot(1) = static_cast<float>(std::clamp(pose.x(), -32768.0, 32767.0));
         e_->YRobot(1) = static_cast<float>(std::clamp(pose.y(), -32768.0, 32767.0));
     }

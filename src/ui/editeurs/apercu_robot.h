@@ -48,7 +48,6 @@ private:
     std::unique_ptr<Etat> e_;
     Contour contour_;
     QTimer horloge_;
-    QPointF depart_;
     Geste geste_ = Geste::aucun;
     bool change_ = false; ///< the present drag has moved something
 };

@@ -86,7 +86,7 @@ void VueRobot::peindre_dessus(QPainter& peintre) {
     if (ebauche_)
         peintre.drawLine(en_pixels(bout(*ebauche_, 0)), en_pixels(bout(*ebauche_, 1)));
     if (geste_ == Geste::cadre)
-        peintre.drawRect(QRectF(depart_, ici_).normalized());
+        peintre.drawRect(QRectF(gestes().depart(), gestes().ici()).normalized());
 }
 
 void VueRobot::peindre_reperes(QPainter& peintre) const {
@@ -160,7 +160,6 @@ VueRobot::Geste VueRobot::geste_sous(QPointF pixels) {
 }
 
 void VueRobot::presser(QPointF pixels, Qt::KeyboardModifiers touches) {
-    depart_ = ici_ = pixels;
     const bool en_plus = (touches & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
     Geste geste = Geste::placer;
     if (outils_.en_main().forme == Outil::Forme::selection) {
@@ -189,15 +188,15 @@ void VueRobot::choisir_sous(bool en_plus) {
 }
 
 void VueRobot::glisser(QPointF pixels, Qt::KeyboardModifiers touches) {
-    ici_ = pixels;
-    if (!provisoire_ && !ebauche_ && (pixels - depart_).manhattanLength() <= 3)
+    if (!provisoire_ && !ebauche_ && !gestes().loin())
         return;
     const QPointF cm = aimanter(en_cm(pixels), touches);
     const float x = en_16_bits(cm.x());
     const float y = en_16_bits(cm.y());
     DocumentRobot d = h_.doc();
     if (geste_ == Geste::placer) {
-        ebauche_ = Foutil::tracer(outils_.en_main(), aimanter(en_cm(depart_), touches), cm);
+        ebauche_ =
+            Foutil::tracer(outils_.en_main(), aimanter(en_cm(gestes().depart()), touches), cm);
     } else if (geste_ == Geste::deplacer) {
         deplacer(en_cm(pixels), touches);
     } else if (geste_ == Geste::bout) {
@@ -226,7 +225,7 @@ void VueRobot::glisser(QPointF pixels, Qt::KeyboardModifiers touches) {
 void VueRobot::deplacer(QPointF cm, Qt::KeyboardModifiers touches) {
     DocumentRobot d = h_.doc();
     const QPointF repere = bout(d[pris_], 0);
-    const QPointF ecart = aimanter(repere + cm - en_cm(depart_), touches) - repere;
+    const QPointF ecart = aimanter(repere + cm - en_cm(gestes().depart()), touches) - repere;
     for (const std::size_t i : h_.selection()) {
         Fiche f = d[i];
         for (std::size_t k = 0; k < 4; ++k)
@@ -259,12 +258,12 @@ void VueRobot::relacher(QPointF pixels, Qt::KeyboardModifiers touches) {
     if (geste == Geste::placer) {
         const auto ebauche = std::exchange(ebauche_, std::nullopt);
         const QPointF fin = aimanter(en_cm(pixels), touches);
-        const bool trace = ebauche && fin != aimanter(en_cm(depart_), touches);
+        const bool trace = ebauche && fin != aimanter(en_cm(gestes().depart()), touches);
         ajouter(trace ? *ebauche : outils_.creer(outil, fin));
         if (!touches.testFlag(Qt::ShiftModifier))
             outils_.reposer();
     } else if (geste == Geste::cadre) {
-        const QRectF r = QRectF(en_cm(depart_), en_cm(pixels)).normalized();
+        const QRectF r = QRectF(en_cm(gestes().depart()), en_cm(pixels)).normalized();
         Selection s = en_plus ? h_.selection() : Selection{};
         for (std::size_t i = 0; i < h_.doc().nombre(); ++i)
             if (h_.doc()[i].cle == "R" && r.contains(bout(h_.doc()[i], 0)) &&

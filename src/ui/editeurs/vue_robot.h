@@ -51,7 +51,6 @@ private:
     Historique<DocumentRobot>& h_;
     Foutil& outils_;
     Geste geste_ = Geste::aucun;
-    QPointF depart_, ici_; ///< pixels
     std::size_t pris_ = 0; ///< the segment under the mouse when it was pressed
     std::size_t bout_ = 0; ///< its end that is pulled, 0 or 1
     std::optional<DocumentRobot> provisoire_;

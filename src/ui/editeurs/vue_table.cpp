@@ -80,7 +80,7 @@ void VueTable::peindre_dessus(QPainter& peintre) {
             peintre.drawRect(en_pixels(formes::cadre(*ebauche_)));
     }
     if (geste_ == Geste::cadre)
-        peintre.drawRect(QRectF(depart_, ici_).normalized());
+        peintre.drawRect(QRectF(gestes().depart(), gestes().ici()).normalized());
 }
 
 // Where the main window shows it, on a light ground: it stays readable on any floor.
@@ -133,7 +133,6 @@ bool VueTable::choisi(std::size_t i) const {
 
 // Only what is chosen is moved: a rectangle may begin anywhere, on a floor of one zone too.
 void VueTable::presser(QPointF pixels, Qt::KeyboardModifiers) {
-    depart_ = ici_ = pixels;
     sous_ = objet_sous(en_cm(pixels));
     if (outils_.en_main().forme != Outil::Forme::selection) {
         geste_ = Geste::placer;
@@ -160,12 +159,11 @@ void VueTable::choisir_un(std::size_t i, bool en_plus) {
 }
 
 void VueTable::glisser(QPointF pixels, Qt::KeyboardModifiers touches) {
-    ici_ = pixels;
     const Outil& outil = outils_.en_main();
-    if (!provisoire_ && !ebauche_ && !loin(pixels))
+    if (!provisoire_ && !ebauche_ && !gestes().loin())
         return;
     if (geste_ == Geste::placer && outil.forme != Outil::Forme::legende) {
-        ebauche_ = Foutil::tracer(outil, aimanter(en_cm(depart_), touches),
+        ebauche_ = Foutil::tracer(outil, aimanter(en_cm(gestes().depart()), touches),
                                   aimanter(en_cm(pixels), touches));
     } else if (geste_ == Geste::tirer) {
         changer_forme(aimanter(en_cm(pixels), touches));
@@ -194,7 +192,7 @@ void VueTable::deplacer(QPointF cm, Qt::KeyboardModifiers touches) {
     for (const std::size_t i : h_.selection())
         objets.push_back(d[i]);
     const QPointF ecart = formes::deplacement_permis(
-        objets, aimanter(repere + cm - en_cm(depart_), touches) - repere);
+        objets, aimanter(repere + cm - en_cm(gestes().depart()), touches) - repere);
     provisoire_ = d;
     for (const std::size_t i : h_.selection())
         provisoire_->remplacer(i, formes::deplacee(d[i], ecart.x(), ecart.y()));
@@ -207,7 +205,8 @@ void VueTable::relacher(QPointF pixels, Qt::KeyboardModifiers touches) {
     if (geste == Geste::placer) {
         const auto ebauche = std::exchange(ebauche_, std::nullopt);
         const QPointF fin = aimanter(en_cm(pixels), touches);
-        if (ebauche && fin != aimanter(en_cm(depart_), touches)) // else a click that slipped
+        if (ebauche &&
+            fin != aimanter(en_cm(gestes().depart()), touches)) // else a click that slipped
             ajouter(*ebauche, QString("Ajouter : ") + formes::nom(outil.cle));
         else
             poser(outil, fin);
@@ -221,9 +220,9 @@ void VueTable::relacher(QPointF pixels, Qt::KeyboardModifiers touches) {
         provisoire_.reset();
         h_.changer(geste == Geste::tirer ? "Redimensionner" : "Déplacer", std::move(d),
                    h_.selection());
-    } else if (geste == Geste::cadre && loin(pixels)) {
-        choisir_dans(QRectF(en_cm(depart_), en_cm(pixels)).normalized(), en_plus);
-    } else if (geste != Geste::tirer && !loin(pixels)) { // a click
+    } else if (geste == Geste::cadre && gestes().loin()) {
+        choisir_dans(QRectF(en_cm(gestes().depart()), en_cm(pixels)).normalized(), en_plus);
+    } else if (geste != Geste::tirer && !gestes().loin()) { // a click
         if (sous_)
             choisir_un(*sous_, en_plus);
         else if (!en_plus)

@@ -50,14 +50,12 @@ private:
     void ajouter(Fiche e, const QString& nom);
     void changer_forme(QPointF cm);
     void choisir_dans(const QRectF& cm, bool en_plus);
-    bool loin(QPointF pixels) const { return (pixels - depart_).manhattanLength() > 3; }
 
     Historique<DocumentTable>& h_;
     Foutil& outils_;
     std::unique_ptr<Etat> e_; ///< what the drawing paints
     bool zones_verrouillees_ = false;
     Geste geste_ = Geste::aucun;
-    QPointF depart_, ici_;            ///< pixels
     std::optional<std::size_t> sous_; ///< the record under the mouse when it was pressed
     std::size_t pris_ = 0;            ///< the one that a move or a pull is measured on
     std::size_t poignee_ = 0;
