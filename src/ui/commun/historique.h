@@ -5,16 +5,34 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 /// Records chosen in an editor, by their index in the document, in increasing order.
 using Selection = std::vector<std::size_t>;
 
+/// A document under edit as its window sees it, whatever it describes.
+class DocumentOuvert {
+public:
+    virtual void commencer() = 0; ///< a new one
+    /// @returns lines not understood
+    virtual std::vector<int> lire(const std::string& octets) = 0;
+    virtual std::string octets() const = 0;          ///< @throws ErreurExecution
+    virtual std::string figer() const = 0;           ///< as a recovery file keeps it
+    virtual void degeler(std::string_view fige) = 0; ///< @throws ErreurExecution
+
+    QUndoStack pile;
+
+protected:
+    ~DocumentOuvert() = default;
+};
+
 /// A document under edit with its named steps, as many as there are. A step keeps the whole
 /// document before and after it: undoing gives back the very bytes.
 template <typename Doc>
-class Historique {
+class Historique final : public DocumentOuvert {
 public:
     /// @param au_changement  called after every change of the document or the selection
     explicit Historique(std::function<void()> au_changement)
@@ -41,7 +59,14 @@ public:
         au_changement_();
     }
 
-    QUndoStack pile;
+    void commencer() override { repartir(Doc::nouveau()); }
+    std::vector<int> lire(const std::string& octets) override {
+        repartir(Doc::depuis(octets));
+        return doc().incomprises();
+    }
+    std::string octets() const override { return doc().ecrire(); }
+    std::string figer() const override { return doc().figer(); }
+    void degeler(std::string_view fige) override { repartir(Doc::depuis_fige(fige)); }
 
 private:
     struct Etat {

@@ -6,7 +6,6 @@
 #include "ui/editeurs/foutil.h"
 
 #include <QMenu>
-#include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -57,7 +56,9 @@ std::optional<std::array<float, 4>> pose_du_trajet(const std::filesystem::path& 
 } // namespace
 
 dessinRobot::dessinRobot(QWidget* parent, Foutil& outils, Programme programme)
-    : FenetreEditeur(parent, outils, std::move(programme), GenreFichier::robot),
+    : FenetreEditeur(parent, outils, std::move(programme),
+                     {GenreFichier::robot, "Dessin du robot",
+                      "Fichiers de robot (*?Robot?.ini);;Tous les fichiers (*)"}),
       historique_([this] { rafraichir(); }),
       vue_(historique_, outils, this),
       apercu_(this),
@@ -94,18 +95,7 @@ void dessinRobot::placer() {
     onglets->addTab(contour, "&Contour");
     onglets->addTab(&reglages_, "&Mesures");
     onglets->addTab(depart, "&Départ");
-    auto* partage = new QSplitter;
-    partage->addWidget(&vue_);
-    partage->addWidget(onglets);
-    partage->setStretchFactor(0, 1);
-    partage->setSizes({600, 280});
-    setCentralWidget(partage);
-    position_.setObjectName("position");
-    position_.setText("x, y");
-    comptes_.setObjectName("comptes");
-    statusBar()->addPermanentWidget(&comptes_);
-    statusBar()->addPermanentWidget(&position_);
-    resize(900, 600);
+    assembler({historique_, vue_, *onglets, {600, 280}});
 }
 
 void dessinRobot::connecter() {
@@ -133,11 +123,6 @@ void dessinRobot::connecter() {
 void dessinRobot::regler_table(const Etat& table) {
     apercu_.regler_table(table);
     apercu_.montrer(historique_.doc());
-}
-
-std::vector<int> dessinRobot::lire(const std::string& octets) {
-    historique_.repartir(DocumentRobot::depuis(octets));
-    return historique_.doc().incomprises();
 }
 
 void dessinRobot::rafraichir() {

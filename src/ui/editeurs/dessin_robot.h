@@ -24,17 +24,8 @@ public:
 
 protected:
     void fichier_change() override;
-    QUndoStack& pile() override { return historique_.pile; }
-    VueEchelle& vue() override { return vue_; }
-    void commencer() override { historique_.repartir(DocumentRobot::nouveau()); }
-    std::vector<int> lire(const std::string& octets) override;
-    std::string octets() const override { return historique_.doc().ecrire(); }
     std::optional<RefusLecture> relire(const std::string& octets) const override {
         return DocumentRobot::relire(octets);
-    }
-    std::string figer() const override { return historique_.doc().figer(); }
-    void degeler(std::string_view fige) override {
-        historique_.repartir(DocumentRobot::depuis_fige(fige));
     }
     void retirer() override;
     void dupliquer() override;
@@ -61,7 +52,7 @@ private:
     PanneauProprietes segment_, reglages_;
     ListeChoix liste_;
     QCheckBox tourner_;
-    QLabel position_, comptes_, avis_init_;
+    QLabel avis_init_;
     std::optional<std::array<float, 4>> init_; ///< the trajectory's own pose, as an "I" record
     QString trajet_;                           ///< its file
 };

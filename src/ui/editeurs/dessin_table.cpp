@@ -6,7 +6,6 @@
 #include <QMenu>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -32,7 +31,11 @@ QPixmap pastille(const Fiche& e) {
 } // namespace
 
 dessinTable::dessinTable(QWidget* parent, Foutil& outils, Programme programme)
-    : FenetreEditeur(parent, outils, std::move(programme), GenreFichier::table),
+    : FenetreEditeur(parent, outils, std::move(programme),
+                     // The dialog splits its patterns at blanks: the one before "Table" is any
+                     // character to it.
+                     {GenreFichier::table, "Dessin de la table",
+                      "Fichiers de table (*?Table.ini);;Tous les fichiers (*)"}),
       historique_([this] { rafraichir(); }),
       vue_(historique_, outils, this),
       proprietes_(this) {
@@ -63,21 +66,10 @@ void dessinTable::placer() {
     lignes->addWidget(&legende_);
     lignes->addWidget(titre_liste);
     lignes->addWidget(&liste_, 1);
-    auto* partage = new QSplitter;
-    partage->addWidget(&vue_);
-    partage->addWidget(colonne);
-    partage->setStretchFactor(0, 1);
     const int liste = fontMetrics().horizontalAdvance("Zone L (blanc) : 000, 000, 000, 000") + 70;
-    partage->setSizes({900 - liste, liste});
-    setCentralWidget(partage);
-    position_.setObjectName("position");
-    position_.setText("x, y");
-    comptes_.setObjectName("comptes");
     comptes_.setTextFormat(Qt::RichText);
-    statusBar()->addPermanentWidget(&comptes_);
-    statusBar()->addPermanentWidget(&position_);
     position_.setMinimumWidth(position_.fontMetrics().horizontalAdvance("x = -0000  y = -0000 cm"));
-    resize(900, 600);
+    assembler({historique_, vue_, *colonne, {900 - liste, liste}});
 }
 
 void dessinTable::connecter() {
@@ -131,11 +123,6 @@ std::optional<RefusLecture> dessinTable::relire(const std::string& octets) const
         if (d[i].cle != "M" && DocumentTable::normaliser(d[i]) != d[i])
             return RefusLecture{d.ligne(i), "une mesure qu'il ne peut pas dessiner"};
     return std::nullopt;
-}
-
-std::vector<int> dessinTable::lire(const std::string& octets) {
-    historique_.repartir(DocumentTable::depuis(octets));
-    return historique_.doc().incomprises();
 }
 
 void dessinTable::rafraichir() {

@@ -21,16 +21,7 @@ public:
     void outil_change();
 
 protected:
-    QUndoStack& pile() override { return historique_.pile; }
-    VueEchelle& vue() override { return vue_; }
-    void commencer() override { historique_.repartir(DocumentTable::nouveau()); }
-    std::vector<int> lire(const std::string& octets) override;
-    std::string octets() const override { return historique_.doc().ecrire(); }
     std::optional<RefusLecture> relire(const std::string& octets) const override;
-    std::string figer() const override { return historique_.doc().figer(); }
-    void degeler(std::string_view fige) override {
-        historique_.repartir(DocumentTable::depuis_fige(fige));
-    }
     QString en_suspens() const override;
     void retirer() override;
     void dupliquer() override;
@@ -74,6 +65,5 @@ private:
     PanneauProprietes proprietes_;
     QPlainTextEdit legende_;
     ListeChoix liste_;
-    QLabel position_, comptes_;
     std::optional<Mesures> mesures_; ///< typed for the chosen record
 };

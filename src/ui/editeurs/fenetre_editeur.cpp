@@ -9,20 +9,38 @@
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QSplitter>
+#include <QStatusBar>
 #include <QUndoStack>
 
 FenetreEditeur::FenetreEditeur(QWidget* parent, Foutil& outils, Programme programme,
-                               GenreFichier genre)
+                               Description description)
     : QMainWindow(parent, Qt::Window),
       outils_(outils),
       programme_(std::move(programme)),
-      genre_(genre),
-      reprise_(programme_.configuration, genre) {
+      description_(std::move(description)),
+      reprise_(programme_.configuration, description_.genre) {
     constexpr int au_plus_ms = 500;
     attente_reprise_.setSingleShot(true);
     attente_reprise_.setInterval(au_plus_ms);
     connect(&attente_reprise_, &QTimer::timeout, this, [this] { ecrire_reprise(); });
     annuler_de_partout(*this);
+}
+
+void FenetreEditeur::assembler(Contenu contenu) {
+    contenu_.emplace(contenu);
+    auto* partage = new QSplitter;
+    partage->addWidget(&contenu.vue);
+    partage->addWidget(&contenu.panneau);
+    partage->setStretchFactor(0, 1);
+    partage->setSizes(contenu.largeurs);
+    setCentralWidget(partage);
+    position_.setObjectName("position");
+    position_.setText("x, y");
+    comptes_.setObjectName("comptes");
+    statusBar()->addPermanentWidget(&comptes_);
+    statusBar()->addPermanentWidget(&position_);
+    resize(900, 600);
 }
 
 QAction* FenetreEditeur::action(QMenu& menu, const char* nom, const QString& texte,
@@ -54,7 +72,7 @@ void FenetreEditeur::preparer_menus() {
         if (!attente_reprise_.isActive())
             attente_reprise_.start();
     });
-    commencer();
+    ouvert().commencer();
     montrer_titre();
 }
 
@@ -155,8 +173,7 @@ void FenetreEditeur::preparer_affichage() {
 
 void FenetreEditeur::montrer_titre() {
     setWindowTitle((chemin_.empty() ? "Sans nom" : texte_qt(chemin_.filename().string())) +
-                   "[*] – " +
-                   (genre_ == GenreFichier::table ? "Dessin de la table" : "Dessin du robot"));
+                   "[*] – " + description_.titre);
     setWindowModified(!pile().isClean());
 }
 
@@ -172,7 +189,7 @@ void FenetreEditeur::changeEvent(QEvent* evenement) {
     if (evenement->type() != QEvent::ActivationChange)
         return;
     if (isActiveWindow()) {
-        outils_.suivre(genre_ == GenreFichier::robot);
+        outils_.suivre(description_.genre);
         fichier_change(); // what belongs to it may have changed meanwhile
     } else if (attente_reprise_.isActive()) {
         ecrire_reprise();

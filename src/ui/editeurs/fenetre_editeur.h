@@ -3,8 +3,10 @@
 #include "config/document_table.h"
 #include "config/reprise_dessin.h"
 #include "ui/commun/boites.h"
+#include "ui/commun/historique.h"
 #include "ui/commun/veilleur.h"
 
+#include <QLabel>
 #include <QMainWindow>
 #include <QTimer>
 
@@ -15,7 +17,6 @@
 
 class Fenetres;
 class Foutil;
-class QUndoStack;
 class VueEchelle;
 class nouveauProjet;
 
@@ -30,7 +31,14 @@ public:
             {}; ///< right after a file was written
     };
 
-    FenetreEditeur(QWidget* parent, Foutil& outils, Programme programme, GenreFichier genre);
+    /// What tells one editor's window from another's.
+    struct Description {
+        GenreFichier genre; ///< of its file
+        QString titre;      ///< behind the file's name
+        QString filtre;     ///< of the file dialog
+    };
+
+    FenetreEditeur(QWidget* parent, Foutil& outils, Programme programme, Description description);
 
     /// Opens a file in place of the present drawing. @returns false after an error (told)
     bool ouvrir(const std::filesystem::path& chemin);
@@ -54,14 +62,16 @@ public:
     void ecrire_reprise();
 
 protected:
-    virtual QUndoStack& pile() = 0;
-    virtual VueEchelle& vue() = 0;
-    virtual void commencer() = 0;                                 ///< a new drawing
-    virtual std::vector<int> lire(const std::string& octets) = 0; ///< @returns lines not understood
-    virtual std::string octets() const = 0;                       ///< @throws ErreurExecution
+    /// What lies in the window, and the document that it edits.
+    struct Contenu {
+        DocumentOuvert& document;
+        VueEchelle& vue;
+        QWidget& panneau;    ///< beside the view
+        QList<int> largeurs; ///< of the two, logical pixels
+    };
+
+    /// Why the simulator would refuse the file.
     virtual std::optional<RefusLecture> relire(const std::string& octets) const = 0;
-    virtual std::string figer() const = 0;           ///< the drawing as a recovery file keeps it
-    virtual void degeler(std::string_view fige) = 0; ///< @throws ErreurExecution
     /// Why what was typed cannot be taken yet; empty when nothing is left to be typed.
     virtual QString en_suspens() const { return {}; }
 
@@ -72,7 +82,8 @@ protected:
     virtual void tout_choisir() = 0;
     virtual void deplacer(double dx, double dy) = 0; ///< cm
 
-    /// To be called at the end of the derived constructor.
+    /// Lays the window out; then, at the end of the derived constructor, the menus.
+    void assembler(Contenu contenu);
     void preparer_menus();
     QAction* action(QMenu& menu, const char* nom, const QString& texte, const QKeySequence& touche,
                     std::function<void()> faire, Qt::ConnectionType quand = Qt::DirectConnection);
@@ -89,8 +100,12 @@ protected:
 
     Foutil& outils_;
     Boites boites_{*this};
+    QLabel position_, comptes_; ///< in the status bar
 
 private:
+    DocumentOuvert& ouvert() { return contenu_->document; }
+    QUndoStack& pile() { return contenu_->document.pile; }
+    VueEchelle& vue() { return contenu_->vue; }
     void preparer_fichier();
     void preparer_annulation();
     void preparer_edition();
@@ -107,7 +122,8 @@ private:
     void proposer_de_charger();
 
     Programme programme_;
-    GenreFichier genre_;
+    Description description_;
+    std::optional<Contenu> contenu_;
     QMenu* menu_edition_ = nullptr;
     std::filesystem::path chemin_; ///< empty: never saved
     std::string sur_le_disque_;    ///< the file's bytes as they were read or written last

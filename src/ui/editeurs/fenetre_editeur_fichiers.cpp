@@ -29,7 +29,7 @@ void FenetreEditeur::nouveau() {
         return;
     chemin_.clear();
     veilleur_.suivre({});
-    commencer();
+    ouvert().commencer();
     autre_fichier();
 }
 
@@ -45,12 +45,8 @@ void FenetreEditeur::autre_fichier() {
 void FenetreEditeur::choisir_un_fichier() {
     if (!peut_partir())
         return;
-    // The dialog splits its patterns at blanks: the one before "Table" is any character to it.
-    const QString filtre = genre_ == GenreFichier::table
-                               ? "Fichiers de table (*?Table.ini);;Tous les fichiers (*)"
-                               : "Fichiers de robot (*?Robot?.ini);;Tous les fichiers (*)";
     const QString nom = QFileDialog::getOpenFileName(
-        this, "Ouvrir ...", texte_qt(programme_.configuration.string()), filtre);
+        this, "Ouvrir ...", texte_qt(programme_.configuration.string()), description_.filtre);
     if (!nom.isEmpty())
         ouvrir(nom.toStdString());
 }
@@ -58,7 +54,7 @@ void FenetreEditeur::choisir_un_fichier() {
 bool FenetreEditeur::ouvrir(const std::filesystem::path& chemin) {
     try {
         std::string lus = lire_octets(chemin);
-        const std::vector<int> incomprises = lire(lus);
+        const std::vector<int> incomprises = ouvert().lire(lus);
         chemin_ = chemin;
         sur_le_disque_ = std::move(lus);
         veilleur_.suivre({chemin_, chemin_.parent_path()});
@@ -95,7 +91,7 @@ void FenetreEditeur::verifier_disque() {
             refuses_ = std::move(lus);
             return;
         }
-        lire(lus);
+        ouvert().lire(lus);
         sur_le_disque_ = std::move(lus);
         montrer_titre();
         statusBar()->showMessage("Relu après un changement : " + texte_qt(nom), 10000);
@@ -122,7 +118,7 @@ bool FenetreEditeur::genererFic(const std::filesystem::path& chemin) {
     try {
         if (const QString attendu = en_suspens(); !attendu.isEmpty())
             throw ErreurExecution(attendu.toStdString());
-        const std::string texte = octets();
+        const std::string texte = ouvert().octets();
         if (const auto refus = relire(texte);
             refus && !boites_.question("Le simulateur refusera ce fichier à la ligne " +
                                        std::to_string(refus->ligne) + " (" + refus->raison +
@@ -152,7 +148,7 @@ void FenetreEditeur::ecrire(const std::filesystem::path& chemin, const std::stri
     sur_le_disque_ = octets;
     remplacement_accepte_ = true;
     veilleur_.suivre({chemin_, chemin_.parent_path()});
-    if (this->octets() == octets) // nothing has changed under the questions
+    if (ouvert().octets() == octets) // nothing has changed under the questions
         pile().setClean();
     ecrire_reprise();
     montrer_titre();
@@ -161,7 +157,7 @@ void FenetreEditeur::ecrire(const std::filesystem::path& chemin, const std::stri
 }
 
 void FenetreEditeur::proposer_de_charger() {
-    const std::string projet = projet_du_nom(chemin_.stem().string(), genre_);
+    const std::string projet = projet_du_nom(chemin_.stem().string(), description_.genre);
     std::error_code erreur;
     const bool a_sa_place =
         std::filesystem::equivalent(chemin_.parent_path(), programme_.configuration, erreur);
@@ -175,12 +171,9 @@ bool FenetreEditeur::enregistrer() {
 }
 
 bool FenetreEditeur::enregistrer_sous() {
-    const bool table = genre_ == GenreFichier::table;
-    outils_.suivre(!table); // the dialog writes what the palette says
-    nouveauProjet dialogue(this, outils_, programme_.configuration);
-    (table ? dialogue.table : dialogue.robot) = [this](const std::filesystem::path& chemin) {
-        return genererFic(chemin);
-    };
+    outils_.suivre(description_.genre);
+    nouveauProjet dialogue(this, description_.genre, programme_.configuration);
+    dialogue.generer = [this](const std::filesystem::path& chemin) { return genererFic(chemin); };
     return dialogue.exec() == QDialog::Accepted;
 }
 
@@ -218,9 +211,9 @@ bool FenetreEditeur::preparer_depart(Depart reponse) {
 void FenetreEditeur::partir() {
     if (!pile().isClean() || !en_suspens().isEmpty()) {
         if (chemin_.empty())
-            commencer();
+            ouvert().commencer();
         else
-            lire(sur_le_disque_);
+            ouvert().lire(sur_le_disque_);
     }
     ecrire_reprise();
 }
@@ -231,7 +224,7 @@ void FenetreEditeur::ecrire_reprise() {
         if (pile().isClean())
             reprise_.effacer();
         else
-            reprise_.ecrire({chemin_, sur_le_disque_, figer()});
+            reprise_.ecrire({chemin_, sur_le_disque_, ouvert().figer()});
     } catch (const ErreurExecution& erreur) { // no box: the user is drawing
         statusBar()->showMessage(
             QString("Le dessin n'est pas gardé pour le prochain démarrage : ") +
@@ -241,7 +234,7 @@ void FenetreEditeur::ecrire_reprise() {
 
 // As changes that are not saved, on the file as it was then.
 void FenetreEditeur::reprendre(const DessinGarde& garde) {
-    degeler(garde.document);
+    ouvert().degeler(garde.document);
     chemin_ = garde.fichier;
     sur_le_disque_ = garde.sur_le_disque;
     veilleur_.suivre(chemin_.empty() ? std::vector<std::filesystem::path>{}

@@ -281,9 +281,9 @@ void Foutil::connecter() {
             });
 }
 
-void Foutil::suivre(bool robot) {
+void Foutil::suivre(GenreFichier genre) {
     suit_ = true;
-    (robot ? chx_dessinRobot : chx_dessinTable).setChecked(true);
+    (genre == GenreFichier::robot ? chx_dessinRobot : chx_dessinTable).setChecked(true);
     suit_ = false;
 }
 

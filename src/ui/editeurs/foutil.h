@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/document.h"
+#include "config/nom_projet.h"
 #include "ui/commun/nombre.h"
 
 #include <QButtonGroup>
@@ -56,7 +57,7 @@ public:
     void prendre(const Outil& outil);
     void reposer() { prendre(outils().front()); }
     /// Shows the tools of the drawing that the user has turned to; opens no window.
-    void suivre(bool robot);
+    void suivre(GenreFichier genre);
 
     /// What a tool makes in one click: of the palette's sizes, about a point (cm).
     Fiche creer(const Outil& outil, QPointF centre) const;

@@ -1,13 +1,12 @@
 #include "ui/editeurs/nouveau_projet.h"
 
 #include "ui/commun/boites.h"
-#include "ui/editeurs/foutil.h"
 
 #include <QGridLayout>
 
-nouveauProjet::nouveauProjet(QWidget* parent, const Foutil& palette,
+nouveauProjet::nouveauProjet(QWidget* parent, GenreFichier genre,
                              std::filesystem::path configuration)
-    : QDialog(parent), palette_(palette), configuration_(std::move(configuration)) {
+    : QDialog(parent), genre_(genre), configuration_(std::move(configuration)) {
     setObjectName("nouveauProjet");
     setWindowTitle("Création d'un projet");
     Label1.setObjectName("Label1");
@@ -29,7 +28,7 @@ nouveauProjet::nouveauProjet(QWidget* parent, const Foutil& palette,
     placer();
     connect(&nomProjet, &QLineEdit::textChanged, this, [this] { nomProjet_Change(); });
     connect(&corriger, &QPushButton::clicked, this, [this] {
-        nomProjet.setText(texte_qt(proposer_nom(nomProjet.text().toStdString(), genre())));
+        nomProjet.setText(texte_qt(proposer_nom(nomProjet.text().toStdString(), genre_)));
     });
     connect(&OKButton, &QPushButton::clicked, this, [this] { OKButton_Click(); });
     connect(&CancelButton, &QPushButton::clicked, this, [this] { reject(); });
@@ -49,21 +48,17 @@ void nouveauProjet::placer() {
     setMinimumWidth(420);
 }
 
-GenreFichier nouveauProjet::genre() const {
-    return palette_.chx_dessinRobot.isChecked() ? GenreFichier::robot : GenreFichier::table;
-}
-
 void nouveauProjet::nomProjet_Change() {
     const std::string nom = nomProjet.text().toStdString();
     const std::string impossible = raison_nom_impossible(nom);
-    const std::string projet = projet_du_nom(nom, genre());
-    const std::string propose = proposer_nom(nom, genre());
+    const std::string projet = projet_du_nom(nom, genre_);
+    const std::string propose = proposer_nom(nom, genre_);
     std::string texte;
     if (!impossible.empty())
         texte = impossible + ".";
     else if (!projet.empty())
         texte = "Fichier du projet « " + projet + " ».";
-    else if (genre() == GenreFichier::table)
+    else if (genre_ == GenreFichier::table)
         texte = "« " + nom +
                 ".ini » ne sera la table d'aucun projet : « Charger » ne propose que "
                 "les noms qui finissent par « Table » après un blanc.";
@@ -80,11 +75,6 @@ void nouveauProjet::nomProjet_Change() {
 void nouveauProjet::OKButton_Click() {
     const std::filesystem::path chemin =
         fichier_d_editeur(configuration_, nomProjet.text().toStdString());
-    bool ecrit = true;
-    if (palette_.chx_dessinTable.isChecked())
-        ecrit = table && table(chemin);
-    if (palette_.chx_dessinRobot.isChecked())
-        ecrit = robot && robot(chemin);
-    if (ecrit)
+    if (generer(chemin))
         accept();
 }

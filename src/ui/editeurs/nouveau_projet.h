@@ -10,26 +10,23 @@
 #include <filesystem>
 #include <functional>
 
-class Foutil;
-
-/// "Création d'un projet": the name under which an editor's drawing is saved. The palette says
-/// which editor writes. A name that no project would find is explained and corrected on demand.
+/// "Création d'un projet": the name under which an editor's drawing is saved. A name that no
+/// project would find is explained and corrected on demand.
 class nouveauProjet final : public QDialog {
 public:
     /// Writes the drawing to a file. @returns false when the user or an error stopped it
     using GenererFic = std::function<bool(const std::filesystem::path&)>;
 
-    nouveauProjet(QWidget* parent, const Foutil& palette, std::filesystem::path configuration);
+    nouveauProjet(QWidget* parent, GenreFichier genre, std::filesystem::path configuration);
 
-    GenererFic table, robot;
+    GenererFic generer;
 
 private:
     void placer();
     void OKButton_Click();
     void nomProjet_Change();
-    GenreFichier genre() const;
 
-    const Foutil& palette_;
+    GenreFichier genre_;
     std::filesystem::path configuration_;
     QLabel Label1, avis;
     QLineEdit nomProjet;

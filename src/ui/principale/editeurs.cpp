@@ -94,7 +94,7 @@ void Editeurs::proposer_reprises() {
         FenetreEditeur& dessin = robot ? static_cast<FenetreEditeur&>(robot_) : table_;
         if (!dessin.proposer_reprise(sim_))
             continue;
-        outils_.suivre(robot);
+        outils_.suivre(robot ? GenreFichier::robot : GenreFichier::table);
         montrer();
     }
 }
