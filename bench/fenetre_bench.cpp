@@ -25,10 +25,11 @@ struct Banc {
         std::filesystem::create_directories(dossier);
         std::filesystem::current_path(dossier);
         sim.Form_Load();
-        sim.options().choisir_robots(robots);
-        sim.moteur().Run_Jeu();
-        sim.regler_Timer(0); // the benchmark is the clock
-        sim.moteur().Timer_Timer();
+        Seance& seance = sim.seance();
+        dynamic_cast<FOption&>(*sim.findChild<QWidget*>("FOption")).choisir_robots(robots);
+        seance.moteur().Run_Jeu();
+        seance.fenetres().regler_Timer(0); // the benchmark is the clock
+        seance.moteur().Timer_Timer();
         QApplication::processEvents();
     }
     ~Banc() {
@@ -37,7 +38,7 @@ struct Banc {
     }
     path dossier = std::filesystem::temp_directory_path() / "tavolmex-bench";
     Sim1 sim{dossier, [](int) {}};
-    Etat& e = sim.etat();
+    Etat& e = sim.seance().etat();
 };
 
 /// The same window and tick, with plain labels for the two lines.
@@ -120,11 +121,12 @@ Lignes bouger(Etat& e, int n) {
 
 /// A tick of the window, until its pixels are there.
 void tick(Sim1& sim, int n) {
-    const Lignes l = bouger(sim.etat(), n);
-    sim.Dessine_Table();
-    sim.Dessine_Robot();
-    sim.ecrire_Mess(l.mess);
-    sim.ecrire_Info(l.info);
+    const Lignes l = bouger(sim.seance().etat(), n);
+    Fenetres& f = sim.seance().fenetres();
+    f.Dessine_Table();
+    f.Dessine_Robot();
+    f.ecrire_Mess(l.mess);
+    f.ecrire_Info(l.info);
     QApplication::processEvents();
 }
 

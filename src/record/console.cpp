@@ -117,6 +117,8 @@ void Console::inscrire(Entier16 I, const std::string& action, Entier16 p1, Entie
 void Console::ecrire_reprise() {
     if (reprise_ != nullptr)
         reprise_->ecrire_ou_prevenir(fenetres_);
+    if (au_changement)
+        au_changement();
 }
 
 void Console::memoriser(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2) {

@@ -27,6 +27,8 @@ public:
 
     /// The text of the tile count's box, which a code-12 row keeps; without it the count itself.
     std::function<std::string()> nbre_carreaux;
+    /// Hears that what is recorded has changed.
+    std::function<void()> au_changement;
 
     Phase phase() const { return phase_; }
     Entier16 robot() const { return robot_; }

@@ -93,6 +93,24 @@ void Seance::recharger() {
     prendre_projet();
 }
 
+void Seance::tourner_la_table(bool horizontalement) {
+    horizontalement ? horizontal(etat_) : vertical(etat_);
+    etat_.TableHorizontale = vrai16(horizontalement);
+    hote_.Init_Table();
+    etat_.persistant = true;
+    fenetres_.Dessine_Table();
+    if (!etat_.AffichageLent)
+        etat_.persistant = false;
+    fenetres_.Dessine_Robot();
+    annonces_.annoncer(&Ecouteur::reglages_changes);
+}
+
+void Seance::changer_NbRobot(Entier16 nombre) {
+    etat_.NbRobot = nombre;
+    annonces_.annoncer(&Ecouteur::reglages_changes);
+    dessiner();
+}
+
 // The robots stay where they stand: turned back with the old table, turned again with the new one.
 void Seance::relire_table() {
     if (etat_.TableHorizontale)

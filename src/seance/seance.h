@@ -41,6 +41,11 @@ public:
 
     /// Loads the present project's files in place of what is there.
     void recharger();
+    /// Turns the table a quarter, clockwise or back, and draws everything anew.
+    /// @throws Debordement  when a coordinate leaves 16 bits; nothing is turned then
+    void tourner_la_table(bool horizontalement);
+    /// How many robots there are, 1..9; draws them.
+    void changer_NbRobot(Entier16 nombre);
     /// The table's file was changed from outside: reads it alone. The robots stay where they stand.
     void relire_table();
     /// Other files too were changed from outside: reads them all. What is recorded and not saved is

@@ -46,14 +46,14 @@ TEST_F(Manuel, chaque_fenetre_ouvre_sa_page) {
         EXPECT_TRUE(aide().isVisible()) << controle;
         EXPECT_EQ(titre(aide()).toStdString(), page);
     }
-    sim->montrer_console();
+    cliquer("Command5");
     QTest::keyClick(&trouver("Text1"), Qt::Key_F1);
     EXPECT_EQ(titre(aide()), "La télécommande");
     cliquer("generer");
     trouver<QPushButton>("Choisir").click();
     trouver<QPushButton>("visu_gene").click(); // no such file: said, the window opens all the same
     for (const char* fenetre : {"Dialog", "OuvGeneration", "Visualiser"}) {
-        sim->montrer_aide(sim->options());
+        trouver<QPushButton>("Aide").click();
         QTest::keyClick(&trouver(fenetre), Qt::Key_F1);
         EXPECT_EQ(titre(aide()), "La génération PICBASIC") << fenetre;
     }
@@ -61,7 +61,7 @@ TEST_F(Manuel, chaque_fenetre_ouvre_sa_page) {
     trouver<QRadioButton>("chx_dessinRobot").setChecked(true);
     for (const char* fenetre :
          {"Foutil", "dessinTable", "dessinRobot", "vueTable", "apercuRobot"}) {
-        sim->montrer_aide(sim->options());
+        trouver<QPushButton>("Aide").click();
         QTest::keyClick(&trouver(fenetre), Qt::Key_F1);
         EXPECT_EQ(titre(aide()), "Les éditeurs de table et de robot") << fenetre;
     }

@@ -44,7 +44,10 @@ protected:
     }
     void cliquer(const char* nom) { QTest::mouseClick(&trouver(nom), Qt::LeftButton); }
     void cocher(const char* nom, bool coche) { trouver<QCheckBox>(nom).setChecked(coche); }
-    Etat& e() { return sim->etat(); }
+    Seance& seance() { return sim->seance(); }
+    Fenetres& fenetres() { return seance().fenetres(); }
+    Etat& e() { return seance().etat(); }
+    FOption& options() { return trouver<FOption>("FOption"); }
 
     DossierTemporaire dossier;
     std::vector<std::string> messages; ///< "message: text" or "question: text"

@@ -30,7 +30,7 @@ protected:
     // The engine's clock is the real one: long actions are not waited for, but ticked through.
     void finir_l_action() {
         for (int tick = 0; tick < 3000 && !bouton("Avance").isEnabled(); ++tick)
-            sim->moteur().Timer_Timer();
+            seance().moteur().Timer_Timer();
     }
     void jouer(const char* legende) {
         bouton(legende).click();

@@ -151,7 +151,7 @@ TEST_F(Depart, meme_un_dessin_qui_ne_peut_pas_encore_s_ecrire_est_repris) {
     clic(10, 10);
     commande("supprimer"); // a disc alone cannot be read back
     EXPECT_THROW(static_cast<void>(doc().ecrire()), ErreurExecution);
-    sim->fin_du_programme(); // a major error: at once
+    fenetres().fin_du_programme(); // a major error: at once
     EXPECT_EQ(fins, std::vector<int>{3});
     recommencer({true});
     ASSERT_EQ(doc().nombre(), 1U);

@@ -25,7 +25,7 @@ TEST_F(Options, les_cases_reglent_l_etat_et_marquent_les_reglages) {
         EXPECT_EQ(c.valeur(e()), boite.isChecked() ? c.cochee : c.claire) << c.nom;
         boite.toggle();
         EXPECT_EQ(c.valeur(e()), boite.isChecked() ? c.cochee : c.claire) << c.nom;
-        EXPECT_TRUE(sim->options().modifie) << c.nom;
+        EXPECT_TRUE(options().modifie) << c.nom;
     }
 }
 
@@ -67,7 +67,7 @@ TEST_F(Options, le_nombre_de_robots_ne_fait_que_descendre_sauf_par_le_menu) {
     });
     emit trouver("Table").customContextMenuRequested({5, 5});
     EXPECT_EQ(e().NbRobot, 6);
-    EXPECT_TRUE(sim->options().modifie);
+    EXPECT_TRUE(options().modifie);
 }
 
 TEST_F(Options, vers_le_haut_c_est_plus) {
@@ -98,12 +98,12 @@ TEST_F(Options, echap_arrete_la_course_dans_les_deux_fenetres) {
     demarrer();
     for (const char* controle : {"Check1", "Command1", "Table"}) {
         cliquer("Command1");
-        ASSERT_TRUE(sim->en_course());
+        ASSERT_TRUE(seance().en_marche());
         QTest::keyClick(&trouver(controle), Qt::Key_Escape);
-        EXPECT_FALSE(sim->en_course()) << controle;
+        EXPECT_FALSE(seance().en_marche()) << controle;
         EXPECT_EQ(trouver<QPushButton>("Command1").text(), "Démarrer");
     }
-    EXPECT_TRUE(sim->options().isVisible());
+    EXPECT_TRUE(options().isVisible());
 }
 
 TEST_F(Options, une_table_qui_ne_tourne_pas_reste_comme_elle_est) {
@@ -124,14 +124,14 @@ TEST_F(Options, le_damier_montre_le_compte_des_carreaux) {
         return trouver("nbre_carreaux").isVisible() && trouver("lb_utilcarreaux").isVisible();
     };
     EXPECT_FALSE(visibles());
-    const QSize avant = sim->options().size();
+    const QSize avant = options().size();
     cocher("utiliDamier", true);
     EXPECT_TRUE(visibles());
     EXPECT_TRUE(e().utiliDamier);
-    EXPECT_EQ(sim->options().size(), avant); // nothing jumps
-    sim->ecrire_nbre_carreaux("12");
+    EXPECT_EQ(options().size(), avant); // nothing jumps
+    fenetres().ecrire_nbre_carreaux("12");
     EXPECT_EQ(trouver<QLineEdit>("nbre_carreaux").text(), "12");
-    EXPECT_FALSE(sim->options().modifie); // not a setting of the file
+    EXPECT_FALSE(options().modifie); // not a setting of the file
     cocher("utiliDamier", false);
     EXPECT_FALSE(visibles());
 }
@@ -151,7 +151,7 @@ TEST_F(Options, chaque_controle_a_un_nom_pour_les_outils_d_assistance) {
     trouver<QRadioButton>("chx_dessinRobot").setChecked(true);
     trouver<QPushButton>("Choisir").click();
     trouver<QPushButton>("visu_gene").click();
-    sim->montrer_options(); // the console hides it
+    options().montrer(); // the console hides it
     for (const QWidget* controle : sim->findChildren<QWidget*>()) {
         if (controle->objectName().isEmpty() || controle->objectName().startsWith("qt_") ||
             !controle->isVisible())

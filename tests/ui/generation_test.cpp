@@ -52,7 +52,7 @@ TEST_F(FenetreGeneration, les_refus_viennent_dans_leur_ordre) {
     generer();
     EXPECT_EQ(messages, (std::vector<std::string>{"message: Sélectionner une ligne dans la liste "
                                                   "des Fichiers PICBASIC"}));
-    EXPECT_FALSE(sim->options().isVisible()) << "whatever happened, the options hide";
+    EXPECT_FALSE(options().isVisible()) << "whatever happened, the options hide";
     selectionner("File", "Defaut PourGenerer10.ini");
     generer();
     EXPECT_EQ(messages.back(),
@@ -151,9 +151,9 @@ TEST_F(FenetreGeneration, une_valeur_fausse_dit_ce_qui_est_ecrit_et_ce_qui_est_g
     EXPECT_NE(compte.find("incomplet"), std::string::npos);
     EXPECT_NE(compte.find("Le fichier de départ a été modifié."), std::string::npos);
     EXPECT_NE(compte.find("Sauvegardes/GENERE.bas"), std::string::npos) << compte;
-    sim->options().hide();
+    options().hide();
     dialog->close(); // by its frame: the options come back as with "Fermer"
-    EXPECT_TRUE(sim->options().isVisible());
+    EXPECT_TRUE(options().isVisible());
 }
 
 TEST_F(FenetreGeneration, la_cible_se_choisit_par_repertoire_et_nom) {
@@ -168,7 +168,7 @@ TEST_F(FenetreGeneration, la_cible_se_choisit_par_repertoire_et_nom) {
     EXPECT_EQ(dans<QLineEdit>("fichier_a_generer").text().toStdString(),
               (dossier / "Configuration/generation.bas").string());
     EXPECT_FALSE(choix.isVisible());
-    EXPECT_TRUE(sim->options().isVisible());
+    EXPECT_TRUE(options().isVisible());
     EXPECT_TRUE(dialog->isVisible());
     dans<QPushButton>("Fermer").click();
     EXPECT_FALSE(dialog->isVisible());
@@ -278,7 +278,7 @@ TEST_F(FenetreGenerationRemplie, un_essai_refuse_ne_laisse_pas_l_ancien_succes_e
         generer();
         EXPECT_TRUE(compte.text().startsWith("Rien n'a été généré. ")) << refuse;
         EXPECT_TRUE(compte.text().contains("« Fermer »")) << refuse;
-        EXPECT_FALSE(sim->options().isVisible());
+        EXPECT_FALSE(options().isVisible());
     }
     dans<QLineEdit>("fichier_a_generer").setText("prog.txt");
     generer();

@@ -59,11 +59,11 @@ TEST_F(Charger, le_projet_choisi_est_cree_lu_dessine_et_retenu) {
     charger([](Ouvrir& o) { choisir(o, "Essai"); });
     EXPECT_EQ(e().NomProjet, "Essai");
     EXPECT_TRUE(std::filesystem::exists(dossier / "Configuration/Essai Trajet9.ini"));
-    EXPECT_FALSE(sim->en_course());
+    EXPECT_FALSE(seance().en_marche());
     EXPECT_EQ(e().XMax, 90);
     EXPECT_NE(sim->size(), avant);
     EXPECT_EQ(trouver<QLabel>("LNom").text(), "\nEssai");
-    EXPECT_TRUE(sim->options().modifie);
+    EXPECT_TRUE(options().modifie);
     EXPECT_TRUE(messages.empty()) << messages[0];
     // The settings had not been modified when the choice was made: they are written on leaving.
     EXPECT_EQ(general().find("Essai"), std::string::npos);
@@ -151,7 +151,7 @@ TEST_F(Charger, une_session_entiere) {
     charger([](Ouvrir& o) { choisir(o, "Essai"); });
     EXPECT_NE(general().find("Défaut , Essai\r\n"), std::string::npos); // already modified
     cliquer("Command1");
-    EXPECT_TRUE(sim->en_course());
+    EXPECT_TRUE(seance().en_marche());
     cliquer("Command1");
     e().TrajetModifie(2) = true;
     reponses = {true};

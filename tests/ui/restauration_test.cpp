@@ -94,8 +94,8 @@ TEST_F(FenetreRestauration, le_filtre_ne_montre_qu_un_fichier_et_la_liste_suit_l
 TEST_F(FenetreRestauration, un_refus_du_disque_se_dit_et_rien_ne_change) {
     ouvrir();
     std::filesystem::remove(copie_);
-    dans<QPushButton>("restaurer").click();
-    ASSERT_FALSE(messages.empty());
+    QTest::mouseClick(&dans<QPushButton>("restaurer"), Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !messages.empty(); }));
     EXPECT_TRUE(messages.front().starts_with("message: Erreur d'exécution : ")) << messages.front();
     EXPECT_EQ(dossier.lire("Configuration/Defaut Trajet1.ini"), present);
     QTest::keyClick(fenetre, Qt::Key_Escape);

@@ -20,7 +20,7 @@ TEST_F(Demarrage, le_premier_demarrage_ecrit_le_projet_et_montre_les_deux_fenetr
               20 + 1)
         << "and the project's lock";
     EXPECT_TRUE(sim->isVisible());
-    EXPECT_TRUE(sim->options().isVisible());
+    EXPECT_TRUE(options().isVisible());
     EXPECT_EQ(sim->pos(), sim->screen()->availableGeometry().topLeft());
     EXPECT_EQ(e().NomProjet, "Defaut");
     EXPECT_EQ(e().NbRobot, 1);
@@ -35,10 +35,9 @@ TEST_F(Demarrage, la_fenetre_d_options_reste_a_cote_et_dans_l_ecran) {
         cocher("Check3", horizontale);
         EXPECT_TRUE(messages.empty()) << messages[0];
         const QRect ecran = sim->screen()->availableGeometry();
-        EXPECT_TRUE(ecran.contains(sim->options().frameGeometry())) << horizontale;
+        EXPECT_TRUE(ecran.contains(options().frameGeometry())) << horizontale;
         EXPECT_TRUE(ecran.contains(sim->frameGeometry())) << horizontale;
-        EXPECT_FALSE(sim->frameGeometry().intersects(sim->options().frameGeometry()))
-            << horizontale;
+        EXPECT_FALSE(sim->frameGeometry().intersects(options().frameGeometry())) << horizontale;
     }
 }
 
@@ -60,7 +59,7 @@ TEST_F(Demarrage, les_reglages_du_fichier_atteignent_l_etat) {
         EXPECT_EQ(e().NbRobot, r.robots) << r.lignes;
         EXPECT_EQ(e().TableHorizontale, r.horizontale) << r.lignes;
         EXPECT_EQ(e().XMax, r.x_max) << r.lignes; // turned once, not twice
-        EXPECT_FALSE(sim->options().modifie) << r.lignes;
+        EXPECT_FALSE(options().modifie) << r.lignes;
     }
 }
 
@@ -84,16 +83,16 @@ TEST_F(Demarrage, un_second_programme_sur_le_meme_projet_le_dit_et_continue) {
     EXPECT_EQ(messages, avis);
     EXPECT_TRUE(second.isVisible());
     // The lock follows the project.
-    sim->etat().NomProjet = "Finale";
-    sim->recharger_projet();
-    second.recharger_projet();
+    e().NomProjet = "Finale";
+    seance().recharger();
+    second.seance().recharger();
     EXPECT_EQ(messages, avis);
 }
 
 TEST_F(Demarrage, une_table_impossible_a_dessiner_finit_le_programme) {
     dossier.ecrire("Configuration/Defaut Table.ini", "L, 0, 0, 200, 320\r\nLE, 5, 5, 5, 9\r\n");
     demarrer();
-    sim->Dessine_Table(); // nothing more is said afterwards
+    fenetres().Dessine_Table(); // nothing more is said afterwards
     ASSERT_EQ(messages.size(), 1U);
     EXPECT_EQ(messages[0], "message: Erreur majeure d'exécution : Vérifier le fichier de "
                            "configuration Table.ini");
@@ -151,10 +150,10 @@ TEST_F(CourseDeSim1, toute_boite_ouverte_retient_l_horloge) {
     QFileDialog de_fichier;
     de_fichier.setOption(QFileDialog::DontUseNativeDialog);
     const std::function<void()> boites[] = {
-        [&] { sim->message("Un instant"); }, [&] { d_un_editeur.exec(); },
+        [&] { fenetres().message("Un instant"); }, [&] { d_un_editeur.exec(); },
         [&] { du_systeme.exec(); }, [&] { de_fichier.exec(); }, [&] { cliquer("Command2"); }};
     for (const auto& ouvrir : boites) {
-        ASSERT_TRUE(sim->en_course());
+        ASSERT_TRUE(seance().en_marche());
         int avant = -1, pendant = -1;
         const auto observer = [&] {
             avant = e().TempsEcoule;
@@ -242,7 +241,7 @@ TEST_F(Fenetre, le_titre_nomme_le_projet_sauf_celui_par_defaut) {
         QString montre = sim->windowTitle();
         EXPECT_EQ(montre.replace("[*][*]", "[*]").toStdString(), titre);
         e().NomProjet = "Defaut";
-        sim->charger_projet_choisi();
+        seance().recharger();
         EXPECT_EQ(sim->windowTitle(), "Tavolmex");
     }
 }
@@ -250,8 +249,8 @@ TEST_F(Fenetre, le_titre_nomme_le_projet_sauf_celui_par_defaut) {
 TEST_F(Fenetre, les_questions_se_repondent_par_oui_ou_non) {
     demarrer();
     reponses = {true, false};
-    EXPECT_TRUE(sim->question("<b>Doit-on ?</b>\r\nVraiment"));
-    EXPECT_FALSE(sim->question("Et là ?"));
+    EXPECT_TRUE(fenetres().question("<b>Doit-on ?</b>\r\nVraiment"));
+    EXPECT_FALSE(fenetres().question("Et là ?"));
     EXPECT_EQ(messages, (std::vector<std::string>{"question: <b>Doit-on ?</b>\nVraiment",
                                                   "question: Et là ?"}));
 }
@@ -265,7 +264,7 @@ TEST_F(Fenetre, echap_et_le_cadre_ne_repondent_a_aucune_question) {
         boite.close();
         restee = boite.isVisible();
     };
-    EXPECT_TRUE(sim->question("Doit-on ?", "Non : tout est perdu"));
+    EXPECT_TRUE(fenetres().question("Doit-on ?", "Non : tout est perdu"));
     EXPECT_TRUE(restee);
 }
 
@@ -289,13 +288,13 @@ TEST_F(Fenetre, la_fermer_quitte_et_n_ecrit_les_reglages_que_s_ils_ont_change) {
 TEST_F(Fenetre, un_clic_sur_la_table_ou_le_logo_rend_les_options) {
     demarrer();
     for (const char* nom : {"Table", "logo"}) {
-        sim->options().hide();
+        options().hide();
         cliquer(nom);
-        EXPECT_TRUE(sim->options().isVisible()) << nom;
+        EXPECT_TRUE(options().isVisible()) << nom;
     }
-    sim->options().hide();
+    options().hide();
     QTest::mouseClick(&trouver("Table"), Qt::LeftButton, {}, QPoint(3, 3));
-    EXPECT_TRUE(sim->options().isVisible());
+    EXPECT_TRUE(options().isVisible());
 }
 
 TEST_F(Fenetre, la_table_suit_la_taille_de_la_fenetre_en_gardant_ses_proportions) {

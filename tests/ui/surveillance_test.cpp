@@ -94,7 +94,7 @@ TEST_F(FichiersChanges, une_course_ou_un_enregistrement_fait_demander) {
                       std::string::npos);
             EXPECT_NE(messages[0].find(course ? "arrêter la course" : "perdre"), std::string::npos);
             EXPECT_EQ(e().XInit(1) == float(x), oui);
-            EXPECT_EQ(sim->en_course(), course && !oui);
+            EXPECT_EQ(seance().en_marche(), course && !oui);
             EXPECT_EQ(e().TrajetModifie(1), !course && !oui);
             attendre(); // asked once only
             EXPECT_EQ(messages.size(), 1U);
@@ -132,7 +132,7 @@ TEST_F(FichiersChanges, change_sous_une_question_de_sauvegarde_il_n_est_pas_pris
     e().TrajetModifie(1) = true;
     e().TrajetModifie(2) = true;
     reponses = {true, true};
-    sim->SauvRobot();
+    seance().SauvRobot();
     attendre();
     EXPECT_EQ(e().XInit(1), 71);
     EXPECT_EQ(questions, 2);
@@ -160,7 +160,7 @@ TEST_F(FichiersChanges, ce_que_le_programme_ecrit_ou_qui_ne_change_rien_ne_dit_r
     demarrer();
     e().TrajetModifie(1) = true;
     reponses = {true};
-    sim->SauvRobot();
+    seance().SauvRobot();
     messages.clear();
     const std::string question = etat();
     const std::string avant = dossier.lire("Configuration/Defaut Table.ini");

@@ -65,12 +65,14 @@ TEST_F(ConsoleFenetre, une_valeur_refusee_est_nommee_et_la_console_reste_utilisa
     ouvrir();
     commencer();
     saisir("Text1", "");
-    jouer("Avance");
-    ASSERT_EQ(messages.size(), 1U);
+    QTest::mouseClick(&bouton("Avance"), Qt::LeftButton);
+    finir_l_action();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return messages.size() == 1; }));
     EXPECT_NE(messages[0].find("Distance, durée ou rayon"), std::string::npos) << messages[0];
     saisir("Text1", "300"); // too much for the generation table: it plays all the same
-    jouer("Avance");
-    ASSERT_EQ(messages.size(), 2U);
+    QTest::mouseClick(&bouton("Avance"), Qt::LeftButton);
+    finir_l_action();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return messages.size() == 2; }));
     EXPECT_NE(messages[1].find("300"), std::string::npos) << messages[1];
     EXPECT_EQ(e().TrajNbActions(1), 1);
     EXPECT_EQ(e().nb_a_generer, 0);
@@ -89,7 +91,7 @@ TEST_F(ConsoleFenetre, une_recherche_sans_fin_s_arrete_par_echap_ou_par_arreter)
     commencer();
     bouton("Balise Droite").click();
     for (int tick = 0; tick < 50; ++tick)
-        sim->moteur().Timer_Timer();
+        seance().moteur().Timer_Timer();
     EXPECT_FALSE(bouton("Avance").isEnabled());
     QTest::keyClick(console, Qt::Key_Escape);
     finir_l_action();
@@ -101,11 +103,11 @@ TEST_F(ConsoleFenetre, une_recherche_sans_fin_s_arrete_par_echap_ou_par_arreter)
     finir_l_action();
     EXPECT_TRUE(bouton("Avance").isEnabled());
     bouton("Balise Droite").click();
-    sim->options().Command1.click();
+    options().Command1.click();
     EXPECT_TRUE(bouton("Avance").isEnabled());
     QTest::keyClick(console, Qt::Key_Escape);
     EXPECT_FALSE(console->isVisible());
-    EXPECT_TRUE(sim->options().isVisible());
+    EXPECT_TRUE(options().isVisible());
 }
 
 TEST_F(ConsoleFenetre, ce_qui_n_est_pas_sauve_est_propose_au_prochain_depart) {
@@ -130,7 +132,7 @@ TEST_F(ConsoleFenetre, ce_qui_suit_une_sauvegarde_n_est_pas_perdu) {
     commencer();
     jouer("Avance");
     reponses = {true};
-    sim->SauvRobot();
+    seance().SauvRobot();
     EXPECT_FALSE(e().TrajetModifie(1));
     const auto reprise = dossier / "Configuration/Defaut Reprise.ini";
     EXPECT_FALSE(std::filesystem::exists(reprise));

@@ -84,7 +84,7 @@ TEST_F(Trajets, debut_enr_sur_un_trajet_non_sauve_le_dit_et_se_reprend) {
 // Killed with robot 3: it is on the table again, its path is listed, and the next action follows.
 TEST_F(Trajets, une_reprise_se_continue) {
     demarrer();
-    sim->options().choisir_robots(3);
+    options().choisir_robots(3);
     ouvrir();
     dans_console<QScrollBar>("VScroll1").setValue(3);
     commencer();
@@ -115,10 +115,10 @@ TEST_F(Trajets, un_trajet_refuse_revient_par_le_menu) {
     QString explication;
     avant_de_repondre = [&](QMessageBox& boite) { explication = boite.informativeText(); };
     reponses = {false};
-    EXPECT_TRUE(sim->SauvRobot());
+    EXPECT_TRUE(seance().SauvRobot());
     EXPECT_TRUE(explication.contains("ne sera plus proposé"));
     EXPECT_TRUE(explication.contains("fichier de génération"));
-    sim->recommencer_console();
+    seance().recharger();
     e().TrajNbActions(1) = 0;
     QMenu& m = menu();
     ASSERT_EQ(m.actions().size(), 1);
@@ -172,19 +172,19 @@ TEST_F(Trajets, echap_garde_ce_qui_a_ete_conduit_et_le_fichier_le_rejoue) {
     saisir("Text1", "80");
     bouton("VirAvDr").click();
     for (int tick = 0; tick < 60; ++tick)
-        sim->moteur().Timer_Timer();
+        seance().moteur().Timer_Timer();
     QTest::keyClick(console, Qt::Key_Escape);
     EXPECT_TRUE(bouton("Avance").isEnabled());
     EXPECT_EQ(lignes(), 2);
     EXPECT_LT(e().TrajParam1(1, 2), 90);
     const std::array pose{e().XRobot(1), e().YRobot(1), e().CapRobot(1)};
     reponses = {true};
-    sim->SauvRobot();
-    sim->recharger_projet();
+    seance().SauvRobot();
+    seance().recharger();
     e().RobotTele = 0;
-    sim->moteur().Run_Jeu();
-    while (sim->en_course())
-        sim->moteur().Timer_Timer();
+    seance().moteur().Run_Jeu();
+    while (seance().en_marche())
+        seance().moteur().Timer_Timer();
     EXPECT_EQ(pose, (std::array{e().XRobot(1), e().YRobot(1), e().CapRobot(1)}));
 }
 
@@ -225,7 +225,7 @@ TEST_F(Trajets, la_position_dit_ce_que_la_table_tournee_en_fait) {
     saisir("TextX", "201");
     EXPECT_TRUE(teinte("TextX"));
     EXPECT_FALSE(trouver("damier_tourne").isVisible());
-    sim->montrer_options();
+    options().montrer();
     cocher("utiliDamier", true);
     EXPECT_TRUE(trouver("damier_tourne").isVisible());
     cocher("Check3", false);
@@ -234,7 +234,7 @@ TEST_F(Trajets, la_position_dit_ce_que_la_table_tournee_en_fait) {
 
 TEST_F(Trajets, la_roue_ne_change_le_nombre_d_aucune_barre) {
     ouvrir();
-    sim->options().choisir_robots(5);
+    options().choisir_robots(5);
     dans_console<QScrollBar>("VScroll1").setValue(2);
     for (auto* barre : sim->findChildren<QScrollBar*>("VScroll1")) {
         const int avant = barre->value();
@@ -256,13 +256,14 @@ TEST_F(Trajets, la_question_se_lit_en_entier) {
     const int ordinaire = Mess.height();
     for (const int largeur : {1200, 400, 200}) {
         sim->resize(largeur, 700);
-        sim->ecrire_texte_Mess("Vous avez modifié le trajet du robot 1\r\nDoit-on le sauvegarder "
-                               "?\r\n( Fichier : /un/chemin/" +
-                               std::string(150, 'x') + "/Defaut Trajet1.ini");
+        fenetres().ecrire_texte_Mess(
+            "Vous avez modifié le trajet du robot 1\r\nDoit-on le sauvegarder "
+            "?\r\n( Fichier : /un/chemin/" +
+            std::string(150, 'x') + "/Defaut Trajet1.ini");
         const int chemin = Mess.fontMetrics().horizontalAdvance(QString(150, 'x'));
         EXPECT_GE(Mess.height(), (2 + chemin / largeur) * Mess.fontMetrics().height()) << largeur;
     }
-    sim->ecrire_Mess({});
+    fenetres().ecrire_Mess({});
     EXPECT_LE(Mess.height(), 3 * Mess.fontMetrics().height() + 8);
     EXPECT_GT(ordinaire, 0);
 }

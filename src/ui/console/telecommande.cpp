@@ -1,10 +1,10 @@
 #include "ui/console/telecommande.h"
 
 #include "record/lignes_du_trajet.h"
+#include "seance/seance.h"
 #include "ui/commun/boites.h"
-#include "ui/commun/garde.h"
+#include "ui/commun/bureau.h"
 #include "ui/commun/place.h"
-#include "ui/principale/sim1.h"
 
 #include <QAction>
 #include <QDateTime>
@@ -35,20 +35,33 @@ private:
 
 } // namespace
 
-Télécommande::Télécommande(Sim1& sim, Reprise& reprise)
-    : QWidget(&sim, Qt::Dialog | Qt::WindowCloseButtonHint),
-      sim_(sim),
-      reprise_(reprise),
-      console_(sim.etat(), sim, sim.moteur(), &reprise) {
+Télécommande::Télécommande(QWidget* parent, Seance& seance, Bureau& bureau,
+                           std::function<std::string()> nbre_carreaux)
+    : QWidget(parent, Qt::Dialog | Qt::WindowCloseButtonHint),
+      seance_(seance),
+      bureau_(bureau),
+      console_(seance.etat(), seance.fenetres(), seance.moteur(), &seance.reprise()) {
     nommer();
     nommer_champs();
     placer();
     connecter();
     connecter_touches();
-    console_.nbre_carreaux = [this] { return sim_.options().nbre_carreaux.text().toStdString(); };
+    console_.nbre_carreaux = std::move(nbre_carreaux);
+    console_.au_changement = [this] { seance_.annonces().annoncer(&Ecouteur::trajet_change); };
     VScroll1_Change();
     actualiser();
     retenir_place(*this);
+    ecouter(seance.annonces());
+}
+
+void Télécommande::projet_change(Lecture lecture) {
+    if (lecture != Lecture::table)
+        recommencer();
+}
+
+void Télécommande::reglages_changes() {
+    suivre_nombre_de_robots();
+    indiquer_position();
 }
 
 void Télécommande::Active_Desactive(bool Status) {
@@ -155,7 +168,7 @@ void Télécommande::VScroll1_Change() {
 }
 
 void Télécommande::indiquer_position() {
-    const LimitesPose limites = limites_de_position(sim_.etat());
+    const LimitesPose limites = limites_de_position(seance_.etat());
     const auto dehors = [this](QLineEdit& champ, int limite) {
         bool nombre = false;
         const double valeur = champ.text().toDouble(&nombre);
@@ -173,7 +186,7 @@ void Télécommande::indiquer_position() {
     const bool Y_dehors = dehors(TextY, limites.Y);
     const QString etendue = QString("%1 × %2 cm").arg(int{limites.X}).arg(int{limites.Y});
     QStringList textes;
-    if (const int ecart = ecart_de_relecture(sim_.etat()); ecart != 0)
+    if (const int ecart = ecart_de_relecture(seance_.etat()); ecart != 0)
         textes << QString("Table tournée : tapez X et Y de la table droite\n(%1). Le X que le "
                           "programme relit\na %2 cm de %3.")
                       .arg(etendue)
@@ -200,7 +213,7 @@ void Télécommande::Command9_Click() {
 
 void Télécommande::Command2_Click() {
     hide();
-    sim_.montrer_options();
+    bureau_.montrer_options();
 }
 
 void Télécommande::annuler() {
@@ -213,7 +226,7 @@ void Télécommande::annuler() {
 
 void Télécommande::continuer_le_dernier() {
     suivre_nombre_de_robots();
-    if (const int robot = robot_enregistre_en_dernier(sim_.etat()); robot != 0)
+    if (const int robot = robot_enregistre_en_dernier(seance_.etat()); robot != 0)
         continuer(robot);
     else
         recommencer();
@@ -233,8 +246,7 @@ void Télécommande::remplir_menu() {
     if (console_.continuation_possible(robot)) {
         QAction* continuer_ici =
             menu_reprendre_.addAction(QString("Continuer le trajet du robot %1").arg(robot));
-        connect(continuer_ici, &QAction::triggered, this,
-                [this, robot] { garde(sim_, [&] { continuer(robot); }); });
+        connect(continuer_ici, &QAction::triggered, this, [this, robot] { continuer(robot); });
     }
     ajouter_les_gardes();
     if (menu_reprendre_.isEmpty())
@@ -242,7 +254,7 @@ void Télécommande::remplir_menu() {
 }
 
 void Télécommande::ajouter_les_gardes() {
-    for (const EnregistrementGarde& g : reprise_.gardes()) {
+    for (const EnregistrementGarde& g : seance_.reprise().gardes()) {
         QString nom = QFileInfo(QString::fromStdString(g.fichier.string()))
                           .lastModified()
                           .toString("dd/MM/yyyy HH:mm:ss");
@@ -250,10 +262,8 @@ void Télécommande::ajouter_les_gardes() {
             nom +=
                 QString(", robot %1 (%2 actions)").arg(int{robot.numero}).arg(robot.actions.size());
         connect(menu_reprendre_.addAction(nom), &QAction::triggered, this, [this, g] {
-            garde(sim_, [&] {
-                reprise_.reprendre(sim_, g.contenu);
-                sim_.continuer_enregistrement();
-            });
+            seance_.reprendre(g.contenu);
+            bureau_.continuer_enregistrement();
         });
     }
 }
@@ -262,8 +272,8 @@ void Télécommande::keyPressEvent(QKeyEvent* evenement) {
     if (evenement->key() != Qt::Key_Escape)
         return QWidget::keyPressEvent(evenement);
     // First what runs, then the window.
-    if (!sim_.arreter_course())
-        garde(sim_, [this] { Command2_Click(); });
+    if (!bureau_.arreter_course())
+        Command2_Click();
 }
 
 bool Télécommande::arreter_action() {
@@ -281,7 +291,7 @@ void Télécommande::showEvent(QShowEvent* evenement) {
 // Not while recording: the robot that is driven stays the one that is shown.
 void Télécommande::suivre_nombre_de_robots() {
     if (console_.phase() == Console::Phase::arret)
-        VScroll1.setMaximum(sim_.etat().NbRobot);
+        VScroll1.setMaximum(seance_.etat().NbRobot);
 }
 
 bool Télécommande::eventFilter(QObject* objet, QEvent* evenement) {
@@ -314,8 +324,7 @@ void Télécommande::surligner(const actions::Action* action) {
 
 void Télécommande::connecter() {
     const auto relier = [this](QPushButton& bouton, auto procedure) {
-        connect(&bouton, &QPushButton::clicked, this,
-                [this, procedure] { garde(sim_, procedure); });
+        connect(&bouton, &QPushButton::clicked, this, procedure);
     };
     for (std::size_t k = 0; k < nb_actions; ++k) {
         relier(Command4.at(k), [this, k] { Command4_Click(k); });
@@ -323,12 +332,10 @@ void Télécommande::connecter() {
     }
     relier(Command9, [this] { Command9_Click(); });
     Command9.installEventFilter(this);
-    connect(&menu_reprendre_, &QMenu::aboutToShow, this,
-            [this] { garde(sim_, [this] { remplir_menu(); }); });
+    connect(&menu_reprendre_, &QMenu::aboutToShow, this, [this] { remplir_menu(); });
     for (QLineEdit* champ : {&TextX, &TextY})
         connect(champ, &QLineEdit::textChanged, this, [this] { indiquer_position(); });
     relier(Command2, [this] { Command2_Click(); });
     relier(annuler_, [this] { annuler(); });
-    connect(&VScroll1, &QScrollBar::valueChanged, this,
-            [this] { garde(sim_, [this] { VScroll1_Change(); }); });
+    connect(&VScroll1, &QScrollBar::valueChanged, this, [this] { VScroll1_Change(); });
 }

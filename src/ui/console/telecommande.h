@@ -1,6 +1,7 @@
 #pragma once
 
 #include "record/console.h"
+#include "seance/annonces.h"
 #include "sim/actions.h"
 #include "ui/commun/barre_nombre.h"
 
@@ -13,34 +14,31 @@
 
 #include <array>
 
-class Sim1;
+class Bureau;
+class Seance;
 class QGridLayout;
 class QLayout;
 
 /// The remote-control console: drives one robot action by action and records what it does. The
 /// model is record/console.h; this is its window.
-class Télécommande final : public QWidget {
+class Télécommande final : public QWidget, private Ecouteur {
 public:
-    Télécommande(Sim1& sim, Reprise& reprise);
+    /// @param nbre_carreaux  the text of the tile count's box
+    Télécommande(QWidget* parent, Seance& seance, Bureau& bureau,
+                 std::function<std::string()> nbre_carreaux);
 
     /// Enables or disables the action fields and buttons.
     void Active_Desactive(bool Status);
     /// The engine's word that the driven action is over, or that the run has ended.
     void action_finie();
-    /// A project was loaded or the table turned: no recording goes on, the pose is read again.
-    void recommencer();
     void VScroll1_Change();
     void Command4_Click(std::size_t k);
     void Command9_Click();
     void Command2_Click();
-    /// There are more or fewer robots to choose from.
-    void suivre_nombre_de_robots();
     /// Ends the action that the robot is driven through. @returns false when there is none
     bool arreter_action();
     /// Goes on with the path that was recorded last, if it can be.
     void continuer_le_dernier();
-    /// Says where the typed position lies, and what a turned table does to it.
-    void indiquer_position();
     /// A tick is over: the time of the match is shown by the second.
     void suivre_le_temps();
 
@@ -70,7 +68,16 @@ private:
         nb_legendes
     };
 
+    void projet_change(Lecture lecture) override;
+    void reglages_changes() override;
+
     void Debut_Fin_Enr(bool Status);
+    /// Another project was loaded: no recording goes on, the pose is read again.
+    void recommencer();
+    /// There are more or fewer robots to choose from.
+    void suivre_nombre_de_robots();
+    /// Says where the typed position lies, and what a turned table does to it.
+    void indiquer_position();
     void annuler();
     void continuer(int robot);
     void remplir_menu();
@@ -90,12 +97,13 @@ private:
     void connecter();
     void connecter_touches();
 
-    Sim1& sim_;
-    Reprise& reprise_;
+    Seance& seance_;
+    Bureau& bureau_;
     Console console_;
-    std::array<QPushButton, nb_actions> Command4;
     std::array<QLabel, nb_legendes> Label1;
     QLineEdit Text1, Text4, TextX, TextY, TextA;
+    /// Behind the fields: one that loses the keyboard by its end still changes their colour.
+    std::array<QPushButton, nb_actions> Command4;
     BarreNombre VScroll1;
     QLabel NbRO;
     QPushButton Command9, Command2;

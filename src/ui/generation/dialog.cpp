@@ -1,13 +1,13 @@
 #include "ui/generation/dialog.h"
 
 #include "record/origine.h"
+#include "seance/seance.h"
 #include "ui/commun/boites.h"
+#include "ui/commun/bureau.h"
 #include "ui/commun/garde.h"
 #include "ui/commun/place.h"
 #include "ui/generation/ouv_generation.h"
 #include "ui/generation/visualiser.h"
-#include "ui/principale/restauration.h"
-#include "ui/principale/sim1.h"
 
 #include <QCloseEvent>
 #include <QSettings>
@@ -34,9 +34,10 @@ std::vector<std::filesystem::path> dossiers_de_generation() {
     return dossiers;
 }
 
-Dialog::Dialog(Sim1& sim)
-    : QWidget(&sim, Qt::Window),
-      sim_(sim),
+Dialog::Dialog(QWidget* parent, Seance& seance, Bureau& bureau)
+    : QWidget(parent, Qt::Window),
+      seance_(seance),
+      bureau_(bureau),
       depart_({"Drive1",
                "Dir1",
                "File1",
@@ -75,7 +76,7 @@ void Dialog::Form_Load() {
         std::error_code erreur;
         return std::filesystem::is_directory(dossier, erreur)
                    ? dossier
-                   : sim_.projet().dossier_configuration();
+                   : seance_.projet().dossier_configuration();
     };
     depart_.dossiers.aller(dernier(cle_depart));
     entree_.dossiers.aller(dernier(cle_entree));
@@ -101,31 +102,32 @@ Demande Dialog::demande() const {
 
 void Dialog::generer_Click() {
     compte_rendu_.clear(); // what it says is of the former attempt
-    garde(sim_, [this] { generer_et_montrer(); });
+    garde(seance_.fenetres(), [this] { generer_et_montrer(); });
     if (compte_rendu_.text().isEmpty())
         compte_rendu_.setText("Rien n'a été généré. " + texte_qt(rappel_options));
     compte_rendu_.show();
     // Whatever happened: only the result and this window matter now.
-    sim_.cacher_options_et_console();
+    bureau_.cacher_options_et_console();
     repos_.start();
 }
 
 void Dialog::generer_et_montrer() {
     const Demande d = demande();
     if (const Refus refus = verifier(d))
-        return sim_.message(refus.message, refus.conseil + (refus.conseil.empty() ? "" : "\n\n") +
-                                               std::string(rappel_options));
+        return seance_.fenetres().message(refus.message, refus.conseil +
+                                                             (refus.conseil.empty() ? "" : "\n\n") +
+                                                             std::string(rappel_options));
     retenir_dossiers();
-    const auto dossier = sim_.projet().dossier_configuration() / "Sauvegardes";
+    const auto dossier = seance_.projet().dossier_configuration() / "Sauvegardes";
     try {
         dire_ce_qui_a_change("Fichier généré : ", ::generer(d, dossier, [this](std::string_view q) {
-                                 return sim_.question(q);
+                                 return seance_.fenetres().question(q);
                              }));
     } catch (const GenerationInterrompue& arret) {
         dire_ce_qui_a_change("Génération interrompue, fichier incomplet : ", arret.faite);
         throw;
     }
-    if (sim_.question(question_voir))
+    if (seance_.fenetres().question(question_voir))
         visualiser(true);
 }
 
@@ -140,7 +142,8 @@ void Dialog::dire_ce_qui_a_change(std::string texte, const Generation& generatio
 }
 
 void Dialog::visualiser(bool modal) {
-    visualiseur_ = std::make_unique<Visualiser>(sim_, fichier_a_generer.text().toStdString());
+    visualiseur_ = std::make_unique<Visualiser>(parentWidget(), seance_.fenetres(), bureau_,
+                                                fichier_a_generer.text().toStdString());
     if (modal)
         visualiseur_->setWindowModality(Qt::ApplicationModal);
     visualiseur_->Form_Load();
@@ -148,20 +151,28 @@ void Dialog::visualiser(bool modal) {
 }
 
 void Dialog::rep_defaut_Click(bool coche) {
-    fichier_a_generer.setText(coche
-                                  ? texte_qt(cible_par_defaut(sim_.projet().dossier_configuration(),
-                                                              sim_.etat().NomProjet)
-                                                 .string())
-                                  : QString());
+    fichier_a_generer.setText(
+        coche ? texte_qt(cible_par_defaut(seance_.projet().dossier_configuration(),
+                                          seance_.etat().NomProjet)
+                             .string())
+              : QString());
 }
 
-void Dialog::choisir_cible(const std::string& chemin) {
+void Dialog::cible_choisie(const std::string& chemin) {
     fichier_a_generer.setText(texte_qt(chemin));
+    bureau_.cacher_options_et_console();
+    parentWidget()->show();
+    bureau_.montrer_options();
+    show();
+    raise();
+    activateWindow();
 }
 
 void Dialog::Choisir_Click() {
     if (!ouv_generation_)
-        ouv_generation_ = std::make_unique<OuvGeneration>(sim_, *this);
+        ouv_generation_ = std::make_unique<OuvGeneration>(
+            parentWidget(), seance_.projet().dossier_application(),
+            [this](const std::string& chemin) { cible_choisie(chemin); });
     ouv_generation_->show();
     ouv_generation_->raise();
     ouv_generation_->activateWindow();
@@ -174,35 +185,31 @@ void Dialog::visu_gene_Click() {
 void Dialog::Fermer_Click() {
     retenir_dossiers();
     hide();
-    sim_.montrer_options();
+    bureau_.montrer_options();
 }
 
 void Dialog::closeEvent(QCloseEvent*) {
-    if (!sim_.terminee())
+    if (!seance_.terminee())
         Fermer_Click();
 }
 
 void Dialog::showEvent(QShowEvent* evenement) {
     QWidget::showEvent(evenement);
-    garde(sim_, [this] {
-        if (entree_.fichier().empty() || projet_preselectionne_ != sim_.etat().NomProjet)
-            preselectionner();
-    });
+    if (entree_.fichier().empty() || projet_preselectionne_ != seance_.etat().NomProjet)
+        preselectionner();
 }
 
 void Dialog::connecter() {
     const auto relier = [this](QPushButton& bouton, void (Dialog::*procedure)()) {
-        connect(&bouton, &QPushButton::clicked, this,
-                [this, procedure] { garde(sim_, [&] { (this->*procedure)(); }); });
+        connect(&bouton, &QPushButton::clicked, this, procedure);
     };
     relier(generer, &Dialog::generer_Click);
     relier(Choisir, &Dialog::Choisir_Click);
     relier(visu_gene, &Dialog::visu_gene_Click);
     relier(Fermer, &Dialog::Fermer_Click);
-    connect(&restaurer_, &QPushButton::clicked, this,
-            [this] { garde(sim_, [this] { montrer_restauration(sim_); }); });
+    connect(&restaurer_, &QPushButton::clicked, this, [this] { bureau_.montrer_restauration(); });
     connect(&rep_defaut, &QCheckBox::toggled, this,
-            [this](bool coche) { garde(sim_, [&] { rep_defaut_Click(coche); }); });
+            [this](bool coche) { rep_defaut_Click(coche); });
 
     entree_.fichiers.marque = [](const std::filesystem::path& fichier) {
         const auto projet = projet_du_fichier(fichier);
@@ -210,8 +217,7 @@ void Dialog::connecter() {
     };
     repos_.setSingleShot(true);
     repos_.setInterval(250);
-    connect(&repos_, &QTimer::timeout, this,
-            [this] { garde(sim_, [this] { rafraichir_apercu(); }); });
+    connect(&repos_, &QTimer::timeout, this, [this] { rafraichir_apercu(); });
     const auto attendre = [this] { repos_.start(); };
     for (ChoixFichier* choix : {&depart_, &entree_}) {
         choix->au_changement = [this, choix](bool dossier) {

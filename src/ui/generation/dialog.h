@@ -18,8 +18,9 @@
 #include <string>
 #include <vector>
 
-class Sim1;
+class Bureau;
 class OuvGeneration;
+class Seance;
 class Visualiser;
 
 /// The folders where programs were last taken from, generated to, and inputs taken from.
@@ -29,7 +30,7 @@ std::vector<std::filesystem::path> dossiers_de_generation();
 /// beforehand what would change.
 class Dialog final : public QWidget {
 public:
-    explicit Dialog(Sim1& sim);
+    Dialog(QWidget* parent, Seance& seance, Bureau& bureau);
     ~Dialog() override;
 
     void Form_Load();
@@ -38,13 +39,13 @@ public:
     void Choisir_Click();
     void visu_gene_Click();
     void Fermer_Click();
-    void choisir_cible(const std::string& chemin);
 
 protected:
     void closeEvent(QCloseEvent* evenement) override;
     void showEvent(QShowEvent* evenement) override;
 
 private:
+    void cible_choisie(const std::string& chemin);
     Demande demande() const;
     void generer_et_montrer();
     void dire_ce_qui_a_change(std::string texte, const Generation& generation);
@@ -62,7 +63,8 @@ private:
     QLayout* placer_boutons();
     void connecter();
 
-    Sim1& sim_;
+    Seance& seance_;
+    Bureau& bureau_;
     ChoixFichier depart_, entree_;
     QLabel Label1, Label2, Label3, lb_nomFoncionGeneration;
     QLineEdit fichier_a_generer, Txt_NomFctGen;

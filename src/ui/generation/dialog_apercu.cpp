@@ -2,9 +2,9 @@
 // preview and the warnings.
 #include "codegen/apercu.h"
 #include "record/origine.h"
+#include "seance/seance.h"
 #include "ui/commun/boites.h"
 #include "ui/generation/dialog.h"
-#include "ui/principale/sim1.h"
 
 #include <QStyle>
 
@@ -37,7 +37,7 @@ QString texte_apercu(const Apercu& apercu) {
 // Inputs of the present project come first to mind; the newest holds the latest recording.
 void Dialog::preselectionner() {
     namespace fs = std::filesystem;
-    projet_preselectionne_ = sim_.etat().NomProjet;
+    projet_preselectionne_ = seance_.etat().NomProjet;
     std::error_code erreur;
     fs::file_time_type date = fs::file_time_type::min();
     std::string choix;
@@ -59,7 +59,7 @@ void Dialog::avertir(const std::vector<std::string>& phrases) {
 }
 
 void Dialog::avertir_de_l_entree(const std::filesystem::path& entree) {
-    const std::string& charge = sim_.etat().NomProjet;
+    const std::string& charge = seance_.etat().NomProjet;
     if (const auto projet = projet_du_fichier(entree); projet && *projet != charge)
         avertir({entree.filename().string() + " est du projet " + *projet +
                  " ; le projet chargé est " + charge});

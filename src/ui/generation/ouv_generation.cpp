@@ -1,28 +1,25 @@
 #include "ui/generation/ouv_generation.h"
 
 #include "ui/commun/boites.h"
-#include "ui/commun/garde.h"
 #include "ui/commun/place.h"
-#include "ui/generation/dialog.h"
-#include "ui/principale/sim1.h"
 
 #include <QFileDialog>
 #include <QGridLayout>
 
-OuvGeneration::OuvGeneration(Sim1& sim, Dialog& dialog)
-    : QWidget(&sim, Qt::Dialog | Qt::WindowCloseButtonHint), sim_(sim), dialog_(dialog) {
+OuvGeneration::OuvGeneration(QWidget* parent, const std::filesystem::path& dossier,
+                             std::function<void(const std::string& chemin)> choisi)
+    : QWidget(parent, Qt::Dialog | Qt::WindowCloseButtonHint), choisi_(std::move(choisi)) {
     nommer();
     placer();
     Lect_Gen.au_choix = [this](const std::filesystem::path& racine) { Rep_Gen.aller(racine); };
     Rep_Gen.au_changement = [this] { Lect_Gen.suivre(Rep_Gen.chemin()); };
     const auto relier = [this](QPushButton& bouton, void (OuvGeneration::*procedure)()) {
-        connect(&bouton, &QPushButton::clicked, this,
-                [this, procedure] { garde(sim_, [&] { (this->*procedure)(); }); });
+        connect(&bouton, &QPushButton::clicked, this, procedure);
     };
     relier(Nouveau, &OuvGeneration::Nouveau_Click);
     relier(Fermer, &OuvGeneration::Fermer_Click);
     relier(parcourir_, &OuvGeneration::parcourir_Click);
-    Rep_Gen.aller(sim.projet().dossier_application());
+    Rep_Gen.aller(dossier);
     retenir_place(*this);
 }
 
@@ -75,12 +72,6 @@ void OuvGeneration::Nouveau_Click() {
     std::string chemin = Rep_Gen.chemin().string();
     if (!chemin.ends_with('/'))
         chemin += '/';
-    dialog_.choisir_cible(chemin + NomFicGenere.text().toStdString());
     hide();
-    sim_.cacher_options_et_console();
-    sim_.show();
-    sim_.montrer_options();
-    dialog_.show();
-    dialog_.raise();
-    dialog_.activateWindow();
+    choisi_(chemin + NomFicGenere.text().toStdString());
 }

@@ -7,13 +7,17 @@
 #include <QPushButton>
 #include <QWidget>
 
-class Sim1;
-class Dialog;
+#include <filesystem>
+#include <functional>
+#include <string>
 
 /// Picks the target of a generation by directory and name.
 class OuvGeneration final : public QWidget {
 public:
-    OuvGeneration(Sim1& sim, Dialog& dialog);
+    /// @param dossier  shown at first
+    /// @param choisi   hears of the target once this window is hidden
+    OuvGeneration(QWidget* parent, const std::filesystem::path& dossier,
+                  std::function<void(const std::string& chemin)> choisi);
 
     void Nouveau_Click();
     void Fermer_Click() { hide(); }
@@ -23,8 +27,7 @@ private:
     void placer();
     void parcourir_Click();
 
-    Sim1& sim_;
-    Dialog& dialog_;
+    std::function<void(const std::string&)> choisi_;
     ListeLecteurs Lect_Gen;
     ListeDossiers Rep_Gen;
     QLineEdit NomFicGenere;

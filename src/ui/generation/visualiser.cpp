@@ -1,10 +1,10 @@
 #include "ui/generation/visualiser.h"
 
 #include "base/fichiers.h"
+#include "sim/fenetres.h"
 #include "ui/commun/boites.h"
-#include "ui/commun/garde.h"
+#include "ui/commun/bureau.h"
 #include "ui/commun/place.h"
-#include "ui/principale/sim1.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -16,12 +16,14 @@
 
 #include <algorithm>
 
-Visualiser::Visualiser(Sim1& sim, std::filesystem::path FichierVisu)
-    : QWidget(&sim, Qt::Window),
-      sim_(sim),
+Visualiser::Visualiser(QWidget* parent, Fenetres& fenetres, Bureau& bureau,
+                       std::filesystem::path FichierVisu)
+    : QWidget(parent, Qt::Window),
+      fenetres_(fenetres),
+      bureau_(bureau),
       FichierVisu_(std::move(FichierVisu)),
       coloration_(Visu.document(), palette()),
-      veilleur_([this] { garde(sim_, [this] { relire(); }); }) {
+      veilleur_([this] { relire(); }) {
     nommer();
     placer();
     connecter();
@@ -90,16 +92,13 @@ void Visualiser::placer() {
 
 void Visualiser::connecter() {
     const auto relier = [this](QPushButton& bouton, void (Visualiser::*procedure)()) {
-        connect(&bouton, &QPushButton::clicked, this,
-                [this, procedure] { garde(sim_, [&] { (this->*procedure)(); }); });
+        connect(&bouton, &QPushButton::clicked, this, procedure);
     };
     relier(Fermer, &Visualiser::Fermer_Click);
     relier(chercher_, &Visualiser::chercher);
     relier(retour_, &Visualiser::revenir);
-    connect(&LFonc, &QListWidget::currentRowChanged, this,
-            [this] { garde(sim_, [this] { LFonc_Click(); }); });
-    connect(&recherche_, &QLineEdit::returnPressed, this,
-            [this] { garde(sim_, [this] { chercher(); }); });
+    connect(&LFonc, &QListWidget::currentRowChanged, this, [this] { LFonc_Click(); });
+    connect(&recherche_, &QLineEdit::returnPressed, this, [this] { chercher(); });
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, &recherche_, [this] {
         recherche_.setFocus();
         recherche_.selectAll();
@@ -108,9 +107,7 @@ void Visualiser::connecter() {
             &QPushButton::click);
     connect(new QShortcut(QKeySequence::Back, this), &QShortcut::activated, &retour_,
             &QPushButton::click);
-    Visu.au_double_clic = [this](const QString& ligne, int colonne) {
-        garde(sim_, [&] { suivre(ligne, colonne); });
-    };
+    Visu.au_double_clic = [this](const QString& ligne, int colonne) { suivre(ligne, colonne); };
 }
 
 void Visualiser::lire() {
@@ -128,8 +125,8 @@ void Visualiser::Form_Load() {
     try {
         lire();
     } catch (const ErreurExecution& erreur) {
-        sim_.message("Erreur lors de la lecture du fichier " + FichierVisu_.string(),
-                     std::string("Raison : ") + erreur.what());
+        fenetres_.message("Erreur lors de la lecture du fichier " + FichierVisu_.string(),
+                          std::string("Raison : ") + erreur.what());
         return;
     }
     const QString fichier = texte_qt(FichierVisu_.string());
@@ -194,8 +191,8 @@ void Visualiser::suivre(const QString& ligne, int colonne) {
             trouve = autre;
     const auto rang = chercher_etiquette(etiquettes_, trouve.captured(1).toStdString());
     if (!rang)
-        return sim_.message("L'étiquette " + trouve.captured(1).toStdString() +
-                            " n'est pas dans ce fichier.");
+        return fenetres_.message("L'étiquette " + trouve.captured(1).toStdString() +
+                                 " n'est pas dans ce fichier.");
     chemin_suivi_.push_back(LFonc.currentRow());
     retour_.setEnabled(true);
     choisir(int(*rang));
@@ -223,12 +220,12 @@ void Visualiser::chercher() {
         Visu.find(texte);
         return;
     }
-    sim_.message("« " + texte.toStdString() + " » ne se trouve dans aucune fonction.");
+    fenetres_.message("« " + texte.toStdString() + " » ne se trouve dans aucune fonction.");
 }
 
 void Visualiser::Fermer_Click() {
     close();
-    sim_.cacher_options_et_console();
+    bureau_.cacher_options_et_console();
 }
 
 void Visualiser::keyPressEvent(QKeyEvent* evenement) {

@@ -14,13 +14,15 @@
 #include <memory>
 #include <vector>
 
-class Sim1;
+class Bureau;
+class Fenetres;
 
 /// Lists the labels of a PICBASIC file and shows the body of the one selected. A file that changes
 /// on the disk is read again.
 class Visualiser final : public QWidget {
 public:
-    Visualiser(Sim1& sim, std::filesystem::path FichierVisu);
+    Visualiser(QWidget* parent, Fenetres& fenetres, Bureau& bureau,
+               std::filesystem::path FichierVisu);
 
     void Form_Load();
     void LFonc_Click();
@@ -40,7 +42,8 @@ private:
     void revenir();
     void chercher();
 
-    Sim1& sim_;
+    Fenetres& fenetres_;
+    Bureau& bureau_;
     std::filesystem::path FichierVisu_;
     std::unique_ptr<Programme> programme_;
     std::vector<Etiquette> etiquettes_;

@@ -1,8 +1,9 @@
 #include "ui/principale/editeurs.h"
 
+#include "seance/seance.h"
+#include "ui/commun/bureau.h"
 #include "ui/commun/garde.h"
 #include "ui/commun/place.h"
-#include "ui/principale/sim1.h"
 
 #include <QAction>
 #include <QScreen>
@@ -13,25 +14,30 @@
 namespace {
 
 /// What "Charger" does once a project is chosen.
-void charger_projet(Sim1& sim, const std::string& projet) {
-    sim.SauvRobot();
-    sim.etat().NomProjet = projet;
-    sim.charger_projet_choisi();
+void charger_projet(Seance& seance, Bureau& bureau, const std::string& projet) {
+    seance.SauvRobot();
+    seance.etat().NomProjet = projet;
+    bureau.charger_projet_choisi();
 }
 
-FenetreEditeur::Programme programme(Sim1& sim) {
-    return {sim.projet().dossier_configuration(),
-            [&sim](const std::string& projet) { garde(sim, [&] { charger_projet(sim, projet); }); },
-            [&sim](const std::filesystem::path& fichier) { sim.fichier_ecrit(fichier); }};
+FenetreEditeur::Programme programme(Seance& seance, Bureau& bureau) {
+    return {seance.projet().dossier_configuration(),
+            [&](const std::string& projet) {
+                garde(seance.fenetres(), [&] { charger_projet(seance, bureau, projet); });
+            },
+            [&](const std::filesystem::path& fichier) {
+                seance.annonces().annoncer(&Ecouteur::fichier_ecrit, fichier);
+            }};
 }
 
 } // namespace
 
-Editeurs::Editeurs(Sim1& sim)
-    : sim_(sim),
-      outils_(*new Foutil(&sim)),
-      table_(*new dessinTable(&sim, outils_, programme(sim))),
-      robot_(*new dessinRobot(&sim, outils_, programme(sim))) {
+Editeurs::Editeurs(QWidget* principale, Seance& seance, Bureau& bureau)
+    : principale_(*principale),
+      seance_(seance),
+      outils_(*new Foutil(principale)),
+      table_(*new dessinTable(principale, outils_, programme(seance, bureau))),
+      robot_(*new dessinRobot(principale, outils_, programme(seance, bureau))) {
     outils_.au_choix_d_outil = [this] { table_.outil_change(); };
     outils_.au_choix_du_dessin = [this] { montrer_dessin(); };
     outils_.a_l_annulation = [this](const char* commande) {
@@ -51,7 +57,7 @@ void Editeurs::montrer() {
 void Editeurs::montrer_dessin() {
     const bool robot = outils_.chx_dessinRobot.isChecked();
     if (robot)
-        robot_.regler_table(sim_.etat());
+        robot_.regler_table(seance_.etat());
     QWidget& dessin = robot ? static_cast<QWidget&>(robot_) : table_;
     dessin.show();
     dessin.raise();
@@ -62,7 +68,7 @@ void Editeurs::montrer_dessin() {
 void Editeurs::placer() {
     if (std::exchange(places_, true))
         return;
-    const QRect ecran = sim_.screen()->availableGeometry();
+    const QRect ecran = principale_.screen()->availableGeometry();
     constexpr int marge = 8;
     outils_.move(ecran.topLeft() + QPoint(marge, 4 * marge)); // its title bar above
     const int gauche = ecran.left() + outils_.sizeHint().width() + 3 * marge;
@@ -92,7 +98,7 @@ void Editeurs::partir() {
 void Editeurs::proposer_reprises() {
     for (const bool robot : {false, true}) {
         FenetreEditeur& dessin = robot ? static_cast<FenetreEditeur&>(robot_) : table_;
-        if (!dessin.proposer_reprise(sim_))
+        if (!dessin.proposer_reprise(seance_.fenetres()))
             continue;
         outils_.suivre(robot ? GenreFichier::robot : GenreFichier::table);
         montrer();

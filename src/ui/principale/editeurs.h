@@ -4,12 +4,13 @@
 #include "ui/editeurs/dessin_table.h"
 #include "ui/editeurs/foutil.h"
 
-class Sim1;
+class Bureau;
+class Seance;
 
 /// The palette and the drawing windows that it opens.
 class Editeurs {
 public:
-    explicit Editeurs(Sim1& sim);
+    Editeurs(QWidget* principale, Seance& seance, Bureau& bureau);
 
     /// "Créer un projet...": the palette and the editor of what it draws.
     void montrer();
@@ -27,7 +28,8 @@ private:
     void montrer_dessin();
     void placer();
 
-    Sim1& sim_;
+    QWidget& principale_;
+    Seance& seance_;
     // The windows belong to the main window, like all others.
     Foutil& outils_;
     dessinTable& table_;

@@ -1,11 +1,9 @@
 #include "ui/principale/foption.h"
 
 #include "sim/damier.h"
-#include "sim/orientation.h"
-#include "ui/commun/boites.h"
+#include "ui/commun/bureau.h"
 #include "ui/commun/place.h"
 #include "ui/principale/ouvrir.h"
-#include "ui/principale/sim1.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -14,12 +12,25 @@ QSize CaseLibelle::sizeHint() const {
     return fontMetrics().size(Qt::TextShowMnemonic, text()).grownBy({0, 2, 0, 2});
 }
 
-FOption::FOption(Sim1& sim) : QWidget(&sim, Qt::Dialog | Qt::WindowCloseButtonHint), sim_(sim) {
+FOption::FOption(QWidget* parent, Seance& seance, Bureau& bureau)
+    : QWidget(parent, Qt::Dialog | Qt::WindowCloseButtonHint), seance_(seance), bureau_(bureau) {
     nommer();
     placer();
     connecter();
     retenir_place(*this);
     Form_Load();
+    ecouter(seance.annonces());
+}
+
+void FOption::projet_change(Lecture lecture) {
+    if (lecture == Lecture::projet)
+        modifie = true;
+}
+
+void FOption::montrer() {
+    show();
+    raise();
+    activateWindow();
 }
 
 void FOption::appliquer(const Tableau<Entier16, 4>& Options) {
@@ -54,32 +65,23 @@ void FOption::montrer_course(bool en_cours) {
 }
 
 void FOption::Check1_Click(bool coche) {
-    sim_.etat().AffichageLent = vrai16(!coche);
+    seance_.etat().AffichageLent = vrai16(!coche);
     modifie = true;
 }
 
 void FOption::Check2_Click(bool coche) {
-    sim_.etat().PasTemps = coche ? 5 : 1;
+    seance_.etat().PasTemps = coche ? 5 : 1;
     modifie = true;
 }
 
 void FOption::Check3_Click(bool coche) {
-    Etat& e = sim_.etat();
     try {
-        coche ? horizontal(e) : vertical(e);
-    } catch (const ErreurExecution&) { // nothing is turned: the box says so
+        seance_.tourner_la_table(coche);
+    } catch (const ErreurExecution&) { // the box says what is turned
         const QSignalBlocker muet(&Check3);
-        Check3.setChecked(!coche);
+        Check3.setChecked(seance_.etat().TableHorizontale != 0);
         throw;
     }
-    e.TableHorizontale = vrai16(coche);
-    sim_.Init_Table();
-    e.persistant = true;
-    sim_.Dessine_Table();
-    if (!e.AffichageLent)
-        e.persistant = false;
-    sim_.Dessine_Robot();
-    sim_.table_tournee();
     avertir_du_damier();
     modifie = true;
 }
@@ -91,17 +93,14 @@ void FOption::VScroll1_Change(int valeur) {
 }
 
 void FOption::NbRO_Change() {
-    sim_.etat().NbRobot = lire_entier16(NbRO.text().toStdString());
-    sim_.robots_changes();
-    sim_.Dessine_Table();
-    sim_.Dessine_Robot();
+    seance_.changer_NbRobot(lire_entier16(NbRO.text().toStdString()));
     modifie = true;
 }
 
 void FOption::utiliDamier_Click(bool coche) {
-    sim_.etat().utiliDamier = coche;
+    seance_.etat().utiliDamier = coche;
     if (coche)
-        initDamier(sim_.etat());
+        initDamier(seance_.etat());
     lb_utilcarreaux.setVisible(coche);
     nbre_carreaux.setVisible(coche);
     avertir_du_damier();
@@ -114,37 +113,44 @@ void FOption::avertir_du_damier() {
 
 void FOption::Command1_Click() {
     if (Command1.text() == "Arrêter") {
-        sim_.moteur().Fin_Jeu();
+        seance_.moteur().Fin_Jeu();
         return;
     }
-    sim_.etat().RobotTele = 0;
-    sim_.moteur().Run_Jeu();
+    seance_.etat().RobotTele = 0;
+    seance_.moteur().Run_Jeu();
+}
+
+void FOption::SaveGeneral() {
+    if (modifie)
+        seance_.projet().SaveGeneral(seance_.etat().NomProjet, reglages());
 }
 
 void FOption::Command2_Click() {
-    if (!sim_.SauvRobot())
+    if (!seance_.SauvRobot())
         return;
     projet_choisi = false; // leaving the list without a choice loads nothing, whatever came before
-    Ouvrir(sim_, *this).exec();
-    if (sim_.terminee())
+    Ouvrir(this, seance_, [this](const std::string& nom) {
+        projet_choisi = true;
+        seance_.etat().NomProjet = nom;
+        SaveGeneral();
+    }).exec();
+    if (seance_.terminee())
         return;
-    sim_.montrer_options();
+    montrer();
     if (projet_choisi)
-        sim_.charger_projet_choisi();
+        bureau_.charger_projet_choisi();
 }
 
 void FOption::Command4_Click() {
-    if (!sim_.peut_partir())
+    if (!bureau_.peut_partir())
         return;
-    sim_.SaveGeneral();
-    if (!sim_.SauvRobot())
-        return;
-    sim_.partir();
-    sim_.terminer(0);
+    SaveGeneral();
+    if (seance_.SauvRobot())
+        bureau_.partir();
 }
 
 void FOption::keyPressEvent(QKeyEvent* evenement) {
-    if (evenement->key() != Qt::Key_Escape || !sim_.arreter_course())
+    if (evenement->key() != Qt::Key_Escape || !bureau_.arreter_course())
         QWidget::keyPressEvent(evenement);
 }
 
@@ -160,9 +166,6 @@ void FOption::connecter() {
     connect(&VScroll1, &QScrollBar::valueChanged, this,
             [this](int valeur) { VScroll1_Change(valeur); });
     brancher(Command1, [this] { Command1_Click(); });
-    brancher(generer, [this] { sim_.montrer_generateur(); });
-    brancher(Command5, [this] { sim_.montrer_console(); });
     brancher(Command2, [this] { Command2_Click(); });
-    brancher(Aide, [this] { sim_.montrer_aide(*this); });
     brancher(Command4, [this] { Command4_Click(); });
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "config/projet.h"
-#include "sim/etat.h"
+#include "seance/seance.h"
 #include "ui/commun/barre_nombre.h"
 
 #include <QCheckBox>
@@ -13,7 +12,7 @@
 #include <functional>
 #include <string_view>
 
-class Sim1;
+class Bureau;
 
 /// A check box that serves as a caption: no indicator, not to be ticked.
 class CaseLibelle final : public QCheckBox {
@@ -30,9 +29,9 @@ protected:
 
 /// The control panel "Option", beside the main window. Every change is applied to the main window
 /// at once and marks the settings as modified.
-class FOption final : public QWidget {
+class FOption final : public QWidget, private Ecouteur {
 public:
-    explicit FOption(Sim1& sim);
+    FOption(QWidget* parent, Seance& seance, Bureau& bureau);
 
     bool modifie = false; ///< the general settings differ from their file; never cleared again
     bool projet_choisi = false; ///< set when the user picked a project
@@ -40,8 +39,9 @@ public:
 
     /// Puts the settings just read into the boxes and the scroll bar, whose handlers apply them.
     void appliquer(const Tableau<Entier16, 4>& Options);
-    /// What the general settings file keeps.
-    ReglagesGeneraux reglages() const;
+    /// Writes the general settings if they were modified.
+    void SaveGeneral();
+    void montrer();
     /// Gives the buttons of windows that may not exist their procedure and enables them.
     void brancher(QPushButton& bouton, std::function<void()> procedure);
     /// Chooses the number of robots (1..9) after the scroll bar has got its whole range back.
@@ -64,6 +64,8 @@ protected:
     void keyPressEvent(QKeyEvent* evenement) override;
 
 private:
+    void projet_change(Lecture lecture) override;
+    ReglagesGeneraux reglages() const;
     void Check1_Click(bool coche);
     void Check2_Click(bool coche);
     void Check3_Click(bool coche);
@@ -80,7 +82,8 @@ private:
     QLayout* placer_boutons();
     void connecter();
 
-    Sim1& sim_;
+    Seance& seance_;
+    Bureau& bureau_;
     QCheckBox Check1, Check2, Check3;
     CaseLibelle Check4;
     BarreNombre VScroll1;

@@ -3,16 +3,18 @@
 #include "base/texte.h"
 #include "config/nom_projet.h"
 #include "config/projets.h"
+#include "seance/seance.h"
 #include "ui/commun/boites.h"
 #include "ui/commun/place.h"
-#include "ui/principale/sim1.h"
 
 #include <QDialogButtonBox>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
-Ouvrir::Ouvrir(Sim1& sim, QWidget& proprietaire) : QDialog(&proprietaire), sim_(sim) {
+Ouvrir::Ouvrir(QWidget* proprietaire, Seance& seance,
+               std::function<void(const std::string& projet)> choisi)
+    : QDialog(proprietaire), seance_(seance), choisi_(std::move(choisi)) {
     nommer();
     placer();
     connecter();
@@ -69,13 +71,13 @@ void Ouvrir::connecter() {
 }
 
 void Ouvrir::Form_Load() {
-    const std::filesystem::path dossier = sim_.projet().dossier_configuration();
+    const std::filesystem::path dossier = seance_.projet().dossier_configuration();
     Label2.setText("( Avec n  de 1 à 9 )");
     Label3.setText(texte_qt(" Répertoire : " + std::string(RetourLigne) + dossier.string()));
     projets_ = lister_projets(dossier);
     for (const std::string& nom : projets_)
         Combo1.addItem(texte_qt(nom));
-    const auto courant = std::find(projets_.begin(), projets_.end(), sim_.etat().NomProjet);
+    const auto courant = std::find(projets_.begin(), projets_.end(), seance_.etat().NomProjet);
     Combo1.setCurrentIndex(courant != projets_.end() ? int(courant - projets_.begin()) : 0);
 }
 
@@ -86,10 +88,8 @@ void Ouvrir::Command1_Click() {
     try {
         exiger_projet_possible(nom);
     } catch (const ErreurExecution& erreur) {
-        return sim_.message("Ce projet ne peut pas être chargé.", erreur.what());
+        return seance_.fenetres().message("Ce projet ne peut pas être chargé.", erreur.what());
     }
-    sim_.options().projet_choisi = true;
-    sim_.etat().NomProjet = nom;
-    sim_.SaveGeneral();
+    choisi_(nom);
     accept();
 }

@@ -6,16 +6,18 @@
 #include <QPushButton>
 
 #include <array>
+#include <functional>
 #include <string>
 #include <vector>
 
-class Sim1;
+class Seance;
 
-/// Lists the projects and makes the chosen one the current project; loading it is the caller's
-/// business.
+/// Lists the projects and lets the user choose one; loading it is the caller's business.
 class Ouvrir final : public QDialog {
 public:
-    Ouvrir(Sim1& sim, QWidget& proprietaire);
+    /// @param choisi  makes the chosen project the current one
+    Ouvrir(QWidget* proprietaire, Seance& seance,
+           std::function<void(const std::string& projet)> choisi);
 
     void Command1_Click();
     void Command2_Click() { reject(); }
@@ -26,7 +28,8 @@ private:
     void connecter();
     void Form_Load();
 
-    Sim1& sim_;
+    Seance& seance_;
+    std::function<void(const std::string&)> choisi_;
     std::vector<std::string> projets_; ///< as the list shows them
     std::array<QLabel, 3> Label1;
     QLabel Label2, Label3;

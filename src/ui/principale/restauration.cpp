@@ -3,11 +3,10 @@
 #include "base/difference.h"
 #include "base/fichiers.h"
 #include "base/texte.h"
+#include "seance/seance.h"
 #include "ui/commun/boites.h"
-#include "ui/commun/garde.h"
 #include "ui/commun/place.h"
 #include "ui/generation/dialog.h"
-#include "ui/principale/sim1.h"
 
 #include <QFileDialog>
 #include <QKeyEvent>
@@ -46,11 +45,11 @@ QString texte_compare(std::string_view present, std::string_view version) {
 
 } // namespace
 
-Restauration::Restauration(Sim1& sim)
-    : QWidget(&sim, Qt::Window),
-      sim_(sim),
+Restauration::Restauration(QWidget* parent, Seance& seance)
+    : QWidget(parent, Qt::Window),
+      seance_(seance),
       coloration_(apercu_.document(), palette()),
-      veilleur_([this] { garde(sim_, [this] { lister(); }); }) {
+      veilleur_([this] { lister(); }) {
     nommer();
     placer();
     connecter();
@@ -59,21 +58,16 @@ Restauration::Restauration(Sim1& sim)
 
 void Restauration::connecter() {
     connect(&Fermer, &QPushButton::clicked, this, [this] { close(); });
-    connect(&restaurer_, &QPushButton::clicked, this,
-            [this] { garde(sim_, [this] { restaurer_Click(); }); });
-    connect(&filtre_, &QComboBox::currentIndexChanged, this,
-            [this] { garde(sim_, [this] { remplir_liste(); }); });
-    connect(&liste_, &QTreeWidget::currentItemChanged, this,
-            [this] { garde(sim_, [this] { choisir(); }); });
+    connect(&restaurer_, &QPushButton::clicked, this, [this] { restaurer_Click(); });
+    connect(&filtre_, &QComboBox::currentIndexChanged, this, [this] { remplir_liste(); });
+    connect(&liste_, &QTreeWidget::currentItemChanged, this, [this] { choisir(); });
 }
 
 // Whatever was kept or changed meanwhile.
 void Restauration::showEvent(QShowEvent* evenement) {
     QWidget::showEvent(evenement);
-    garde(sim_, [this] {
-        compte_rendu_.hide();
-        lister();
-    });
+    compte_rendu_.hide();
+    lister();
 }
 
 void Restauration::keyPressEvent(QKeyEvent* evenement) {
@@ -86,8 +80,8 @@ void Restauration::lister() {
     if (!isVisible())
         return;
     std::vector<fs::path> dossiers = dossiers_de_generation();
-    dossiers.push_back(sim_.projet().dossier_application());
-    versions_ = lister_versions(sim_.projet().dossier_configuration(), sim_.etat().NomProjet,
+    dossiers.push_back(seance_.projet().dossier_application());
+    versions_ = lister_versions(seance_.projet().dossier_configuration(), seance_.etat().NomProjet,
                                 std::move(dossiers));
     remplir_filtre();
     remplir_liste();
@@ -143,7 +137,7 @@ void Restauration::choisir() {
     restaurer_.setEnabled(false);
     apercu_.clear();
     const Version* const version = choisie();
-    const fs::path configuration = sim_.projet().dossier_configuration();
+    const fs::path configuration = seance_.projet().dossier_configuration();
     veilleur_.suivre({configuration, configuration / "Sauvegardes",
                       version == nullptr ? fs::path() : version->original});
     if (version != nullptr)
@@ -178,7 +172,7 @@ void Restauration::montrer(const Version& version) {
 fs::path Restauration::destination(const Version& version) {
     if (!version.original.empty())
         return version.original;
-    const fs::path propose = sim_.projet().dossier_configuration() / version.fichier;
+    const fs::path propose = seance_.projet().dossier_configuration() / version.fichier;
     return QFileDialog::getSaveFileName(this, "Où remettre " + texte_qt(version.fichier) + " ?",
                                         texte_qt(propose.string()), {}, nullptr,
                                         QFileDialog::DontConfirmOverwrite)
@@ -194,20 +188,11 @@ void Restauration::restaurer_Click() {
     if (fichier.empty())
         return;
     const fs::path gardee = restaurer_version(
-        version.copie, fichier, sim_.projet().dossier_configuration() / "Sauvegardes");
+        version.copie, fichier, seance_.projet().dossier_configuration() / "Sauvegardes");
     std::string texte = "Restauré : " + fichier.string() + ", version du " + version.date + ".";
     if (!gardee.empty())
         texte += "\nLa version remplacée est gardée : " + gardee.filename().string();
     compte_rendu_.setText(texte_qt(texte));
     compte_rendu_.show();
     lister();
-}
-
-void montrer_restauration(Sim1& sim) {
-    auto* fenetre = sim.findChild<QWidget*>("Restauration", Qt::FindDirectChildrenOnly);
-    if (fenetre == nullptr)
-        fenetre = new Restauration(sim);
-    fenetre->show();
-    fenetre->raise();
-    fenetre->activateWindow();
 }

@@ -14,13 +14,13 @@
 #include <string>
 #include <vector>
 
-class Sim1;
+class Seance;
 
 /// Lists the dated copies of the project's files and of PICBASIC programs, shows what each would
 /// change, and puts one back. The project is then read again like any file changed from outside.
 class Restauration final : public QWidget {
 public:
-    explicit Restauration(Sim1& sim);
+    Restauration(QWidget* parent, Seance& seance);
 
 protected:
     void showEvent(QShowEvent* evenement) override;
@@ -40,7 +40,7 @@ private:
     void restaurer_Click();
     const Version* choisie() const;
 
-    Sim1& sim_;
+    Seance& seance_;
     std::vector<Version> versions_;
     QLabel titre_filtre_, titre_apercu_, compte_rendu_;
     QComboBox filtre_;
@@ -50,6 +50,3 @@ private:
     QPushButton restaurer_, Fermer;
     Veilleur veilleur_;
 };
-
-/// Shows the window of former versions, made the first time; it belongs to the main window.
-void montrer_restauration(Sim1& sim);

@@ -1,9 +1,5 @@
 #include "ui/principale/sim1.h"
 
-#include "draw/disposition.h"
-#include "draw/table.h"
-#include "sim/damier.h"
-#include "sim/orientation.h"
 #include "ui/aide/aide.h"
 #include "ui/commun/garde.h"
 #include "ui/commun/place.h"
@@ -20,19 +16,18 @@
 Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(int)> terminer)
     : e(std::make_unique<Etat>()),
       terminer_(std::move(terminer)),
-      projet_(*e, *this, dossier_application),
-      moteur_(*e, *this),
+      seance_(*e, *this, *this, dossier_application),
       Mess(LigneTexte::Sorte::etat, this),
       Info(LigneTexte::Sorte::capteur, this),
       Table(*e, *this, this),
       LNom(&Table),
       logo(&Table),
-      options_(*this),
-      reprise_(*e, projet_.dossier_configuration()),
-      surveillance_(std::make_unique<Surveillance>(*this)),
+      options_(this, seance_, bureau()),
+      surveillance_(std::make_unique<Surveillance>(seance_)),
       aide_(std::make_unique<ServiceAide>(*this)) {
     nommer();
     connecter();
+    ecouter(seance_.annonces());
 }
 
 Sim1::~Sim1() = default;
@@ -60,58 +55,45 @@ void Sim1::connecter() {
     connect(&Table, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& ou) { menu_robots(ou); });
     options_.brancher(options_.dessinAire, [this] { editeurs().montrer(); });
+    options_.brancher(options_.generer, [this] { montrer_generateur(); });
+    options_.brancher(options_.Command5, [this] { montrer_console(); });
+    options_.brancher(options_.Aide, [this] { aide_->montrer(options_); });
     Table.au_clic = [this] { Table_Click(); };
     logo.au_clic = [this] { logo_Click(); };
 }
 
 void Sim1::Form_Load() {
-    garde(*this, [this] {
-        // Shown at the end, or under the first message: a window manager heeds the place and the
-        // size that a window asks for before it appears, and the user sees no half-made window.
-        move(screen()->availableGeometry().topLeft());
-        e->NomProjet = "Defaut";
-        ecrire_LNom("\r\n\r\nArdanel Fichier de configuration par défaut");
-        Info.ecrire("");
-        charger_projet();
-    });
-    if (terminee_)
-        return;
-    garde(*this, [this] { options_.appliquer(e->Options); });
-    garde(*this, [this] {
-        options_.modifie = false;
-        Dessine_Table();
-        Dessine_Robot();
-    });
-    if (terminee_)
+    // Shown at the end, or under the first message: a window manager heeds the place and the size
+    // that a window asks for before it appears, and the user sees no half-made window.
+    move(screen()->availableGeometry().topLeft());
+    Info.ecrire("");
+    if (!seance_.demarrer())
         return;
     show();
     Table_Click();
-    garde(*this, [this] {
-        prendre_projet();
-        proposer_reprise();
-    });
+    garde(*this, [this] { proposer_reprise(); });
 }
 
-// Says so when another program has it open too.
-void Sim1::prendre_projet() {
-    if (const AvisPartage avis = reprise_.prendre_projet(); !avis.texte.empty())
-        message(avis.texte, avis.explication);
+void Sim1::appliquer_reglages() {
+    options_.appliquer(e->Options);
+    options_.modifie = false;
+}
+
+bool Sim1::apres_panne() {
+    options_.modifie = false;
+    return !terminee_;
 }
 
 // What a crash, a kill or a power cut left unsaved.
 void Sim1::proposer_reprise() {
-    const bool repris = reprise_.proposer(*this, [this](const std::string& nom) {
-        e->NomProjet = nom;
-        recharger_projet();
-    });
-    if (repris && !terminee_)
+    if (seance_.proposer_reprise() && !terminee_)
         continuer_enregistrement();
-    if (!terminee_ && RepriseDessin::en_attente(projet_.dossier_configuration()))
+    if (!terminee_ && RepriseDessin::en_attente(seance_.projet().dossier_configuration()))
         editeurs().proposer_reprises();
 }
 
 void Sim1::continuer_enregistrement() {
-    const int dernier = reprise_.dernier_robot();
+    const int dernier = seance_.reprise().dernier_robot();
     if (dernier > e->NbRobot && dernier <= robots_des_fichiers)
         options_.choisir_robots(dernier);
     redessiner();
@@ -119,35 +101,17 @@ void Sim1::continuer_enregistrement() {
     console_->continuer_le_dernier();
 }
 
-// The bare caption is the default project's.
-void Sim1::montrer_titre() {
+// The title: the bare caption is the default project's.
+void Sim1::projet_va_etre_lu() {
     const bool nomme = !e->NomProjet.empty() && e->NomProjet != "Defaut";
     const QString nom = texte_qt(e->NomProjet).replace("[*]", "[*][*]"); // no mark of changes
     setWindowTitle(nomme ? nom + " – Tavolmex" : "Tavolmex");
 }
 
-void Sim1::recharger_projet() {
-    projet_.Installe();
-    montrer_titre();
-    surveillance_->prendre_note(); // what changes while it is read is read again
-    moteur_.Fin_Jeu();
-    projet_.LoadTable();
-    projet_.Init_Robot();
-    projet_.Init_Jeu();
-    if (e->TableHorizontale)
-        horizontal(*e);
-    Init_Table();
-    Dessine_Table();
-    Dessine_Robot();
-    options_.modifie = true;
-    prendre_projet();
-}
-
 void Sim1::charger_projet_choisi() {
-    recharger_projet();
+    seance_.recharger();
     options_.retablir_plage();
-    recommencer_console();
-    if (reprise_.proposer(*this))
+    if (seance_.proposer_reprise_du_projet())
         continuer_enregistrement();
 }
 
@@ -160,43 +124,6 @@ void Sim1::redessiner() {
     Dessine_Robot();
 }
 
-void Sim1::recommencer_console() {
-    if (console_)
-        console_->recommencer();
-}
-
-void Sim1::table_tournee() {
-    if (console_)
-        console_->indiquer_position();
-}
-
-void Sim1::robots_changes() {
-    if (console_)
-        console_->suivre_nombre_de_robots();
-}
-
-void Sim1::fichier_ecrit(const std::filesystem::path& fichier) {
-    surveillance_->prendre_note_de(fichier);
-}
-
-void Sim1::montrer_aide(const QWidget& depuis) {
-    aide_->montrer(depuis);
-}
-
-void Sim1::charger_projet() {
-    projet_.Installe();
-    projet_.LoadGeneral();
-    montrer_titre();
-    surveillance_->prendre_note(); // what changes while it is read is read again
-    projet_.LoadTable();
-    Init_Table();
-    projet_.Init_Robot();
-    projet_.Init_Jeu();
-    initDamier(*e);
-    if (e->TableHorizontale)
-        horizontal(*e);
-}
-
 void Sim1::Table_Click() {
     montrer_options();
     if (console_)
@@ -205,7 +132,9 @@ void Sim1::Table_Click() {
 
 void Sim1::montrer_console() {
     if (!console_)
-        console_ = std::make_unique<Télécommande>(*this, reprise_);
+        console_ = std::make_unique<Télécommande>(this, seance_, bureau(), [this] {
+            return options_.nbre_carreaux.text().toStdString();
+        });
     const QRect cadre_options = options_.frameGeometry();
     if (!console_->isVisible())
         proposer_place(*console_, cadre_options.topLeft());
@@ -216,10 +145,18 @@ void Sim1::montrer_console() {
 
 void Sim1::montrer_generateur() {
     if (!generateur_)
-        generateur_ = std::make_unique<Dialog>(*this);
+        generateur_ = std::make_unique<Dialog>(this, seance_, bureau());
     generateur_->show();
     generateur_->raise();
     generateur_->activateWindow();
+}
+
+void Sim1::montrer_restauration() {
+    if (!restauration_)
+        restauration_ = std::make_unique<Restauration>(this, seance_);
+    restauration_->show();
+    restauration_->raise();
+    restauration_->activateWindow();
 }
 
 void Sim1::cacher_options_et_console() {
@@ -228,35 +165,8 @@ void Sim1::cacher_options_et_console() {
         console_->hide();
 }
 
-bool Sim1::SauvRobot() {
-    BilanSauvegarde bilan =
-        reprise_.sauver(*this, [this](const auto& fichier) { fichier_ecrit(fichier); });
-    if (!bilan.en_surete())
-        return sauver_ailleurs(std::move(bilan));
-    if (!bilan.complete())
-        message(bilan.message());
-    return true;
-}
-
-// Nothing could be written: a full disk, a stick that is gone.
-bool Sim1::sauver_ailleurs(BilanSauvegarde bilan) {
-    if (bilan.acceptes.none())
-        return question(bilan.message() + std::string(RetourLigne) +
-                            "Faut-il continuer sans garder ce trajet ?",
-                        "Non : rien n'est fermé, le trajet reste dans le programme.");
-    while (question(bilan.message() + std::string(RetourLigne) +
-                        "Faut-il l'écrire dans un autre dossier ?",
-                    "Non : rien n'est fermé, le trajet reste dans le programme.")) {
-        const QString dossier = boites_.choisir_dossier("Où écrire le trajet ?");
-        if (dossier.isEmpty())
-            continue;
-        bilan.echecs = reprise_.sauver_ailleurs(bilan, dossier.toStdString());
-        if (bilan.complete()) {
-            information("Le trajet est écrit dans " + dossier.toStdString());
-            return true;
-        }
-    }
-    return false;
+std::filesystem::path Sim1::choisir_dossier(std::string_view titre) {
+    return boites_.choisir_dossier(texte_qt(titre)).toStdString();
 }
 
 void Sim1::Active_Desactive(bool Status) {
@@ -274,25 +184,14 @@ void Sim1::montrer_course(bool en_cours) {
         console_->action_finie();
 }
 
-void Sim1::montrer_options() {
-    options_.show();
-    options_.raise();
-    options_.activateWindow();
-}
-
-void Sim1::SaveGeneral() {
-    if (options_.modifie)
-        projet_.SaveGeneral(e->NomProjet, options_.reglages());
-}
-
 void Sim1::Timer_Timer() {
     const auto maintenant = std::chrono::steady_clock::now();
     // A box lets the timer run on underneath: the ticks wait until it is closed.
     if (boite_ouverte() || terminee_)
         return cadence_.retenir(maintenant);
-    for (int n = 0; n < Cadence::par_evenement && en_course() && cadence_.echu(maintenant); ++n) {
+    for (int n = 0; n < Cadence::par_evenement && en_marche() && cadence_.echu(maintenant); ++n) {
         const Cadence::Duree avant = temps_de_calcul();
-        moteur_.Timer_Timer();
+        seance_.moteur().Timer_Timer();
         cadence_.compter(temps_de_calcul() - avant);
     }
 }
@@ -316,14 +215,14 @@ void Sim1::menu_robots(const QPoint& ou) {
     if (choix == nullptr)
         return;
     if (choix == restaurer)
-        montrer_restauration(*this);
+        montrer_restauration();
     else
         options_.choisir_robots(choix->data().toInt());
 }
 
 Editeurs& Sim1::editeurs() {
     if (!editeurs_)
-        editeurs_ = std::make_unique<Editeurs>(*this);
+        editeurs_ = std::make_unique<Editeurs>(this, seance_, bureau());
     return *editeurs_;
 }
 
@@ -334,10 +233,11 @@ bool Sim1::peut_partir() {
 void Sim1::partir() {
     if (editeurs_)
         editeurs_->partir();
+    terminer(0);
 }
 
 void Sim1::ecrire_reprises() {
-    reprise_.ecrire_ou_prevenir(*this);
+    seance_.reprise().ecrire_ou_prevenir(*this);
     if (editeurs_)
         editeurs_->ecrire_reprises();
 }
@@ -427,10 +327,10 @@ void Sim1::montrer_logo(bool visible) {
 }
 
 bool Sim1::arreter_course() {
-    if (!en_course())
+    if (!en_marche())
         return false;
     if (!console_ || !console_->arreter_action())
-        moteur_.Fin_Jeu();
+        seance_.moteur().Fin_Jeu();
     return true;
 }
 

@@ -1,9 +1,7 @@
 #include "ui/principale/surveillance.h"
 
 #include "base/fichiers.h"
-#include "sim/orientation.h"
 #include "ui/commun/boites.h"
-#include "ui/principale/sim1.h"
 
 #include <sys/stat.h>
 
@@ -21,10 +19,12 @@ bool trajet_non_sauve(const Etat& e) {
 
 } // namespace
 
-Surveillance::Surveillance(Sim1& sim) : sim_(sim), veilleur_([this] { verifier(); }) {}
+Surveillance::Surveillance(Seance& seance) : seance_(seance), veilleur_([this] { verifier(); }) {
+    ecouter(seance.annonces());
+}
 
 std::filesystem::path Surveillance::fichier(std::size_t k) const {
-    const Projet& projet = sim_.projet();
+    const Projet& projet = seance_.projet();
     if (k == 0)
         return projet.chemin_table();
     const int n = static_cast<int>((k - 1) % robots_des_fichiers) + 1;
@@ -49,7 +49,7 @@ Surveillance::Empreinte Surveillance::empreinte(const std::filesystem::path& fic
 }
 
 void Surveillance::prendre_note() {
-    projet_ = sim_.etat().NomProjet;
+    projet_ = seance_.etat().NomProjet;
     for (std::size_t k = 0; k < nombre; ++k)
         empreintes_.at(k) = empreinte(fichier(k), {});
     suivre();
@@ -64,7 +64,7 @@ void Surveillance::prendre_note_de(const std::filesystem::path& ecrit) {
 
 // The directory tells of files that come and go, a file of what is written into it.
 void Surveillance::suivre() {
-    std::vector<std::filesystem::path> chemins{sim_.projet().dossier_configuration()};
+    std::vector<std::filesystem::path> chemins{seance_.projet().dossier_configuration()};
     for (std::size_t k = 0; k < nombre; ++k)
         chemins.push_back(fichier(k));
     veilleur_.suivre(std::move(chemins));
@@ -82,11 +82,11 @@ std::vector<std::size_t> Surveillance::chercher_changements() {
 }
 
 void Surveillance::verifier() {
-    if (sim_.terminee())
+    if (seance_.terminee())
         return;
     if (boite_ouverte())
         return veilleur_.remettre(); // one question at a time
-    if (projet_ != sim_.etat().NomProjet)
+    if (projet_ != seance_.etat().NomProjet)
         return prendre_note();
     const std::vector<std::size_t> changes = chercher_changements();
     if (changes.empty())
@@ -95,26 +95,26 @@ void Surveillance::verifier() {
     const std::string quoi = noms(changes);
     if (!permis(table_seule, quoi))
         return;
-    if (sim_.en_course())
-        sim_.moteur().Fin_Jeu();
+    if (seance_.en_marche())
+        seance_.moteur().Fin_Jeu();
     if (table_seule)
-        relire_table();
+        seance_.relire_table();
     else
-        relire_tout();
-    sim_.ecrire_texte_Mess("Relu après un changement : " + quoi);
+        seance_.relire_tout();
+    seance_.fenetres().ecrire_texte_Mess("Relu après un changement : " + quoi);
 }
 
 bool Surveillance::permis(bool table_seule, const std::string& quoi) {
     std::string question = "Modifié par un autre programme : " + quoi + std::string(RetourLigne);
-    const bool perte = !table_seule && trajet_non_sauve(sim_.etat());
+    const bool perte = !table_seule && trajet_non_sauve(seance_.etat());
     if (perte)
         question += "Relire ferait perdre le trajet enregistré qui n'est pas sauvegardé. "
                     "Faut-il relire quand même ?";
-    else if (sim_.en_course())
+    else if (seance_.en_marche())
         question += "Faut-il arrêter la course et relire ?";
     else
         return true;
-    return sim_.question(
+    return seance_.fenetres().question(
         question, perte ? "Oui : le trajet enregistré reste dans Sauvegardes ; « Reprendre un "
                           "trajet » de la télécommande le rend."
                         : "");
@@ -128,27 +128,4 @@ std::string Surveillance::noms(const std::vector<std::size_t>& changes) const {
     if (changes.size() > nommes)
         texte += " et " + std::to_string(changes.size() - nommes) + " de plus";
     return texte;
-}
-
-// The robots stay where they stand: turned back with the old table, turned again with the new one.
-void Surveillance::relire_table() {
-    Etat& e = sim_.etat();
-    if (e.TableHorizontale)
-        vertical(e);
-    sim_.projet().LoadTable();
-    if (e.TableHorizontale)
-        horizontal(e);
-    sim_.redessiner();
-}
-
-void Surveillance::relire_tout() {
-    const Etat& e = sim_.etat();
-    sim_.abandonner_trajets();
-    sim_.projet().LoadTable();
-    sim_.projet().Init_Robot();
-    sim_.projet().Init_Jeu();
-    if (e.TableHorizontale)
-        horizontal(sim_.etat());
-    sim_.recommencer_console();
-    sim_.redessiner();
 }
