@@ -3,6 +3,7 @@
 #include "base/fichiers.h"
 #include "base/texte.h"
 #include "config/lecteur_trajet.h"
+#include "config/nom_projet.h"
 #include "record/generation.h"
 
 #include <algorithm>
@@ -42,7 +43,7 @@ public:
         for (int n = 1; n <= robots_des_fichiers; ++n) {
             try {
                 const fs::path fichier =
-                    trouver_fichier(dossier, projet + " Trajet" + std::to_string(n) + ".ini");
+                    fichier_de_projet(dossier, projet, " Trajet" + std::to_string(n) + ".ini");
                 std::error_code erreur;
                 absents_ = absents_ && !fs::exists(fichier, erreur);
                 Entier16 NoLigne;

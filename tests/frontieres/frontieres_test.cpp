@@ -31,6 +31,8 @@ const std::map<std::string, Dossiers> permis{
 std::string fautes(const fs::path& fichier, const std::string& dossier) {
     static const std::regex du_projet(R"re(^\s*#\s*include\s*"([^"/]+)/[^"]*")re");
     static const std::regex de_qt(R"(^\s*#\s*include\s*<Q[A-Za-z])");
+    static const std::regex boite(R"(\bQ(Message|Error|Input|File|Color)(Box|Message|Dialog)\b)");
+    const bool guichet = fichier.filename() == "boites.cpp"; // every box is made there
     const Dossiers& voisins = permis.at(dossier);
     std::ifstream texte(fichier);
     std::string trouvees;
@@ -38,7 +40,8 @@ std::string fautes(const fs::path& fichier, const std::string& dossier) {
     for (std::string ligne; std::getline(texte, ligne);) {
         const bool etranger = std::regex_search(ligne, partie, du_projet) && partie[1] != dossier &&
                               !voisins.contains(partie[1]);
-        if (etranger || (dossier != "ui" && std::regex_search(ligne, de_qt)))
+        if (etranger || (dossier != "ui" && std::regex_search(ligne, de_qt)) ||
+            (!guichet && std::regex_search(ligne, boite)))
             trouvees += fichier.string() + ": " + ligne + "\n";
     }
     return trouvees;

@@ -73,20 +73,20 @@ TEST_F(Manuel, chaque_fenetre_ouvre_sa_page) {
 
 TEST_F(Manuel, une_fenetre_modale_a_son_aide_a_elle) {
     demarrer();
-    const auto demander_l_aide = [this](const char* controle, const char* page) {
-        QTimer::singleShot(0, [this, controle, page] {
-            QWidget& fenetre = *QApplication::activeModalWidget();
+    const auto demander_l_aide = [this](const char* dialogue, const char* controle,
+                                        const char* page) {
+        dialogues[dialogue] = [this, controle, page](QDialog& fenetre) {
             QTest::keyClick(fenetre.findChild<QWidget*>(controle), Qt::Key_F1);
             auto* locale = fenetre.findChild<QWidget*>("Aide");
             ASSERT_NE(locale, nullptr);
             EXPECT_EQ(titre(*locale), page);
             QTest::keyClick(&fenetre, Qt::Key_Escape);
-        });
+        };
     };
-    demander_l_aide("Combo1", "Les options et les projets");
+    demander_l_aide("Ouvrir", "Combo1", "Les options et les projets");
     cliquer("Command2");
     cliquer("dessinAire");
-    demander_l_aide("nomProjet", "Les éditeurs de table et de robot");
+    demander_l_aide("nouveauProjet", "nomProjet", "Les éditeurs de table et de robot");
     trouver<dessinTable>("dessinTable").enregistrer_sous();
 }
 

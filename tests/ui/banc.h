@@ -2,28 +2,21 @@
 
 #include "outils/dossier_temporaire.h"
 #include "ui/principale/sim1.h"
+#include "ui/script.h"
 
-#include <QApplication>
-#include <QMessageBox>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include <deque>
-#include <functional>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
-/// A started simulator on a project of its own. Message boxes are read and answered as they open:
-/// questions from a queue ("Non" when it is empty).
-class Banc : public testing::Test {
+/// A started simulator on a project of its own; its boxes are answered from the script.
+class Banc : public testing::Test, protected Script {
 protected:
     Banc() {
-        QObject::connect(&veilleur_, &QTimer::timeout, [this] { repondre(); });
-        veilleur_.start(1);
         std::filesystem::current_path(dossier.chemin()); // as the program does
         QSettings().clear();
     }
@@ -50,33 +43,6 @@ protected:
     FOption& options() { return trouver<FOption>("FOption"); }
 
     DossierTemporaire dossier;
-    std::vector<std::string> messages; ///< "message: text" or "question: text"
-    std::deque<bool> reponses;
-    std::function<void(QMessageBox&)> avant_de_repondre; ///< sees each box before its answer
-    std::vector<int> fins;                               ///< exit codes asked for
+    std::vector<int> fins; ///< exit codes asked for
     std::unique_ptr<Sim1> sim;
-
-private:
-    void repondre() {
-        auto* boite = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (boite == nullptr || boite == examinee_ ||
-            boite->objectName() == "enregistrer") // its tests answer it
-            return;
-        if (avant_de_repondre) {
-            const QMessageBox* avant = std::exchange(examinee_, boite);
-            avant_de_repondre(*boite); // may wait
-            examinee_ = avant;
-        }
-        messages.push_back((boite->objectName() + ": " + boite->text()).toStdString());
-        bool oui = false;
-        if (!reponses.empty()) {
-            oui = reponses.front();
-            reponses.pop_front();
-        }
-        QAbstractButton* bouton = boite->button(oui ? QMessageBox::Yes : QMessageBox::No);
-        (bouton != nullptr ? bouton : boite->button(QMessageBox::Ok))->click();
-    }
-
-    QTimer veilleur_;
-    const QMessageBox* examinee_ = nullptr; ///< its answer waits
 };

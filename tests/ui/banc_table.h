@@ -9,13 +9,15 @@
 inline constexpr std::string_view fichier = "# essai\r\nM,,Table\r\nU,0,0,100,100 # sol\r\n"
                                             "\r\nPB,50,50,5\r\npas compris 1\r\nLN,10,80,90,80\r\n";
 
-/// The table editor on a file of its own, driven by the mouse. Three-way questions are answered
-/// from `reponses_fichier` ("Annuler" when it is empty), the name dialog from `noms`.
+/// The table editor on a file of its own, driven by the mouse. The name dialog is answered
+/// from `noms` ("Annuler" when it is empty).
 class EditeurTable : public Banc {
 protected:
     EditeurTable() {
-        QObject::connect(&veilleur_fichier_, &QTimer::timeout, [this] { repondre_fichier(); });
-        veilleur_fichier_.start(1);
+        dialogues["nouveauProjet"] = [this](QDialog& dialogue) {
+            while (dialogue.isVisible()) // it stays after a refusal: the name may be changed
+                repondre_nom(dialogue);
+        };
         demarrer();
         cliquer("dessinAire");
     }
@@ -67,27 +69,10 @@ protected:
         return t;
     }
 
-    std::deque<QMessageBox::StandardButton> reponses_fichier;
     std::deque<QString> noms;
     std::string avis;
 
 private:
-    void repondre_fichier() {
-        QWidget* fenetre = QApplication::activeModalWidget();
-        if (fenetre == nullptr)
-            return;
-        if (auto* boite = dynamic_cast<QMessageBox*>(fenetre);
-            boite != nullptr && boite->objectName() == "enregistrer") {
-            const auto choix =
-                reponses_fichier.empty() ? QMessageBox::Cancel : reponses_fichier.front();
-            if (!reponses_fichier.empty())
-                reponses_fichier.pop_front();
-            messages.emplace_back("enregistrer");
-            boite->button(choix)->click();
-        } else if (fenetre->objectName() == "nouveauProjet") {
-            repondre_nom(*fenetre);
-        }
-    }
     void repondre_nom(QWidget& dialogue) {
         auto& ok = *dialogue.findChild<QPushButton*>("OKButton");
         if (noms.empty())
@@ -99,6 +84,4 @@ private:
             dialogue.findChild<QPushButton*>("corriger")->click();
         ok.click();
     }
-
-    QTimer veilleur_fichier_;
 };

@@ -2,7 +2,6 @@
 #include "ui/banc_table.h"
 #include "ui/editeurs/formes.h"
 
-#include <QFileDialog>
 #include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QTreeView>
@@ -245,23 +244,15 @@ TEST_F(GestesTable, le_filtre_d_ouverture_montre_les_fichiers_de_table) {
     dossier.ecrire("Configuration/Essai Table.ini", "U,0,0,9,9");
     dossier.ecrire("Configuration/essai2 table.INI", "U,0,0,9,9");
     std::vector<std::string> vus;
-    QTimer guet;
-    QObject::connect(&guet, &QTimer::timeout, [&] {
-        auto* dialogue = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        auto* liste = dialogue == nullptr ? nullptr : dialogue->findChild<QTreeView*>("treeView");
-        if (liste == nullptr || liste->model()->rowCount(liste->rootIndex()) < 3)
-            return; // it reads the folder on a thread
-        for (int i = 0; i < liste->model()->rowCount(liste->rootIndex()); ++i)
+    dialogues["choisir_fichier"] = [&](QDialog& dialogue) {
+        auto& liste = *dialogue.findChild<QTreeView*>("treeView");
+        const auto lignes = [&] { return liste.model()->rowCount(liste.rootIndex()); };
+        EXPECT_TRUE(QTest::qWaitFor([&] { return lignes() == 3; })); // read on a thread
+        for (int i = 0; i < lignes(); ++i)
             vus.push_back(
-                liste->model()->index(i, 0, liste->rootIndex()).data().toString().toStdString());
-        dialogue->reject();
-    });
-    guet.start(10);
-    QTimer::singleShot(5000, &guet, [] { // whatever is shown by then
-        if (auto* dialogue = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
-            dialogue->reject();
-    });
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+                liste.model()->index(i, 0, liste.rootIndex()).data().toString().toStdString());
+        dialogue.reject();
+    };
     commande("ouvrir");
     std::sort(vus.begin(), vus.end());
     EXPECT_EQ(

@@ -191,16 +191,12 @@ TEST_F(EditeurTable, un_disque_qui_refuse_ne_coute_pas_le_dessin) {
     dossier.ecrire("Configuration", "a file in the directory's place");
     messages.clear();
     noms = {"Un Table"};
-    QTimer::singleShot(200, [] { // it stays open: the name may be changed
-        if (auto* dialogue = dynamic_cast<QDialog*>(QApplication::activeModalWidget()))
-            dialogue->reject();
-    });
     commande("enregistrer");
     ASSERT_FALSE(messages.empty());
     EXPECT_EQ(messages[0].find("message: Le dessin n'a pas été enregistré : "), 0U) << messages[0];
     EXPECT_NE(messages[0].find("Configuration"), std::string::npos) << messages[0];
     EXPECT_TRUE(editeur().isWindowModified());
-    reponses_fichier = {QMessageBox::Save};
+    sauvegardes = {Sauvegarde::enregistrer};
     editeur().close();
     EXPECT_TRUE(editeur().isVisible());
     EXPECT_EQ(doc().compter({"L"}), 1);
@@ -255,14 +251,14 @@ TEST_F(EditeurTable, rien_n_est_perdu_en_partant) {
     EXPECT_TRUE(editeur().isVisible());
     cliquer("Command4"); // nor does the program end
     EXPECT_TRUE(fins.empty());
-    reponses_fichier = {QMessageBox::Save};
+    sauvegardes = {Sauvegarde::enregistrer};
     reponses = {true, true, false};
     editeur().close();
     EXPECT_FALSE(editeur().isVisible());
     EXPECT_NE(sur_le_disque().find("PB , 60, 60, 5"), std::string::npos);
     cliquer("dessinAire");
     deplacer({60, 60}, {40, 40});
-    reponses_fichier = {QMessageBox::Discard};
+    sauvegardes = {Sauvegarde::ne_pas_enregistrer};
     cliquer("Command4");
     EXPECT_EQ(fins, std::vector<int>{0});
     EXPECT_EQ(dernier("PB"), "PB 60 60 5");

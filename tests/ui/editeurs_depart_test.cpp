@@ -3,7 +3,6 @@
 #include "ui/banc_table.h"
 #include "ui/principale/fin_signalee.h"
 
-#include <QFileDialog>
 #include <QPlainTextEdit>
 
 #include <algorithm>
@@ -67,7 +66,7 @@ TEST_F(Depart, enregistrer_prend_d_abord_ce_qui_est_tape) {
 TEST_F(Depart, seul_ce_qui_est_ecrit_compte_comme_enregistre) {
     ouvrir("U,0,0,90,90\r\nO,10,10,80,80\r\n");
     deplacer({50, 50}, {55, 50});
-    avant_de_repondre = [&, change = false](QMessageBox&) mutable { // while a question is open
+    avant_de_repondre = [&, change = false](QDialog&) mutable { // while a question is open
         if (!std::exchange(change, true))
             editeur().findChild<QAction*>("pas_haut_10")->trigger();
     };
@@ -81,14 +80,7 @@ TEST_F(Depart, seul_ce_qui_est_ecrit_compte_comme_enregistre) {
 TEST_F(Depart, ne_pas_enregistrer_ne_jette_rien_avant_d_etre_parti) {
     ouvrir();
     deplacer({50, 50}, {60, 60});
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QTimer guet;
-    QObject::connect(&guet, &QTimer::timeout, [] {
-        if (auto* dialogue = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))
-            dialogue->reject();
-    });
-    guet.start(5);
-    reponses_fichier = {QMessageBox::Discard};
+    sauvegardes = {Sauvegarde::ne_pas_enregistrer};
     commande("ouvrir"); // then no file after all
     EXPECT_EQ(dernier("PB"), "PB 60 60 5");
     EXPECT_TRUE(editeur().isWindowModified());
@@ -100,21 +92,21 @@ TEST_F(Depart, quitter_demande_tout_avant_de_toucher_a_rien) {
     ouvrir();
     deplacer({50, 50}, {60, 60});
     changer_le_robot();
-    for (const auto premiere : {QMessageBox::Discard, QMessageBox::Save}) {
+    for (const auto premiere : {Sauvegarde::ne_pas_enregistrer, Sauvegarde::enregistrer}) {
         messages.clear();
-        reponses_fichier = {premiere, QMessageBox::Cancel};
+        sauvegardes = {premiere, Sauvegarde::annuler};
         cliquer("Command4");
         EXPECT_EQ(demandes(), 2U);
         EXPECT_TRUE(fins.empty());
         EXPECT_EQ(dernier("PB"), "PB 60 60 5");
         EXPECT_EQ(sur_le_disque(), fichier);
     }
-    reponses_fichier = {QMessageBox::Discard, QMessageBox::Save};
+    sauvegardes = {Sauvegarde::ne_pas_enregistrer, Sauvegarde::enregistrer};
     reponses = {false}; // the robot's file is not replaced: nobody leaves, nothing is thrown away
     cliquer("Command4");
     EXPECT_TRUE(fins.empty());
     EXPECT_EQ(dernier("PB"), "PB 60 60 5");
-    reponses_fichier = {QMessageBox::Discard, QMessageBox::Save};
+    sauvegardes = {Sauvegarde::ne_pas_enregistrer, Sauvegarde::enregistrer};
     reponses = {true, false};
     cliquer("Command4");
     EXPECT_EQ(fins, std::vector<int>{0});
@@ -156,7 +148,7 @@ TEST_F(Depart, meme_un_dessin_qui_ne_peut_pas_encore_s_ecrire_est_repris) {
     recommencer({true});
     ASSERT_EQ(doc().nombre(), 1U);
     EXPECT_EQ(dernier("DR"), "DR 50 50 5");
-    reponses_fichier = {QMessageBox::Discard};
+    sauvegardes = {Sauvegarde::ne_pas_enregistrer};
     editeur().close();
     EXPECT_EQ(doc().ecrire(), "L,0,0,90,90\n") << "the file as it is";
     EXPECT_FALSE(fs::exists(reprise()));

@@ -271,8 +271,6 @@ TEST_F(FenetreGenerationRemplie, un_essai_refuse_ne_laisse_pas_l_ancien_succes_e
     generer();
     auto& compte = dans<QLabel>("compte_rendu");
     EXPECT_TRUE(compte.text().startsWith("Fichier généré : "));
-    QString explication;
-    avant_de_repondre = [&](QMessageBox& boite) { explication = boite.informativeText(); };
     for (const char* refuse : {"prog.txt", "sans_point"}) {
         dans<QLineEdit>("fichier_a_generer").setText(refuse);
         generer();
@@ -282,6 +280,7 @@ TEST_F(FenetreGenerationRemplie, un_essai_refuse_ne_laisse_pas_l_ancien_succes_e
     }
     dans<QLineEdit>("fichier_a_generer").setText("prog.txt");
     generer();
+    const QString explication = QString::fromStdString(explications.back());
     EXPECT_TRUE(explication.contains("se terminer par « .bas »")) << "the advice stays";
     EXPECT_TRUE(explication.contains("« Fermer », dans la fenêtre de génération, la fait revenir"));
 }

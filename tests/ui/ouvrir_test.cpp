@@ -12,14 +12,10 @@ protected:
     /// Presses "Charger"; `agir` finds the list open.
     void charger(const std::function<void(Ouvrir&)>& agir) {
         bool ouverte = false;
-        QTimer attente;
-        QObject::connect(&attente, &QTimer::timeout, [&] {
-            auto* ouvrir = dynamic_cast<Ouvrir*>(QApplication::activeModalWidget());
-            if (ouvrir == nullptr || std::exchange(ouverte, true))
-                return;
-            agir(*ouvrir);
-        });
-        attente.start(1);
+        dialogues["Ouvrir"] = [&](QDialog& dialogue) {
+            ouverte = true;
+            agir(dynamic_cast<Ouvrir&>(dialogue));
+        };
         cliquer("Command2");
         EXPECT_TRUE(ouverte);
     }
@@ -111,8 +107,6 @@ TEST_F(Charger, une_liste_vide_donne_le_projet_sans_nom) {
 TEST_F(Charger, un_nom_qui_ne_se_relirait_pas_est_refuse_et_la_liste_reste) {
     dossier.ecrire("Configuration/Essai #2 Table.ini", "L,0,0,90,50\r\n");
     demarrer();
-    QString raison;
-    avant_de_repondre = [&](QMessageBox& boite) { raison = boite.informativeText(); };
     charger([this](Ouvrir& o) {
         choisir(o, "Essai #2");
         EXPECT_EQ(messages,
@@ -120,7 +114,7 @@ TEST_F(Charger, un_nom_qui_ne_se_relirait_pas_est_refuse_et_la_liste_reste) {
         EXPECT_TRUE(o.isVisible());
         QTest::keyClick(&o, Qt::Key_Escape);
     });
-    EXPECT_TRUE(raison.startsWith("« Essai #2 » ne peut pas")) << raison.toStdString();
+    EXPECT_TRUE(explications.at(0).starts_with("« Essai #2 » ne peut pas")) << explications[0];
     EXPECT_EQ(e().NomProjet, "Defaut");
     EXPECT_FALSE(std::filesystem::exists(dossier / "Configuration/Essai #2 Robot1.ini"));
 }

@@ -105,7 +105,7 @@ TEST_F(FichiersChanges, une_course_ou_un_enregistrement_fait_demander) {
 
 TEST_F(FichiersChanges, repare_sous_sa_propre_boite_d_erreur_il_est_relu) {
     bool repare = false;
-    avant_de_repondre = [&](QMessageBox&) {
+    avant_de_repondre = [&](QDialog&) {
         if (!std::exchange(repare, true))
             ecrire("Table.ini", "L,0,0,95,50\r\n");
     };
@@ -125,7 +125,7 @@ TEST_F(FichiersChanges, repare_sous_sa_propre_boite_d_erreur_il_est_relu) {
 TEST_F(FichiersChanges, change_sous_une_question_de_sauvegarde_il_n_est_pas_pris_pour_le_notre) {
     demarrer();
     int questions = 0;
-    avant_de_repondre = [&](QMessageBox& boite) {
+    avant_de_repondre = [&](QDialog& boite) {
         if (boite.objectName() == "question" && ++questions == 2) // ours is written by then
             ecrire("Trajet1.ini", "Init,71,8,9\r\nFIN\r\n");
     };

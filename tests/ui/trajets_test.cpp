@@ -3,7 +3,6 @@
 
 #include "sim/actions.h"
 
-#include <QFileDialog>
 #include <QWheelEvent>
 
 namespace {
@@ -112,12 +111,10 @@ TEST_F(Trajets, un_trajet_refuse_revient_par_le_menu) {
     commencer();
     jouer("Avance");
     jouer("Avance");
-    QString explication;
-    avant_de_repondre = [&](QMessageBox& boite) { explication = boite.informativeText(); };
     reponses = {false};
     EXPECT_TRUE(seance().SauvRobot());
-    EXPECT_TRUE(explication.contains("ne sera plus proposé"));
-    EXPECT_TRUE(explication.contains("fichier de génération"));
+    EXPECT_NE(explications.back().find("ne sera plus proposé"), std::string::npos);
+    EXPECT_NE(explications.back().find("fichier de génération"), std::string::npos);
     seance().recharger();
     e().TrajNbActions(1) = 0;
     QMenu& m = menu();
@@ -142,14 +139,7 @@ TEST_F(Trajets, quitter_reste_quand_rien_ne_peut_etre_ecrit) {
 
     const auto ailleurs = dossier / "ailleurs";
     std::filesystem::create_directory(ailleurs);
-    QTimer choix;
-    QObject::connect(&choix, &QTimer::timeout, [&] {
-        if (auto* d = dynamic_cast<QFileDialog*>(QApplication::activeModalWidget())) {
-            d->selectFile(QString::fromStdString(ailleurs.string()));
-            static_cast<QDialog*>(d)->accept();
-        }
-    });
-    choix.start(5);
+    chemins_choisis = {QString::fromStdString(ailleurs.string())};
     reponses = {true, true, true}; // the path shown takes one
     cliquer("Command4");
     EXPECT_EQ(fins, std::vector{0});

@@ -3,17 +3,21 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
 namespace {
 
-void preparer(QMessageBox& boite, const char* nom, std::string_view texte) {
+void preparer(QMessageBox& boite, const char* nom, QMessageBox::Icon image, std::string_view texte,
+              std::string_view explication) {
     boite.setObjectName(nom);
+    boite.setIcon(image);
     boite.setWindowTitle("Tavolmex");
     boite.setTextFormat(Qt::PlainText); // a path may look like markup
     boite.setText(texte_qt(texte));
+    boite.setInformativeText(texte_qt(explication));
 }
 
 // Only its buttons answer: what closes the box otherwise decides nothing.
@@ -32,13 +36,17 @@ protected:
     }
 };
 
+QString choisi(QFileDialog& choix, const char* nom, QFileDialog::FileMode mode) {
+    choix.setObjectName(nom);
+    choix.setFileMode(mode);
+    return choix.exec() == QDialog::Accepted ? choix.selectedFiles().value(0) : QString();
+}
+
 } // namespace
 
 void montrer_message(QWidget* fenetre, std::string_view texte, std::string_view explication) {
     QMessageBox boite(fenetre);
-    preparer(boite, "message", texte);
-    boite.setInformativeText(texte_qt(explication));
-    boite.setIcon(QMessageBox::Warning);
+    preparer(boite, "message", QMessageBox::Warning, texte, explication);
     boite.setStandardButtons(QMessageBox::Ok);
     boite.exec();
 }
@@ -49,30 +57,55 @@ void Boites::message(std::string_view texte, std::string_view explication) {
 
 void Boites::information(std::string_view texte) {
     QMessageBox boite(&fenetre_);
-    preparer(boite, "information", texte);
-    boite.setIcon(QMessageBox::Information);
+    preparer(boite, "information", QMessageBox::Information, texte, {});
     boite.setStandardButtons(QMessageBox::Ok);
     boite.exec();
 }
 
-QString Boites::choisir_dossier(const QString& titre) {
-    QFileDialog choix(&fenetre_, titre, QDir::homePath());
-    choix.setObjectName("choisir_dossier");
-    choix.setFileMode(QFileDialog::Directory);
-    choix.setOption(QFileDialog::ShowDirsOnly);
-    return choix.exec() == QDialog::Accepted ? choix.selectedFiles().value(0) : QString();
-}
-
 bool Boites::question(std::string_view texte, std::string_view explication) {
     BoiteOuiNon boite(&fenetre_);
-    preparer(boite, "question", texte);
-    boite.setInformativeText(texte_qt(explication));
-    boite.setIcon(QMessageBox::Question);
+    preparer(boite, "question", QMessageBox::Question, texte, explication);
     boite.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     boite.setDefaultButton(QMessageBox::Yes);
     boite.button(QMessageBox::Yes)->setText("Oui");
     boite.button(QMessageBox::No)->setText("Non");
     return boite.exec() == QMessageBox::Yes;
+}
+
+Sauvegarde Boites::demander_sauvegarde(std::string_view texte, std::string_view explication) {
+    QMessageBox boite(&fenetre_);
+    preparer(boite, "enregistrer", QMessageBox::Question, texte, explication);
+    boite.setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    boite.setDefaultButton(QMessageBox::Save);
+    boite.button(QMessageBox::Save)->setText("Enregistrer");
+    boite.button(QMessageBox::Discard)->setText("Ne pas enregistrer");
+    boite.button(QMessageBox::Cancel)->setText("Annuler");
+    const int reponse = boite.exec();
+    if (reponse == QMessageBox::Save)
+        return Sauvegarde::enregistrer;
+    return reponse == QMessageBox::Discard ? Sauvegarde::ne_pas_enregistrer : Sauvegarde::annuler;
+}
+
+QString Boites::choisir_dossier(const QString& titre) {
+    QFileDialog choix(&fenetre_, titre, QDir::homePath());
+    choix.setOption(QFileDialog::ShowDirsOnly);
+    return choisi(choix, "choisir_dossier", QFileDialog::Directory);
+}
+
+QString Boites::choisir_fichier(const QString& titre, const QString& dossier,
+                                const QString& filtres) {
+    QFileDialog choix(&fenetre_, titre, dossier, filtres);
+    return choisi(choix, "choisir_fichier", QFileDialog::ExistingFile);
+}
+
+QString Boites::choisir_destination(const QString& titre, const QString& propose,
+                                    const QString& filtres) {
+    const QFileInfo fichier(propose);
+    QFileDialog choix(&fenetre_, titre, fichier.path(), filtres);
+    choix.setAcceptMode(QFileDialog::AcceptSave);
+    choix.setOption(QFileDialog::DontConfirmOverwrite);
+    choix.selectFile(fichier.fileName());
+    return choisi(choix, "choisir_destination", QFileDialog::AnyFile);
 }
 
 bool boite_ouverte() {

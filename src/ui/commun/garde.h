@@ -1,15 +1,10 @@
 #pragma once
 
+#include "base/erreurs.h"
 #include "sim/fenetres.h"
 
 #include <exception>
-#include <string>
 #include <utility>
-
-/// What a message box says of an error that nobody has dealt with.
-inline std::string texte_erreur_execution(const char* raison) {
-    return std::string("Erreur d'exécution : ") + raison;
-}
 
 /// Runs a procedure that no event has called: what it did not catch itself is shown in a message
 /// box, the procedure stops there, and the caller goes on. Handlers of events need none:

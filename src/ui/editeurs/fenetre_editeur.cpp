@@ -50,12 +50,8 @@ QAction* FenetreEditeur::action(QMenu& menu, const char* nom, const QString& tex
     a->setObjectName(nom);
     a->setShortcut(touche);
     const auto executer = [this, faire = std::move(faire)] {
-        try {
-            if (prendre_la_saisie())
-                faire();
-        } catch (const std::exception& erreur) {
-            boites_.message(erreur.what());
-        }
+        if (prendre_la_saisie())
+            faire();
     };
     connect(a, &QAction::triggered, this, executer, quand);
     return a;

@@ -7,12 +7,8 @@
 #include "ui/editeurs/foutil.h"
 #include "ui/editeurs/nouveau_projet.h"
 
-#include <QApplication>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QStatusBar>
 #include <QUndoStack>
 
@@ -45,8 +41,8 @@ void FenetreEditeur::autre_fichier() {
 void FenetreEditeur::choisir_un_fichier() {
     if (!peut_partir())
         return;
-    const QString nom = QFileDialog::getOpenFileName(
-        this, "Ouvrir ...", texte_qt(programme_.configuration.string()), description_.filtre);
+    const QString nom = boites_.choisir_fichier(
+        "Ouvrir ...", texte_qt(programme_.configuration.string()), description_.filtre);
     if (!nom.isEmpty())
         ouvrir(nom.toStdString());
 }
@@ -77,7 +73,7 @@ void FenetreEditeur::verifier_disque() {
     std::error_code absent;
     if (chemin_.empty() || !std::filesystem::is_regular_file(chemin_, absent))
         return;
-    if (QApplication::activeModalWidget() != nullptr)
+    if (boite_ouverte())
         return veilleur_.remettre(); // one question at a time
     try {
         std::string lus = lire_octets(chemin_);
@@ -182,22 +178,12 @@ FenetreEditeur::Depart FenetreEditeur::demander_depart() {
         return Depart::annuler;
     if (pile().isClean() && en_suspens().isEmpty())
         return Depart::rien_a_perdre;
-    QMessageBox boite(this);
-    boite.setObjectName("enregistrer");
-    boite.setWindowTitle("Tavolmex");
-    boite.setIcon(QMessageBox::Question);
-    boite.setTextFormat(Qt::PlainText);
-    boite.setText("Le dessin a été modifié. Doit-on l'enregistrer ?");
-    boite.setInformativeText(chemin_.empty() ? "Sans nom" : nom_court(chemin_));
-    boite.setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-    boite.button(QMessageBox::Save)->setText("Enregistrer");
-    boite.button(QMessageBox::Discard)->setText("Ne pas enregistrer");
-    boite.button(QMessageBox::Cancel)->setText("Annuler");
-    boite.setDefaultButton(QMessageBox::Save);
-    switch (boite.exec()) {
-    case QMessageBox::Save:
+    switch (
+        boites_.demander_sauvegarde("Le dessin a été modifié. Doit-on l'enregistrer ?",
+                                    chemin_.empty() ? "Sans nom" : chemin_.filename().string())) {
+    case Sauvegarde::enregistrer:
         return Depart::enregistrer;
-    case QMessageBox::Discard:
+    case Sauvegarde::ne_pas_enregistrer:
         return Depart::ne_pas_enregistrer;
     default:
         return Depart::annuler;

@@ -3,7 +3,6 @@
 #include "ui/commun/boites.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -259,8 +258,8 @@ void ChoixFichier::parcourir_Click() {
     QStringList filtres;
     for (int i = 0; i < motif.count(); ++i)
         filtres << QString("Fichiers %1 (%1)").arg(motif.itemText(i));
-    const QString choix = QFileDialog::getOpenFileName(&parcourir, "Choisir un fichier",
-                                                       qt(dossiers.chemin()), filtres.join(";;"));
+    const QString choix = Boites(parcourir).choisir_fichier(
+        "Choisir un fichier", qt(dossiers.chemin()), filtres.join(";;"));
     if (choix.isEmpty())
         return;
     const fs::path fichier = chemin_de(choix);

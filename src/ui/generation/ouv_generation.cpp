@@ -3,7 +3,6 @@
 #include "ui/commun/boites.h"
 #include "ui/commun/place.h"
 
-#include <QFileDialog>
 #include <QGridLayout>
 
 OuvGeneration::OuvGeneration(QWidget* parent, const std::filesystem::path& dossier,
@@ -57,10 +56,10 @@ void OuvGeneration::placer() {
 }
 
 void OuvGeneration::parcourir_Click() {
-    const QString choix = QFileDialog::getSaveFileName(
-        this, "Fichier à générer",
+    const QString choix = Boites(*this).choisir_destination(
+        "Fichier à générer",
         texte_qt((Rep_Gen.chemin() / NomFicGenere.text().toStdString()).string()),
-        "PICBASIC (*.bas)", nullptr, QFileDialog::DontConfirmOverwrite);
+        "PICBASIC (*.bas)");
     if (choix.isEmpty())
         return;
     const std::filesystem::path fichier = choix.toStdString();

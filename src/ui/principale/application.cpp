@@ -1,5 +1,6 @@
 #include "ui/principale/application.h"
 
+#include "base/visible.h"
 #include "config/dossier.h"
 #include "ui/commun/application_sure.h"
 #include "ui/commun/ligne_texte.h"
@@ -20,7 +21,7 @@ namespace {
 
 // Qt's last word before it gives up, for instance when there is no display.
 void dire_et_finir(QtMsgType sorte, const QMessageLogContext&, const QString& texte) {
-    std::fprintf(stderr, "tavolmex : %s\n", qPrintable(texte));
+    std::fprintf(stderr, "tavolmex : %s\n", visible(texte.toStdString()).c_str());
     if (sorte == QtFatalMsg)
         std::_Exit(EXIT_FAILURE);
 }

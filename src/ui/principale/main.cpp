@@ -1,3 +1,4 @@
+#include "base/visible.h"
 #include "ui/principale/application.h"
 
 #include <CLI/CLI.hpp>
@@ -18,6 +19,11 @@ bool sans_affichage() {
     return vide("QT_QPA_PLATFORM") && vide("DISPLAY") && vide("WAYLAND_DISPLAY");
 }
 
+int dire(std::string_view texte, int code) {
+    std::cerr << "tavolmex : " << visible(texte) << '\n';
+    return code;
+}
+
 int executer(int argc, char** argv) {
     CLI::App app("Tavolmex : simulateur de robot de concours", "tavolmex");
     std::optional<std::filesystem::path> dossier;
@@ -32,17 +38,13 @@ int executer(int argc, char** argv) {
     } catch (const CLI::Success& demande) {
         return app.exit(demande);
     } catch (const CLI::ExtrasError&) {
-        std::cerr << "tavolmex : argument inconnu : " << app.remaining().front() << '\n';
-        return code_usage;
+        return dire("argument inconnu : " + app.remaining().front(), code_usage);
     } catch (const CLI::ParseError&) {
-        std::cerr << "tavolmex : --dossier attend un dossier\n";
-        return code_usage;
+        return dire("--dossier attend un dossier", code_usage);
     }
-    if (sans_affichage()) {
-        std::cerr << "tavolmex : aucun affichage (ni DISPLAY ni WAYLAND_DISPLAY) ; "
-                     "tavolmex-cli s'en passe\n";
-        return EXIT_FAILURE;
-    }
+    if (sans_affichage())
+        return dire("aucun affichage (ni DISPLAY ni WAYLAND_DISPLAY) ; tavolmex-cli s'en passe",
+                    EXIT_FAILURE);
     return executer_application(argc, argv, dossier);
 }
 
@@ -53,7 +55,6 @@ int main(int argc, char** argv) {
     try {
         return executer(argc, argv);
     } catch (const std::exception& erreur) {
-        std::cerr << "tavolmex : " << erreur.what() << '\n';
-        return EXIT_FAILURE;
+        return dire(erreur.what(), EXIT_FAILURE);
     }
 }

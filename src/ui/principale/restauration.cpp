@@ -8,7 +8,6 @@
 #include "ui/commun/place.h"
 #include "ui/generation/dialog.h"
 
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
@@ -173,9 +172,9 @@ fs::path Restauration::destination(const Version& version) {
     if (!version.original.empty())
         return version.original;
     const fs::path propose = seance_.projet().dossier_configuration() / version.fichier;
-    return QFileDialog::getSaveFileName(this, "Où remettre " + texte_qt(version.fichier) + " ?",
-                                        texte_qt(propose.string()), {}, nullptr,
-                                        QFileDialog::DontConfirmOverwrite)
+    return Boites(*this)
+        .choisir_destination("Où remettre " + texte_qt(version.fichier) + " ?",
+                             texte_qt(propose.string()))
         .toStdString();
 }
 
