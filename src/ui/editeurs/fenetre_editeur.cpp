@@ -50,8 +50,12 @@ QAction* FenetreEditeur::action(QMenu& menu, const char* nom, const QString& tex
     a->setObjectName(nom);
     a->setShortcut(touche);
     const auto executer = [this, faire = std::move(faire)] {
-        if (prendre_la_saisie())
-            faire();
+        try {
+            if (prendre_la_saisie())
+                faire();
+        } catch (const ErreurExecution& refus) { // a drawing's limit is an answer, no fault
+            boites_.message(refus.what());
+        }
     };
     connect(a, &QAction::triggered, this, executer, quand);
     return a;
