@@ -60,7 +60,7 @@ private:
     static Valeur suivante(std::deque<Valeur>& valeurs, Valeur sinon) {
         if (valeurs.empty())
             return sinon;
-        const Valeur valeur = valeurs.front();
+        Valeur valeur = valeurs.front();
         valeurs.pop_front();
         return valeur;
     }
