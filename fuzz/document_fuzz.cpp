@@ -1,4 +1,5 @@
 #include "config/document_robot.h"
+#include "config/document_table.h"
 
 #include <cstdint>
 #include <cstdlib>

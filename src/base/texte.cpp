@@ -1,5 +1,6 @@
 #include "base/texte.h"
 
+#include "base/texte_brut.h"
 #include "base/visible.h"
 
 #include <iconv.h>
@@ -8,8 +9,6 @@
 #include <cstring>
 
 namespace {
-
-constexpr std::string_view marque_utf8 = "\xEF\xBB\xBF";
 
 // One conversion by the C library; what it cannot convert becomes `remplacement`.
 class Convertisseur {

@@ -1,4 +1,5 @@
 // Numbers from and to text, whatever the locale that the windows' library sets.
+#include "base/nombre_lu.h"
 #include "base/texte.h"
 
 #include <algorithm>
@@ -106,7 +107,7 @@ TexteCourt entier_arrondi(double valeur, std::size_t chiffres) {
 
 } // namespace
 
-Entier16 lire_entier16(std::string_view texte) {
+std::optional<Entier16> entier16_ou_rien(std::string_view texte) {
     // Nearly every field: a plain whole number.
     const std::string_view s = rogner(texte);
     int entier = 0;
@@ -115,18 +116,35 @@ Entier16 lire_entier16(std::string_view texte) {
         return entier;
     double valeur = 0;
     if (!convertir(texte, valeur))
-        throw ErreurConversion(texte, attendu_entier);
+        return std::nullopt;
     const double arrondi = std::nearbyint(valeur);
     if (arrondi < -32768 || arrondi > 32767)
-        throw ErreurConversion(texte, attendu_entier);
+        return std::nullopt;
     return static_cast<int>(arrondi);
 }
 
-float lire_simple(std::string_view texte) {
+std::optional<float> simple_ou_rien(std::string_view texte) {
     float valeur = 0;
-    if (!convertir(texte, valeur))
-        throw ErreurConversion(texte, attendu_nombre);
-    return valeur;
+    return convertir(texte, valeur) ? std::optional(valeur) : std::nullopt;
+}
+
+ErreurConversion pas_un_entier16(std::string_view texte) {
+    return {texte, attendu_entier};
+}
+ErreurConversion pas_un_simple(std::string_view texte) {
+    return {texte, attendu_nombre};
+}
+
+Entier16 lire_entier16(std::string_view texte) {
+    if (const auto valeur = entier16_ou_rien(texte))
+        return *valeur;
+    throw pas_un_entier16(texte);
+}
+
+float lire_simple(std::string_view texte) {
+    if (const auto valeur = simple_ou_rien(texte))
+        return *valeur;
+    throw pas_un_simple(texte);
 }
 
 void TexteCourt::ajouter(std::string_view texte) {

@@ -71,14 +71,13 @@ bool contient_chiffre(std::string_view texte) {
 std::optional<Commande> lire_ligne_de_fichier(std::string_view ligne) {
     const std::string_view utile = rogner(sans_commentaire(ligne.substr(0, ligne.find('\r'))));
     if (utile.find(',') == std::string_view::npos) {
-        const auto fiche = DocumentTrajet::fiche_de(utile);
+        const auto fiche = eventuelle(fiche_trajet(utile));
         const bool sans_nombre = fiche && !contient_chiffre(utile);
         return sans_nombre ? std::optional(commande_de(*fiche)) : std::nullopt;
     }
     if (!parametres_de_trajet(code_de_trajet(utile)))
         return std::nullopt;
-    lire_ligne_trajet(utile); // says what is wrong with its numbers
-    return commande_de(*DocumentTrajet::fiche_de(utile));
+    return commande_de(exiger(fiche_trajet(utile))); // or says what is wrong with its numbers
 }
 
 } // namespace

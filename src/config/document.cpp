@@ -1,5 +1,6 @@
 #include "config/document.h"
 
+#include "base/texte_brut.h"
 #include "config/fige.h"
 #include "config/ligne.h"
 
@@ -8,16 +9,20 @@
 
 namespace {
 
-constexpr std::string_view marque_utf8 = "\xEF\xBB\xBF";
-
 bool est_dans(std::string_view cle, const std::vector<std::string_view>& cles) {
     return std::find(cles.begin(), cles.end(), cle) != cles.end();
 }
 
 } // namespace
 
-bool en_16_bits(const Fiche& f) {
-    return std::all_of(f.v.begin(), f.v.end(), [](float x) { return x >= -32768 && x <= 32767; });
+std::optional<RefusLecture> refus_de(const std::function<void(Entier16&)>& lire) {
+    Entier16 NoLigne;
+    try {
+        lire(NoLigne);
+        return std::nullopt;
+    } catch (const ErreurExecution& erreur) {
+        return RefusLecture{NoLigne, erreur.what()};
+    }
 }
 
 int Document::compter(const std::vector<std::string_view>& cles) const {
@@ -34,34 +39,30 @@ std::vector<int> Document::incomprises() const {
     return numeros;
 }
 
-void Document::lire(std::string_view octets, const Analyse& analyse,
+bool Document::memes_fiches(const Document& autre) const {
+    return std::equal(
+        rangs_.begin(), rangs_.end(), autre.rangs_.begin(), autre.rangs_.end(),
+        [&](std::size_t r, std::size_t s) { return entrees_[r].objet == autre.entrees_[s].objet; });
+}
+
+void Document::lire(std::string_view octets, const Grammaire& grammaire,
                     bool (*compte)(std::string_view)) {
-    encodage_ = encodage_de(octets);
-    const std::string texte = en_utf8(std::string(octets));
-    if (octets.starts_with(marque_utf8)) { // every reader drops it, whatever follows
-        prefixe_ = marque_utf8;
-        octets.remove_prefix(marque_utf8.size());
-    }
-    Lignes lignes(octets);
-    Lignes lisibles(texte); // the same lines: both encodings share the line ends
-    const char* fin_precedente = octets.data();
+    const TexteBrut brut{std::string(octets)};
+    encodage_ = brut.encodage();
+    prefixe_ = brut.marque();
+    LignesBrutes lignes = brut.lignes();
     while (const auto ligne = lignes.suivante()) {
-        if (!entrees_.empty())
-            entrees_.back().fin.assign(fin_precedente, ligne->data());
-        fin_precedente = ligne->data() + ligne->size();
         Entree e;
-        e.octets = *ligne;
-        const std::string_view utile = sans_commentaire(lisibles.suivante().value_or(""));
+        e.octets = brut.octets(*ligne);
+        e.fin = brut.fin(*ligne);
+        const std::string_view utile = sans_commentaire(ligne->texte);
         e.compte = compte(utile);
         if (e.compte)
-            e.objet = e.lu = analyse(utile);
+            e.objet = e.lu = eventuelle(grammaire(utile));
         entrees_.push_back(std::move(e));
     }
-    if (!entrees_.empty()) {
-        entrees_.back().fin.assign(fin_precedente, octets.data() + octets.size());
-        if (!entrees_.front().fin.empty())
-            fin_usuelle_ = entrees_.front().fin;
-    }
+    if (!entrees_.empty() && !entrees_.front().fin.empty())
+        fin_usuelle_ = entrees_.front().fin;
     renumeroter();
 }
 
@@ -138,18 +139,11 @@ std::string Document::commentaire(const Entree& e) {
 }
 
 std::string Document::composer(const Entree& e, std::size_t champs) const {
-    const Fiche& o = *e.objet;
-    std::string ligne = o.cle;
-    if (o.cle == "M") {
-        std::string texte = "," + o.texte;
-        std::replace(texte.begin(), texte.end(), '\n', ',');
-        // A blank before the comment would belong to the caption.
-        const std::size_t debut = std::min(e.octets.find('#'), e.octets.size());
-        return ligne + encoder(texte, encodage_) + e.octets.substr(debut);
-    }
-    for (std::size_t i = 0; i < champs; ++i)
-        ligne.append(i == 0 ? " , " : ", ").append(texte_simple(o.v[i]).vue());
-    return ligne + commentaire(e);
+    std::string ligne = encoder(ligne_de(*e.objet, champs), encodage_);
+    if (e.objet->cle != "M")
+        return ligne + commentaire(e);
+    // A blank before the comment would belong to the caption.
+    return ligne + e.octets.substr(std::min(e.octets.find('#'), e.octets.size()));
 }
 
 std::string Document::assembler(const std::function<std::string(std::size_t)>& ecrire) const {
@@ -157,6 +151,13 @@ std::string Document::assembler(const std::function<std::string(std::size_t)>& e
     for (std::size_t r = 0; r < entrees_.size(); ++r)
         texte.append(ecrire(r)).append(entrees_[r].fin);
     return texte;
+}
+
+std::string
+Document::assembler_les_comprises(const std::function<std::string(std::size_t)>& ecrire) const {
+    return en_utf8(assembler([&](std::size_t r) {
+        return entrees_[r].compte && !entrees_[r].objet ? std::string("#") : ecrire(r);
+    }));
 }
 
 namespace {

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "base/erreurs.h"
+#include "base/nombres.h"
 #include "base/texte.h"
+#include "config/fiche.h"
 
-#include <array>
 #include <cstddef>
 #include <functional>
 #include <optional>
@@ -11,24 +12,16 @@
 #include <string_view>
 #include <vector>
 
-/// One record of a table or robot file, as the editors show and change it.
-struct Fiche {
-    std::string cle;          ///< upper case: "L", "PB", "R"...
-    std::array<float, 4> v{}; ///< numbers in the record's own order (cm, degrees, hundredths);
-                              ///< whole ones except the first of "A"; those it lacks are 0
-    std::string texte;        ///< "M" only: the caption, lines separated by "\n"
-    bool operator==(const Fiche&) const = default;
-
-    int entier(std::size_t i) const { return static_cast<int>(v[i]); }
-};
-/// Every number fits in 16 bits.
-bool en_16_bits(const Fiche& f);
-
 /// What a file's reader would say of its text: the line that stops it and why.
 struct RefusLecture {
     int ligne;
     std::string raison;
 };
+/// Reads a text to its end. @param lire  reads it; its line counter tells where it stops
+std::optional<RefusLecture> refus_de(const std::function<void(Entier16&)>& lire);
+
+/// What a line of a file says (UTF-8, without its comment).
+using Grammaire = std::function<FicheLue(std::string_view)>;
 
 /// A line of a file or of a text pasted into one that cannot be taken. what() is "Ligne 3 : " and
 /// the reason.
@@ -69,6 +62,9 @@ public:
     /// Swaps two records with their lines.
     void echanger(std::size_t i, std::size_t j);
 
+    /// The other one has the same records in the same order.
+    bool memes_fiches(const Document& autre) const;
+
     Encodage encodage() const { return encodage_; }
 
     /// The whole of it, also what could not be written to a file yet: for a recovery file.
@@ -82,11 +78,8 @@ protected:
         std::optional<Fiche> objet; ///< the record to write; none: the line as it was read
         bool compte = false;        ///< a line that a reader looks at
     };
-    /// The record of one line (UTF-8, without its comment); none when it holds no proper one.
-    using Analyse = std::function<std::optional<Fiche>(std::string_view)>;
-
     /// @param compte  tells whether a reader looks at a line
-    void lire(std::string_view octets, const Analyse& analyse,
+    void lire(std::string_view octets, const Grammaire& grammaire,
               bool (*compte)(std::string_view) = contient_capitale_ou_chiffre);
     /// Takes back what figer() gave. @throws ErreurExecution for other bytes, or when a record is
     /// not `possible`
@@ -98,11 +91,15 @@ protected:
     void inserer_entree(std::size_t r, Entree nouvelle);
     /// The comment at the end of a line, with a blank before it; "" without one.
     static std::string commentaire(const Entree& e);
-    /// The line of a changed record: key, numbers, and the comment that it had.
+    /// The line of a changed record, with the comment that it had.
     /// @param champs  how many numbers the record has
     std::string composer(const Entree& e, std::size_t champs) const;
     /// The file's bytes, its lines made by `ecrire`.
     std::string assembler(const std::function<std::string(std::size_t)>& ecrire) const;
+    /// Likewise, in UTF-8, without the lines that are not understood: they stop the reader,
+    /// whatever is edited.
+    std::string
+    assembler_les_comprises(const std::function<std::string(std::size_t)>& ecrire) const;
 
     std::string prefixe_; ///< byte-order mark
     Encodage encodage_ = Encodage::utf8;

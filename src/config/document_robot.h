@@ -1,6 +1,10 @@
 #pragma once
 
-#include "config/document_table.h"
+#include "config/document.h"
+#include "config/fiche_robot.h"
+#include "sim/etat.h"
+
+#include <array>
 
 /// A robot file under edit: segments "R" (x1, y1, x2, y2), speeds "V" (linear and turning,
 /// hundredths), reference point and wheel track "A", sensor line "E" (extremity, length), initial
@@ -8,9 +12,6 @@
 class DocumentRobot : public Document {
 public:
     static constexpr int segments_max = 50;
-
-    /// Numbers that a robot record of that key holds.
-    static std::size_t champs(std::string_view cle);
 
     static DocumentRobot nouveau();
     static DocumentRobot depuis(std::string_view octets);
@@ -34,5 +35,6 @@ public:
     void remplir(Etat& e) const;
 
 private:
-    std::string texte(bool sans_les_incomprises) const;
+    std::string ligne_ecrite(std::size_t r) const;
+    std::string texte_compris() const;
 };

@@ -10,106 +10,21 @@
 
 namespace {
 
-bool est_boite(std::string_view cle) {
-    return cle != "LN" && nombre_de_champs(cle) == 4;
+/// The reader takes this very disc from the line when the remembered fourth comma is `virgule4`.
+bool se_relit(std::string_view ligne, const Fiche& disque, std::ptrdiff_t virgule4) {
+    return eventuelle(GrammaireTable(virgule4).lire(sans_commentaire(ligne))) == disque;
 }
-
-bool est_pion(std::string_view cle) {
-    return cle != "DR" && nombre_de_champs(cle) == 3;
-}
-
-void remettre_d_aplomb(Fiche& e) {
-    if (e.v[0] > e.v[2])
-        std::swap(e.v[0], e.v[2]);
-    if (e.v[1] > e.v[3])
-        std::swap(e.v[1], e.v[3]);
-}
-
-/// Parses the records of one file, line after line: a disc depends on the lines before it.
-class AnalyseTable {
-public:
-    std::optional<Fiche> operator()(std::string_view ligne) {
-        try {
-            return analyser(ligne);
-        } catch (const ErreurExecution&) {
-            return std::nullopt; // not understood: the line is kept as it is
-        }
-    }
-
-private:
-    std::optional<Fiche> analyser(std::string_view ligne) {
-        Champs champs(ligne);
-        Fiche e;
-        e.cle = champs.cle().vue();
-        if (e.cle == "M") {
-            e.texte = champs.reste();
-            std::replace(e.texte.begin(), e.texte.end(), ',', '\n');
-            return e;
-        }
-        if (sorte_table(e.cle) == nullptr)
-            return std::nullopt;
-        if (e.cle == "DR")
-            lire_disque(champs, e);
-        else
-            lire_nombres(champs, e);
-        return e;
-    }
-
-    void lire_nombres(Champs& champs, Fiche& e) {
-        const std::size_t n = nombre_de_champs(e.cle);
-        for (std::size_t i = 0; i + 1 < n; ++i)
-            e.v[i] = simple(champs.entier());
-        e.v[n - 1] = simple(champs.dernier_entier());
-        if (est_boite(e.cle))
-            remettre_d_aplomb(e);
-        if (n < 4)
-            return;
-        refuser_negatifs(e, n);
-        virgule4_ = champs.virgule();
-    }
-
-    void lire_disque(Champs& champs, Fiche& e) const {
-        e.v[0] = simple(champs.entier());
-        e.v[1] = simple(champs.entier());
-        const std::ptrdiff_t longueur = virgule4_ - champs.virgule() - 1;
-        if (longueur < 0)
-            throw ErreurLecture("disque sans enregistrement à quatre champs avant lui");
-        e.v[2] =
-            simple(lire_entier16(champs.reste().substr(0, static_cast<std::size_t>(longueur))));
-        refuser_negatifs(e, 2);
-    }
-
-    static void refuser_negatifs(const Fiche& e, std::size_t n) {
-        if (std::any_of(e.v.begin(), e.v.begin() + static_cast<std::ptrdiff_t>(n),
-                        [](float x) { return x < 0; }))
-            throw ErreurLecture("coordonnée négative");
-    }
-
-    std::ptrdiff_t virgule4_ = -1;
-};
 
 /// Column of the last comma of a line's record.
 std::ptrdiff_t derniere_virgule(std::string_view ligne) {
     return static_cast<std::ptrdiff_t>(sans_commentaire(ligne).rfind(','));
 }
 
-/// A disc line's third comma, and the text behind it.
-std::pair<std::ptrdiff_t, std::string_view> rayon_de(std::string_view ligne) {
-    Champs champs(sans_commentaire(ligne));
-    for (int i = 0; i < 3; ++i)
-        champs.suivant();
-    return {champs.virgule(), champs.reste()};
-}
-
-/// What the reader takes as the radius when the remembered fourth comma is `virgule4`.
-std::optional<int> rayon_lu(std::string_view ligne, std::ptrdiff_t virgule4) {
-    const auto [virgule, reste] = rayon_de(ligne);
-    if (virgule4 <= virgule)
-        return std::nullopt;
+void ajouter_s_il_reste_de_la_place(const Fiche& f, AireDeJeu& e) {
     try {
-        return lire_entier16(reste.substr(0, static_cast<std::size_t>(virgule4 - virgule - 1)));
-    } catch (const ErreurExecution&) {
-        return std::nullopt;
+        ajouter_a_la_table(f, e);
+    } catch (const HorsTable&) { // NOLINT(bugprone-empty-catch)
+        // What is drawn are the first ones; saving says that there are too many.
     }
 }
 
@@ -119,31 +34,6 @@ std::string disque_serre(const Fiche& e) {
 }
 
 } // namespace
-
-const std::vector<SorteTable>& sortes_table() {
-    static const std::vector<SorteTable> sortes{
-        {"zones", {"L", "O", "V", "T", "U", "W"}, 100},
-        {"blocs", {"DC", "DR"}, 10},
-        {"lignes", {"LN"}, 100},
-        {"ellipses", {"LE"}, 10},
-        {"pièces", {"PB", "PN", "BJ", "BB", "X", "Y"}, 100},
-    };
-    return sortes;
-}
-
-std::size_t nombre_de_champs(std::string_view cle) {
-    const SorteTable* sorte = sorte_table(cle);
-    if (sorte == nullptr)
-        return 0;
-    return cle == "DR" || sorte->nom == "pièces" ? 3 : 4;
-}
-
-const SorteTable* sorte_table(std::string_view cle) {
-    for (const SorteTable& s : sortes_table())
-        if (std::find(s.cles.begin(), s.cles.end(), cle) != s.cles.end())
-            return &s;
-    return nullptr;
-}
 
 DocumentTable DocumentTable::nouveau() {
     Ecrivain texte;
@@ -158,7 +48,8 @@ DocumentTable DocumentTable::nouveau() {
 
 DocumentTable DocumentTable::depuis(std::string_view octets) {
     DocumentTable d;
-    d.lire(octets, AnalyseTable{});
+    GrammaireTable grammaire;
+    d.lire(octets, [&](std::string_view ligne) { return grammaire.lire(ligne); });
     return d;
 }
 
@@ -172,14 +63,14 @@ DocumentTable DocumentTable::depuis_fige(std::string_view fige) {
 
 Fiche DocumentTable::normaliser(Fiche e) {
     const std::size_t n = nombre_de_champs(e.cle);
-    const bool pion = est_pion(e.cle);
+    const FormeTable forme = forme_table(e.cle);
     for (std::size_t i = 0; i < n; ++i) {
         // A disc's radius may be anything that 16 bits hold, and so may a piece's fields.
-        const bool libre = pion || (e.cle == "DR" && i == 2);
+        const bool libre = forme == FormeTable::pion || (forme == FormeTable::disque && i == 2);
         e.v[i] = std::clamp(e.v[i], libre ? -32768.0F : 0.0F,
                             libre ? 32767.0F : static_cast<float>(coordonnee_max));
     }
-    if (est_boite(e.cle))
+    if (forme == FormeTable::boite)
         remettre_d_aplomb(e);
     if (e.cle == "LE" && e.v[0] == e.v[2]) { // an ellipse without width cannot be drawn
         if (e.v[0] > 0)
@@ -279,7 +170,7 @@ std::vector<std::string> DocumentTable::mettre_en_page() const {
             virgule4 = derniere_virgule(lignes[r]);
         } else if (est_disque(r)) {
             voulue = std::max(voulue, std::ssize(disque_serre(*e.objet)));
-            a_refaire = a_refaire || rayon_lu(lignes[r], virgule4) != e.objet->entier(2);
+            a_refaire = a_refaire || !se_relit(lignes[r], *e.objet, virgule4);
         }
     }
     elargir();
@@ -288,7 +179,7 @@ std::vector<std::string> DocumentTable::mettre_en_page() const {
         const Entree& e = entrees_[r];
         if (a_quatre_champs(r))
             virgule4 = derniere_virgule(lignes[r]);
-        else if (est_disque(r) && rayon_lu(lignes[r], virgule4) != e.objet->entier(2))
+        else if (est_disque(r) && !se_relit(lignes[r], *e.objet, virgule4))
             lignes[r] = disque_serre(*e.objet) + commentaire(e);
     }
     return lignes;
@@ -298,161 +189,58 @@ std::string DocumentTable::ecrire() const {
     DocumentTable d = *this;
     d.monter_un_quatre_champs();
     const std::vector<std::string> lignes = d.mettre_en_page();
-    d.verifier(lignes);
-    std::string octets = d.assembler([&](std::size_t r) { return lignes[r]; });
-    // A disc that no four-field record preceded may have got one.
-    if (depuis(octets).incomprises() != d.incomprises())
-        throw ErreurExecution("Une ligne qui n'était pas comprise le deviendrait : corrigez-la "
-                              "d'abord dans le fichier");
+    const auto ecrire_ligne = [&](std::size_t r) { return lignes[r]; };
+    if (const auto refus = relire(d.assembler_les_comprises(ecrire_ligne)))
+        throw ErreurExecution("La table ne pourrait pas être relue (ligne " +
+                              std::to_string(refus->ligne) + ") : " + refus->raison);
+    std::string octets = d.assembler(ecrire_ligne);
+    d.comparer(depuis(octets));
     return octets;
 }
 
-namespace {
-
-/// What a table reader gave, key by key, in the order of the document's records.
-class Relecture {
-public:
-    Relecture(const AireDeJeu& e, std::string nom) : e_(e), nom_(std::move(nom)) {}
-
-    bool rend(const Fiche& o) {
-        const SorteTable* sorte = sorte_table(o.cle);
-        if (sorte == nullptr)
-            return true; // the caption: only the last one counts
-        if (sorte->nom == "zones")
-            return zone(o, e_.Zones(++zones_));
-        if (sorte->nom == "pièces")
-            return pion(o, e_.Pions(++pions_));
-        if (sorte->nom == "lignes")
-            return memes(o, e_.Lignes(++lignes_));
-        if (sorte->nom == "ellipses")
-            return memes(o, e_.Ellipses(++ellipses_));
-        return bloc(o, e_.Blocs(++blocs_));
-    }
-    bool complete() const {
-        return zones_ == e_.NbZones && pions_ == e_.NbPions && lignes_ == e_.NbLignes &&
-               ellipses_ == e_.NbEllipses && blocs_ == e_.NbBlocs;
-    }
-    const std::string& nom() const { return nom_; }
-
-private:
-    static bool memes(const Fiche& o, const auto& q) {
-        return o.entier(0) == q.X1 && o.entier(1) == q.Y1 && o.entier(2) == q.X2 &&
-               o.entier(3) == q.Y2;
-    }
-    static bool zone(const Fiche& o, const Zone& z) {
-        return o.cle == std::string(1, z.Type) && memes(o, z);
-    }
-    static bool pion(const Fiche& o, const Pion& p) {
-        return o.cle == p.Type && o.entier(0) == p.X && o.entier(1) == p.Y &&
-               o.entier(2) == p.Taille;
-    }
-    static bool bloc(const Fiche& o, const Quatre& q) {
-        if (o.cle == "DC")
-            return memes(o, q);
-        return q.Y2 == marque_disque && o.entier(0) == q.X1 && o.entier(1) == q.Y1 &&
-               o.entier(2) == q.X2;
-    }
-
-    const AireDeJeu& e_;
-    std::string nom_;
-    int zones_ = 0, pions_ = 0, lignes_ = 0, ellipses_ = 0, blocs_ = 0;
-};
-
-std::string nom_attendu(const Fiche& o) {
-    std::string nom(RetourLigne);
-    for (const char c : o.texte)
-        c == '\n' ? nom.append(RetourLigne) : nom.append(1, c);
-    return nom;
-}
-
-} // namespace
-
-void DocumentTable::verifier(const std::vector<std::string>& lignes) const {
-    // The lines that are not understood are left out here: they stop the reader, whatever is
-    // edited.
-    const std::string texte = en_utf8(assembler([&](std::size_t r) {
-        return entrees_[r].compte && !entrees_[r].objet ? std::string("#") : lignes[r];
-    }));
-    const auto e = std::make_unique<AireDeJeu>();
-    std::string nom;
-    Entier16 NoLigne;
-    vider_table(*e);
-    try {
-        lire_table(
-            texte, *e, [&](std::string_view n) { nom = n; }, NoLigne);
-    } catch (const ErreurExecution& erreur) {
-        throw ErreurExecution("La table ne pourrait pas être relue (ligne " +
-                              std::to_string(NoLigne) + ") : " + erreur.what());
-    }
-    Relecture relecture(*e, nom);
-    for (std::size_t i = 0; i < nombre(); ++i) {
-        const Fiche& o = (*this)[i];
-        if (!relecture.rend(o))
-            throw ErreurExecution("L'objet " + std::to_string(i + 1) + " (" + o.cle +
+void DocumentTable::comparer(const DocumentTable& relu) const {
+    // A disc that no four-field record preceded may have got one.
+    if (relu.incomprises() != incomprises())
+        throw ErreurExecution("Une ligne qui n'était pas comprise le deviendrait : corrigez-la "
+                              "d'abord dans le fichier");
+    for (std::size_t i = 0; i < std::min(nombre(), relu.nombre()); ++i) {
+        const Fiche& f = (*this)[i];
+        if (f.cle != "M" && relu[i] != f)
+            throw ErreurExecution("L'objet " + std::to_string(i + 1) + " (" + f.cle +
                                   ") ne serait pas relu tel qu'il est dessiné");
-        if (o.cle == "M")
-            nom = nom_attendu(o);
     }
-    if (!relecture.complete() || relecture.nom() != nom)
+    if (relu.nombre() != nombre() || relu.legende() != legende())
         throw ErreurExecution(
             "La légende ou le nombre des objets ne seraient pas relus tels quels");
 }
 
+std::string DocumentTable::legende() const {
+    for (std::size_t i = nombre(); i-- > 0;)
+        if ((*this)[i].cle == "M")
+            return (*this)[i].texte;
+    return "";
+}
+
 std::optional<RefusLecture> DocumentTable::relire(std::string_view octets) {
     const auto e = std::make_unique<AireDeJeu>();
-    Entier16 NoLigne;
     vider_table(*e);
-    try {
+    return refus_de([&](Entier16& NoLigne) {
         lire_table(
             en_utf8(std::string(octets)), *e, [](std::string_view) {}, NoLigne);
-        return std::nullopt;
-    } catch (const ErreurExecution& erreur) {
-        return RefusLecture{NoLigne, erreur.what()};
-    }
+    });
 }
-
-namespace {
-
-template <typename T, int Dernier>
-void ranger(Tableau<T, Dernier>& table, Entier16& nombre, const T& valeur) {
-    if (nombre < Dernier) {
-        nombre = nombre + 1;
-        table(nombre) = valeur;
-    }
-}
-
-void etendre(AireDeJeu& e, const Fiche& o) {
-    const bool quatre = nombre_de_champs(o.cle) == 4;
-    for (std::size_t i = 0; i < (quatre ? 4U : 2U); ++i) {
-        Entier16& etendue = i % 2 == 0 ? e.XMax : e.YMax;
-        etendue = std::clamp<int>(o.entier(i), etendue, DocumentTable::coordonnee_max);
-    }
-}
-
-void ranger_objet(AireDeJeu& e, const Fiche& o) {
-    if (est_pion(o.cle))
-        return ranger(e.Pions, e.NbPions, Pion{o.entier(0), o.entier(1), o.entier(2), o.cle});
-    etendre(e, o);
-    if (o.cle == "DR")
-        return ranger(e.Blocs, e.NbBlocs,
-                      Quatre{o.entier(0), o.entier(1), o.entier(2), marque_disque});
-    const Quatre q{o.entier(0), o.entier(1), o.entier(2), o.entier(3)};
-    if (o.cle == "DC")
-        ranger(e.Blocs, e.NbBlocs, q);
-    else if (o.cle == "LN")
-        ranger(e.Lignes, e.NbLignes, q);
-    else if (o.cle != "LE")
-        ranger(e.Zones, e.NbZones, Zone{o.cle.front(), q.X1, q.Y1, q.X2, q.Y2});
-    else if (q.X1 != q.X2) // one without width stops the simulator's drawing
-        ranger(e.Ellipses, e.NbEllipses, q);
-}
-
-} // namespace
 
 void DocumentTable::remplir(Etat& e) const {
     vider_table(e);
-    for (std::size_t i = 0; i < nombre(); ++i)
-        if ((*this)[i].cle != "M")
-            ranger_objet(e, (*this)[i]);
+    for (std::size_t i = 0; i < nombre(); ++i) {
+        const Fiche& f = (*this)[i];
+        const bool indessinable = f.cle == "LE" && f.v[0] == f.v[2];
+        if (indessinable) // one without width stops the simulator's drawing
+            etendre_la_table(f, e);
+        else
+            ajouter_s_il_reste_de_la_place(f, e);
+    }
+    e.XMax = std::min<int>(e.XMax, coordonnee_max);
+    e.YMax = std::min<int>(e.YMax, coordonnee_max);
     e.ZoneRedessin = {-5, e.XMax + 5, -5, e.YMax + 5};
 }

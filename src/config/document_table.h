@@ -1,21 +1,8 @@
 #pragma once
 
 #include "config/document.h"
+#include "config/fiche_table.h"
 #include "sim/etat.h"
-
-/// A kind of the table's records: what shares a capacity.
-struct SorteTable {
-    std::string_view nom;               ///< plural, for the user: "zones"
-    std::vector<std::string_view> cles; ///< records of this kind
-    int capacite;
-};
-/// Zones, pieces, lines, blocks, ellipses, in the order in which they are drawn.
-const std::vector<SorteTable>& sortes_table();
-/// The kind of a key; none for "M".
-const SorteTable* sorte_table(std::string_view cle);
-
-/// Numbers that a table record of that key holds, 0 for an unknown key and for "M".
-std::size_t nombre_de_champs(std::string_view cle);
 
 /// A table file under edit. Boxes are normalised (X1 <= X2, Y1 <= Y2). A disc ("DR") is x, y,
 /// radius.
@@ -54,10 +41,12 @@ public:
     void remplir(Etat& e) const;
 
 private:
+    /// The caption that counts, the last one.
+    std::string legende() const;
     std::size_t champs(std::size_t r) const;
     bool a_quatre_champs(std::size_t r) const;
     bool est_disque(std::size_t r) const;
     void monter_un_quatre_champs();
     std::vector<std::string> mettre_en_page() const;
-    void verifier(const std::vector<std::string>& lignes) const;
+    void comparer(const DocumentTable& relu) const;
 };

@@ -1,28 +1,19 @@
 #include "config/document_trajet.h"
 
 #include "config/lecteur_trajet.h"
+#include "config/ligne.h"
 #include "config/ligne_trajet.h"
 #include "config/style_trajet.h"
 #include "sim/actions.h"
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
 
 namespace {
 
 bool est_courte(std::string_view cle) {
     const actions::Action* const action = actions::trouver(cle);
     return action != nullptr && action->mot.empty();
-}
-
-std::string raison_du_refus(std::string_view ligne) {
-    try {
-        lire_ligne_trajet(ligne);
-        return "";
-    } catch (const ErreurExecution& erreur) {
-        return erreur.what();
-    }
 }
 
 bool est_action(const Fiche& e) {
@@ -58,24 +49,23 @@ std::size_t DocumentTrajet::champs(std::string_view cle) {
     return static_cast<std::size_t>(parametres_de_trajet(Nom10(cle)).value_or(0));
 }
 
-std::optional<Fiche> DocumentTrajet::fiche_de(std::string_view ligne) {
+FicheLue fiche_trajet(std::string_view ligne) {
     const Nom10 code = code_de_trajet(ligne);
-    Fiche e{std::string(code.sans_blancs()), {}, ""};
-    if (est_courte(e.cle))
-        return e;
+    FicheLue lue{{std::string(code.sans_blancs()), {}, ""}, ""};
+    if (est_courte(lue.fiche.cle) && code == Nom10(lue.fiche.cle))
+        return lue;
     try {
-        const LigneTrajet lue = lire_ligne_trajet(ligne);
-        for (std::size_t i = 0; i < lue.v.size(); ++i)
-            e.v[i] = static_cast<float>(lue.v[i]);
-        return e;
-    } catch (const ErreurExecution&) {
-        return std::nullopt; // not understood: the line is kept as it is
+        const LigneTrajet nombres = lire_ligne_trajet(ligne);
+        std::copy(nombres.v.begin(), nombres.v.end(), lue.fiche.v.begin());
+    } catch (const ErreurExecution& erreur) {
+        lue.refus = erreur.what();
     }
+    return lue;
 }
 
 DocumentTrajet DocumentTrajet::depuis(std::string_view octets) {
     DocumentTrajet d;
-    d.lire(octets, fiche_de, compte_dans_un_trajet);
+    d.lire(octets, fiche_trajet, compte_dans_un_trajet);
     return d;
 }
 
@@ -89,7 +79,7 @@ std::vector<RefusLecture> DocumentTrajet::refus(bool courtes) const {
             continue;
         const bool action_de_trop = e.objet && est_action(*e.objet) && ++actions == actions_max + 1;
         if (!e.objet)
-            liste.push_back({ligne, raison_du_refus(sans_commentaire(en_utf8(e.octets)))});
+            liste.push_back({ligne, fiche_trajet(sans_commentaire(en_utf8(e.octets))).refus});
         else if (courtes && est_courte(e.objet->cle))
             liste.push_back({ligne, "« " + e.objet->cle + " » n'est pas lu par le simulateur"});
         else if (action_de_trop)
@@ -113,9 +103,13 @@ std::optional<std::array<int, 3>> DocumentTrajet::depart() const {
 
 // A line is made from its bytes alone, so that neither moving it nor what becomes of its neighbours
 // changes it.
-std::string DocumentTrajet::texte_de(std::size_t i) const {
-    const Entree& e = entrees_[rangs_[i]];
+std::string DocumentTrajet::ligne_ecrite(std::size_t r) const {
+    const Entree& e = entrees_[r];
     return e.objet == e.lu ? e.octets : retoucher_ligne_trajet(e.octets, *e.lu, *e.objet);
+}
+
+std::string DocumentTrajet::texte_de(std::size_t i) const {
+    return ligne_ecrite(rangs_[i]);
 }
 
 // The nearest line above that shows a style, else the nearest below; a start pose looks at start
@@ -185,21 +179,11 @@ void DocumentTrajet::remplacer(std::size_t i, Fiche fiche) {
     Document::remplacer(i, std::move(fiche));
 }
 
-std::string DocumentTrajet::texte() const {
-    std::size_t i = 0;
-    return assembler(
-        [&](std::size_t r) { return entrees_[r].objet ? texte_de(i++) : entrees_[r].octets; });
-}
-
 std::string DocumentTrajet::texte_jouable() const {
-    std::size_t i = 0;
-    return en_utf8(assembler([&](std::size_t r) {
-        const Entree& e = entrees_[r];
-        if (!e.objet)
-            return e.compte ? std::string("#") : e.octets;
-        const std::size_t k = i++;
-        return est_courte(e.objet->cle) ? cle_jouee(e.objet->cle) : texte_de(k);
-    }));
+    return assembler_les_comprises([this](std::size_t r) {
+        const std::optional<Fiche>& f = entrees_[r].objet;
+        return f && est_courte(f->cle) ? cle_jouee(f->cle) : ligne_ecrite(r);
+    });
 }
 
 void DocumentTrajet::remplir(Etat& e, Entier16 n) const {
@@ -211,50 +195,32 @@ void DocumentTrajet::remplir(Etat& e, Entier16 n) const {
     }
 }
 
-void DocumentTrajet::comparer(const Etat& e) const {
-    int k = 0;
-    for (std::size_t i = 0; i < nombre(); ++i) {
-        const Fiche& o = (*this)[i];
-        if (!est_action(o))
-            continue;
-        ++k;
-        const std::size_t n = champs(o.cle);
-        if (k > e.TrajNbActions(1) || e.TrajAction(1, k) != Nom10(cle_jouee(o.cle)) ||
-            (n > 0 && e.TrajParam1(1, k) != o.entier(0)) ||
-            (n > 1 && e.TrajParam2(1, k) != o.entier(1)))
+void DocumentTrajet::comparer(const DocumentTrajet& relu) const {
+    const auto jouee = [](Fiche f) {
+        f.cle = cle_jouee(f.cle);
+        return f;
+    };
+    for (std::size_t i = 0; i < nombre(); ++i)
+        if (est_action((*this)[i]) && (i >= relu.nombre() || jouee(relu[i]) != jouee((*this)[i])))
             throw ErreurExecution("L'action de la ligne " + std::to_string(ligne(i)) +
                                   " ne serait pas relue telle quelle");
-    }
-    const std::array<int, 3> pose{static_cast<int>(e.XInit(1)), static_cast<int>(e.YInit(1)),
-                                  static_cast<int>(e.CapInit(1))};
-    if (k != e.TrajNbActions(1) || depart().value_or(std::array<int, 3>{}) != pose)
+    if (relu.nb_actions() != nb_actions() || relu.depart() != depart())
         throw ErreurExecution(
             "Le départ ou le nombre des actions ne seraient pas relus tels quels");
 }
 
 std::string DocumentTrajet::ecrire() const {
-    std::string octets = texte();
-    // The lines that are not understood are left out here: they stop the reader, whatever is
-    // edited.
-    const auto e = std::make_unique<Etat>();
-    Entier16 NoLigne;
-    try {
-        LecteurTrajet(*e).lire(depuis(octets).texte_jouable(), 1, NoLigne);
-    } catch (const ErreurExecution& erreur) {
+    std::string octets = assembler([this](std::size_t r) { return ligne_ecrite(r); });
+    const DocumentTrajet relu = depuis(octets);
+    if (const auto refus = relire(relu.texte_jouable()))
         throw ErreurExecution("Le trajet ne pourrait pas être relu (ligne " +
-                              std::to_string(NoLigne) + ") : " + erreur.what());
-    }
-    comparer(*e);
+                              std::to_string(refus->ligne) + ") : " + refus->raison);
+    comparer(relu);
     return octets;
 }
 
 std::optional<RefusLecture> DocumentTrajet::relire(std::string_view octets) {
-    const auto e = std::make_unique<Etat>();
-    Entier16 NoLigne;
-    try {
-        LecteurTrajet(*e).lire(en_utf8(std::string(octets)), 1, NoLigne);
-        return std::nullopt;
-    } catch (const ErreurExecution& erreur) {
-        return RefusLecture{NoLigne, erreur.what()};
-    }
+    return refus_de([&](Entier16& NoLigne) {
+        parcourir_trajet(en_utf8(std::string(octets)), NoLigne, [](const LigneTrajet&) {});
+    });
 }

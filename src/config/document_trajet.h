@@ -5,6 +5,10 @@
 
 #include <array>
 
+/// The record of a trajectory file's line, short beacons included.
+/// @param ligne  a line that counts, without its comment
+FicheLue fiche_trajet(std::string_view ligne);
+
 /// A trajectory file under edit: its actions and start poses ("INIT": x, y, heading) in order, keys
 /// as the state has them ("AVANCE", "BALISE DRO", "FIN"). The beacons that the recorder writes
 /// short ("BD", "BG") are records here, although the simulator's reader refuses them.
@@ -12,9 +16,6 @@ class DocumentTrajet : public Document {
 public:
     /// Reads any bytes: what is no proper line is kept as it is.
     static DocumentTrajet depuis(std::string_view octets);
-    /// The record of one line (UTF-8, without its comment), short beacons included; nothing when it
-    /// holds no proper one.
-    static std::optional<Fiche> fiche_de(std::string_view ligne);
     /// Numbers that a record of that key holds, 0 for an unknown one.
     static std::size_t champs(std::string_view cle);
 
@@ -56,10 +57,10 @@ public:
     void remplir(Etat& e, Entier16 n) const;
 
 private:
-    std::string texte() const;
+    std::string ligne_ecrite(std::size_t r) const;
     std::string style_et_texte(std::size_t i, const Fiche& fiche) const;
     void exiger_place(int actions) const;
-    void comparer(const Etat& e) const;
+    void comparer(const DocumentTrajet& relu) const;
 };
 
 /// The key that plays as this one: the short beacons are spelled out.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/fiche.h"
 #include "sim/etat.h"
 
 #include <string_view>
@@ -9,7 +10,9 @@
 /// the first).
 class LecteurRobot {
 public:
-    explicit LecteurRobot(Etat& etat) : e(etat) {}
+    /// @param course  takes the working copies of the sensor line
+    LecteurRobot(ModelesDeRobots& modeles, Course& course) : modeles_(modeles), course_(course) {}
+    explicit LecteurRobot(Etat& etat) : LecteurRobot(etat, etat) {}
 
     /// Reads robot n's file and turns its segments into outline points in polar form.
     /// @param texte    the file's content, UTF-8
@@ -21,11 +24,12 @@ public:
 private:
     using Segments = Tableau<Quatre, points_max>;
 
-    void lire_ligne(std::string_view ligne, Entier16 n, Segments& segments);
+    void appliquer(const Fiche& f, Entier16 n, Segments& segments);
     void convertir_contour(Entier16 n, const Segments& segments);
     void placer_point(Entier16 n, int k, Entier16 x, Entier16 y);
 
-    Etat& e;
+    ModelesDeRobots& modeles_;
+    Course& course_;
     float ax_ = 0; ///< reference point of the outline (cm)
     float ay_ = 0;
 };

@@ -1,10 +1,18 @@
 #pragma once
 
-#include "config/ligne.h"
+#include "config/ligne_trajet.h"
 #include "sim/etat.h"
 
+#include <functional>
 #include <string_view>
 #include <vector>
+
+/// Hands every action and start pose of a trajectory file to `prendre`.
+/// @param texte    the file's content, UTF-8
+/// @param NoLigne  counts the lines: the faulty one after an exception
+/// @throws ErreurExecution on the first faulty line, HorsTable on that of the 1001st action
+void parcourir_trajet(std::string_view texte, Entier16& NoLigne,
+                      const std::function<void(const LigneTrajet&)>& prendre);
 
 /// Reads trajectory files into the state, one after the other; one object for one reading of a
 /// project's trajectories, because the two parameters live on: an action that has none stores what
@@ -23,8 +31,8 @@ public:
     const std::vector<int>& lignes() const { return lignes_; }
 
 private:
-    void lire_ligne(std::string_view ligne, Entier16 n);
-    void ajouter(const Nom10& action, Entier16 n);
+    void prendre_depart(const LigneTrajet& lue, Entier16 n);
+    void ajouter(const LigneTrajet& lue, Entier16 n);
 
     Etat& e;
     Entier16 parametre_, parametre2_;

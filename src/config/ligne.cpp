@@ -13,10 +13,14 @@ Cle::Cle(
     mettre_en_majuscules({octets_.data(), longueur_});
 }
 
-void Champs::refuser() const {
-    throw ErreurLecture("il manque une virgule : " + std::string(ligne_.substr(0, 80)));
+ErreurLecture Champs::sans_virgule() const {
+    return ErreurLecture("il manque une virgule : " + std::string(ligne_.substr(0, 80)));
+}
+
+ErreurLecture cle_inconnue(std::string_view cle) {
+    return ErreurLecture("enregistrement inconnu : " + std::string(cle));
 }
 
 void refuser_cle(std::string_view cle) {
-    throw ErreurLecture("enregistrement inconnu : " + std::string(cle));
+    throw cle_inconnue(cle);
 }

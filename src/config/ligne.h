@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 // The line syntax that all configuration files share: "#" starts a comment, fields are separated by
@@ -49,15 +50,23 @@ class Champs {
 public:
     explicit Champs(std::string_view ligne) : ligne_(ligne) {}
 
-    /// The text up to the next comma. @throws ErreurLecture when there is none
-    std::string_view suivant() {
+    /// The text up to the next comma, nothing when there is none.
+    std::optional<std::string_view> eventuel() {
         const std::size_t virgule = ligne_.find(',', debut_);
         if (virgule == std::string_view::npos)
-            refuser();
+            return std::nullopt;
         const std::string_view champ = ligne_.substr(debut_, virgule - debut_);
         debut_ = virgule + 1;
         return champ;
     }
+    /// The text up to the next comma. @throws ErreurLecture when there is none
+    std::string_view suivant() {
+        const auto champ = eventuel();
+        if (!champ)
+            throw sans_virgule();
+        return *champ;
+    }
+    ErreurLecture sans_virgule() const;
     /// Everything after the last comma passed.
     std::string_view reste() const { return ligne_.substr(debut_); }
     /// Position of the last comma passed, the line's first character being 0; -1 before the first.
@@ -68,11 +77,11 @@ public:
     Entier16 dernier_entier() const { return lire_entier16(reste()); }
 
 private:
-    [[noreturn]] void refuser() const;
-
     std::string_view ligne_;
     std::size_t debut_ = 0;
 };
 
-/// A reader met a key that it does not know. @throws ErreurLecture
+/// A reader met a key that it does not know.
+ErreurLecture cle_inconnue(std::string_view cle);
+/// @throws ErreurLecture likewise
 [[noreturn]] void refuser_cle(std::string_view cle);

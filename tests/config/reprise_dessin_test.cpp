@@ -1,6 +1,7 @@
 #include "config/reprise_dessin.h"
 
 #include "config/document_robot.h"
+#include "config/document_table.h"
 #include "outils/dossier_temporaire.h"
 
 #include <gtest/gtest.h>

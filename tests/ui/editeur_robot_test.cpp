@@ -48,7 +48,7 @@ protected:
     }
     std::string nombres(std::string_view cle) {
         std::string t;
-        for (std::size_t i = 0; i < DocumentRobot::champs(cle); ++i)
+        for (std::size_t i = 0; i < champs_robot(cle); ++i)
             t += (i == 0 ? "" : " ") + std::to_string(static_cast<int>(doc().valeurs(cle)[i]));
         return t;
     }
