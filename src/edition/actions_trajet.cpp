@@ -20,11 +20,6 @@ std::string copier(const DocumentTrajet& trajet, const Choix& choix) {
     return lignes;
 }
 
-void retirer(DocumentTrajet& trajet, const Choix& choix) {
-    for (auto i = choix.rbegin(); i != choix.rend(); ++i)
-        trajet.retirer(*i);
-}
-
 Choix coller(DocumentTrajet& trajet, std::size_t i, std::string_view lignes) {
     return a_partir_de(i, trajet.inserer_lignes(i, lignes));
 }

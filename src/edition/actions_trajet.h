@@ -1,21 +1,17 @@
 #pragma once
 
 #include "config/document_trajet.h"
+#include "edition/choix.h"
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 // What the table of actions does to a trajectory. Records are chosen by their indices in increasing
 // order; each function leaves the document as it was when it throws. Undoing is keeping the
 // document from before: it is a value.
 
-using Choix = std::vector<std::size_t>;
-
 /// The chosen records as lines of a trajectory file, with their comments: UTF-8, CR LF.
 std::string copier(const DocumentTrajet& trajet, const Choix& choix);
-
-void retirer(DocumentTrajet& trajet, const Choix& choix);
 
 /// Lines of a trajectory file in front of record i; the one past the last is the end.
 /// @returns the new records

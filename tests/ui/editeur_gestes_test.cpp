@@ -1,6 +1,5 @@
 // How the table editor's mouse, keys and fields take, move and measure what is drawn.
 #include "ui/banc_table.h"
-#include "ui/editeurs/formes.h"
 
 #include <QPlainTextEdit>
 #include <QStatusBar>
@@ -94,9 +93,6 @@ TEST_F(GestesTable, rien_sans_etendue_n_est_pose_ni_tire_ni_tape) {
     clic(120, 120);
     taper("Rayon", "0");
     EXPECT_EQ(dernier("PB"), "PB 120 120 10");
-    const Fiche minimal = formes::tiree({"DR", {50, 50, 9, 0}, ""}, 0, {50, 50});
-    EXPECT_EQ(minimal.v[2], 1) << "a radius pulled to nothing";
-    EXPECT_EQ(Foutil::tracer(*Foutil::outil("outil_DR"), {9, 9}, {9, 9}).v[2], 1);
 }
 
 TEST_F(GestesTable, les_deux_bouts_d_une_boite_se_tapent_dans_n_importe_quel_ordre) {
@@ -198,45 +194,6 @@ TEST_F(GestesTable, la_grille_du_menu_est_celle_de_la_vue) {
     }
     EXPECT_TRUE(trouver<QMainWindow>("dessinRobot").findChild<QAction*>("grille_1")->isChecked())
         << "the robot's own from the start";
-}
-
-// Corners and middles from the lower left on, anticlockwise; a circle has the middles alone.
-TEST(Poignees, nombre_place_et_effet) {
-    const Fiche zone{"L", {10, 20, 30, 60}, ""};
-    const std::vector<QPointF> points = formes::poignees(zone);
-    const std::vector<QPointF> voulus{{10, 20}, {20, 20}, {30, 20}, {30, 40},
-                                      {30, 60}, {20, 60}, {10, 60}, {10, 40}};
-    EXPECT_EQ(points, voulus);
-    struct Cas {
-        std::size_t poignee;
-        std::array<float, 4> apres; ///< pulled to (100, 5): the box is turned the right way round
-    };
-    for (const Cas& c :
-         {Cas{0, {30, 5, 100, 60}}, Cas{1, {10, 5, 30, 60}}, Cas{2, {10, 5, 100, 60}},
-          Cas{3, {10, 20, 100, 60}}, Cas{4, {10, 5, 100, 20}}, Cas{5, {10, 5, 30, 20}},
-          Cas{6, {30, 5, 100, 20}}, Cas{7, {30, 20, 100, 60}}})
-        EXPECT_EQ(formes::tiree(zone, c.poignee, {100, 5}).v, c.apres) << c.poignee;
-    const std::vector<QPointF> du_cercle{{50, 42}, {58, 50}, {50, 58}, {42, 50}};
-    EXPECT_EQ(formes::poignees({"PB", {50, 50, 8, 0}, ""}), du_cercle);
-    EXPECT_EQ(formes::poignees({"LN", {1, 2, 3, 4}, ""}), (std::vector<QPointF>{{1, 2}, {3, 4}}));
-    EXPECT_TRUE(formes::poignees({"M", {}, "x"}).empty());
-}
-
-TEST(Formes, la_zone_ou_la_souris_prend_un_objet) {
-    struct Cas {
-        Fiche objet;
-        QPointF dedans, dehors; ///< within and beyond 2 cm
-    };
-    for (const Cas& c : {Cas{{"L", {10, 10, 50, 50}, ""}, {30, 30}, {52, 30}},
-                         Cas{{"DC", {10, 10, 50, 50}, ""}, {51.5, 30}, {30, 30}},
-                         Cas{{"LE", {10, 10, 50, 30}, ""}, {30, 11}, {30, 20}},
-                         Cas{{"LE", {10, 10, 50, 30}, ""}, {11, 20}, {12, 12}},
-                         Cas{{"DR", {30, 30, 10, 0}, ""}, {30, 41}, {30, 33}},
-                         Cas{{"PB", {30, 30, 10, 0}, ""}, {30, 33}, {30, 41}},
-                         Cas{{"LN", {10, 10, 50, 50}, ""}, {31, 29.5}, {52, 52}}}) {
-        EXPECT_TRUE(formes::touchee(c.objet, c.dedans, 2)) << c.objet.cle;
-        EXPECT_FALSE(formes::touchee(c.objet, c.dehors, 2)) << c.objet.cle;
-    }
 }
 
 // Qt splits a filter's patterns at blanks: "* Table.ini" showed nothing but "Table.ini".

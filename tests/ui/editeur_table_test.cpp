@@ -163,6 +163,18 @@ TEST_F(EditeurTable, enregistrer_demande_garde_la_version_d_avant_et_propose_de_
     EXPECT_EQ(sur_le_disque(), "autre");
 }
 
+TEST_F(EditeurTable, un_nom_qui_ne_se_relit_pas_mene_a_enregistrer_sous) {
+    const auto chemin = dossier.ecrire("Configuration/A#B Table.ini", "U,0,0,70,70\r\n");
+    ASSERT_TRUE(editeur().ouvrir(chemin));
+    messages.clear();
+    noms = {"AB Table"};
+    commande("enregistrer");
+    ASSERT_FALSE(messages.empty());
+    EXPECT_NE(messages[0].find("ne peut pas contenir"), std::string::npos) << messages[0];
+    EXPECT_EQ(dossier.lire("Configuration/AB Table.ini"), "U,0,0,70,70\r\n");
+    EXPECT_TRUE(std::filesystem::exists(chemin));
+}
+
 TEST_F(EditeurTable, un_fichier_change_ailleurs_est_relu_sans_perdre_le_dessin) {
     ouvrir();
     commande("zoom_plus");

@@ -1,8 +1,8 @@
 #include "ui/editeurs/dessin_robot.h"
 
 #include "base/fichiers.h"
-#include "config/lecteur_trajet.h"
-#include "ui/editeurs/formes.h"
+#include "config/document_trajet.h"
+#include "edition/segments_robot.h"
 #include "ui/editeurs/foutil.h"
 
 #include <QMenu>
@@ -10,9 +10,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <cmath>
-#include <memory>
 
 namespace {
 
@@ -31,26 +29,18 @@ constexpr Reglage reglages[] = {
     {"I", "I3", "Cap de départ", "°", 2},
 };
 
-Fiche deplace(Fiche f, double dx, double dy) {
-    for (std::size_t k = 0; k < 4; ++k)
-        f.v[k] = std::clamp(f.v[k] + static_cast<float>(k % 2 == 0 ? dx : dy), -32768.0F, 32767.0F);
-    return f;
-}
-
 /// The pose that a trajectory gives its robot, none when it leaves the robot file's.
 std::optional<std::array<float, 4>> pose_du_trajet(const std::filesystem::path& fichier) {
-    const auto e = std::make_unique<Etat>();
-    constexpr float jamais = 1e9F; // no 16-bit number
-    e->XInit(1) = jamais;
     try {
-        Entier16 NoLigne;
-        LecteurTrajet(*e).lire(en_utf8(lire_octets(fichier)), 1, NoLigne);
+        const std::string octets = lire_octets(fichier);
+        const auto pose = DocumentTrajet::depuis(octets).depart();
+        if (!pose || DocumentTrajet::relire(octets))
+            return std::nullopt; // loading the project tells why
+        const auto nombre = [&](std::size_t i) { return static_cast<float>((*pose)[i]); };
+        return std::array<float, 4>{nombre(0), nombre(1), nombre(2), 0};
     } catch (const ErreurExecution&) {
-        return std::nullopt; // loading the project tells why
-    }
-    if (e->XInit(1) == jamais)
         return std::nullopt;
-    return std::array<float, 4>{e->XInit(1), e->YInit(1), e->CapInit(1), 0};
+    }
 }
 
 } // namespace
@@ -198,77 +188,39 @@ void dessinRobot::montrer_liste() {
 }
 
 Selection dessinRobot::segments_choisis() const {
-    Selection s;
-    for (const std::size_t i : historique_.selection())
-        if (historique_.doc()[i].cle == "R")
-            s.push_back(i);
-    return s;
+    return segments(historique_.doc(), historique_.selection());
 }
 
 void dessinRobot::retirer() {
     DocumentRobot d = historique_.doc();
     const Selection s = segments_choisis();
-    for (std::size_t k = s.size(); k-- > 0;)
-        d.retirer(s[k]);
+    ::retirer(d, s);
     if (!s.empty())
         historique_.changer("Supprimer", std::move(d), {});
 }
 
-void dessinRobot::ajouter(const std::vector<Fiche>& segments, const QString& nom) {
-    DocumentRobot d = historique_.doc();
-    Selection s;
-    for (const Fiche& f : segments)
-        s.push_back(d.ajouter(f)); // each behind the one before
-    if (!s.empty())
-        historique_.changer(nom, std::move(d), s);
-}
-
 void dessinRobot::dupliquer() {
-    std::vector<Fiche> copies;
-    for (const std::size_t i : segments_choisis())
-        copies.push_back(deplace(historique_.doc()[i], vue_.grille(), vue_.grille()));
-    ajouter(copies, "Dupliquer");
+    DocumentRobot d = historique_.doc();
+    const Selection s = ::dupliquer(d, historique_.selection(), vue_.grille());
+    if (!s.empty())
+        historique_.changer("Dupliquer", std::move(d), s);
 }
 
-// About the axis through the reference point: the chosen segments, or all. What lies on the axis or
-// has its image already is not doubled.
 void dessinRobot::miroir() {
-    const DocumentRobot& d = historique_.doc();
-    const double axe = 2.0 * d.valeurs("A")[0];
-    Selection s = segments_choisis();
-    std::vector<std::array<float, 4>> presents;
-    for (std::size_t i = 0; i < d.nombre(); ++i)
-        if (d[i].cle == "R") {
-            const auto& v = d[i].v;
-            presents.push_back(v);
-            presents.push_back({v[2], v[3], v[0], v[1]});
-            if (segments_choisis().empty())
-                s.push_back(i);
-        }
-    std::vector<Fiche> images;
-    for (const std::size_t i : s) {
-        Fiche f = d[i];
-        for (const std::size_t k : {0U, 2U})
-            f.v[k] = static_cast<float>(std::clamp(std::round(axe - f.v[k]), -32768.0, 32767.0));
-        if (std::find(presents.begin(), presents.end(), f.v) == presents.end())
-            images.push_back(f);
-    }
-    ajouter(images, "Copie en miroir");
+    DocumentRobot d = historique_.doc();
+    const Selection s = copier_en_miroir(d, historique_.selection());
+    if (!s.empty())
+        historique_.changer("Copie en miroir", std::move(d), s);
 }
 
 void dessinRobot::tout_choisir() {
-    Selection s;
-    for (std::size_t i = 0; i < historique_.doc().nombre(); ++i)
-        if (historique_.doc()[i].cle == "R")
-            s.push_back(i);
-    historique_.choisir(s);
+    historique_.choisir(segments(historique_.doc()));
 }
 
 void dessinRobot::deplacer(double dx, double dy) {
     DocumentRobot d = historique_.doc();
     const Selection s = segments_choisis();
-    for (const std::size_t i : s)
-        d.remplacer(i, deplace(d[i], dx, dy));
+    ::deplacer(d, s, {dx, dy});
     if (!s.empty())
         historique_.changer("Déplacer", std::move(d), s, fusion_des_pas);
 }
@@ -278,21 +230,16 @@ void dessinRobot::changer_segment(std::size_t champ, double valeur) {
     if (s.size() != 1)
         return;
     DocumentRobot d = historique_.doc();
-    Fiche f = d[s.front()];
-    f.v[champ] = static_cast<float>(valeur);
-    if (formes::sans_etendue(f) && !formes::sans_etendue(d[s.front()])) {
+    if (!::changer_segment(d, s.front(), champ, valeur)) {
         statusBar()->showMessage("Refusé : un segment sans longueur ne se verrait pas");
         return montrer_segment();
     }
-    d.remplacer(s.front(), f);
     historique_.changer("Changer un segment", std::move(d), s);
 }
 
 void dessinRobot::changer_reglage(std::size_t champ, double valeur) {
     const Reglage& r = reglages[champ];
     DocumentRobot d = historique_.doc();
-    auto v = d.valeurs(r.cle);
-    v[r.rang] = static_cast<float>(valeur);
-    d.regler(r.cle, v);
+    regler_nombre(d, r.cle, r.rang, valeur);
     historique_.changer(QString("Changer : ") + r.texte, std::move(d), {});
 }

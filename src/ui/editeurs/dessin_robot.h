@@ -41,7 +41,6 @@ private:
     void montrer_liste();
     void montrer_avis_init();
     void miroir();
-    void ajouter(const std::vector<Fiche>& segments, const QString& nom);
     Selection segments_choisis() const;
     void changer_segment(std::size_t champ, double valeur);
     void changer_reglage(std::size_t champ, double valeur);

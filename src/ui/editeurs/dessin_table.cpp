@@ -100,16 +100,17 @@ void dessinTable::preparer_edition() {
 
 void dessinTable::preparer_alignement() {
     QMenu& m = *menu_edition().addMenu("A&ligner");
-    struct Choix {
+    struct Commande {
         const char *nom, *texte;
         Bord bord;
     };
-    for (const Choix& c :
-         {Choix{"aligner_gauche", "À &gauche", Bord::gauche},
-          Choix{"aligner_droite", "À &droite", Bord::droite},
-          Choix{"aligner_haut", "En &haut", Bord::haut}, Choix{"aligner_bas", "En &bas", Bord::bas},
-          Choix{"aligner_milieu_x", "Sur la même &verticale", Bord::milieu_x},
-          Choix{"aligner_milieu_y", "Sur la même h&orizontale", Bord::milieu_y}})
+    for (const Commande& c :
+         {Commande{"aligner_gauche", "À &gauche", Bord::gauche},
+          Commande{"aligner_droite", "À &droite", Bord::droite},
+          Commande{"aligner_haut", "En &haut", Bord::haut},
+          Commande{"aligner_bas", "En &bas", Bord::bas},
+          Commande{"aligner_milieu_x", "Sur la même &verticale", Bord::milieu_x},
+          Commande{"aligner_milieu_y", "Sur la même h&orizontale", Bord::milieu_y}})
         action(m, c.nom, c.texte, {}, [this, bord = c.bord] { aligner(bord); });
 }
 

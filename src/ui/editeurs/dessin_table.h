@@ -1,5 +1,6 @@
 #pragma once
 
+#include "edition/objets_table.h"
 #include "ui/commun/historique.h"
 #include "ui/commun/panneau_proprietes.h"
 #include "ui/editeurs/fenetre_editeur.h"
@@ -29,8 +30,6 @@ protected:
     void deplacer(double dx, double dy) override;
 
 private:
-    enum class Bord { gauche, droite, haut, bas, milieu_x, milieu_y };
-
     /// The measures of one record as they were typed: the document keeps its box the right way
     /// round, a line its exact length while its angle is changed.
     struct Mesures {

@@ -5,7 +5,6 @@
 
 #include <QStatusBar>
 
-#include <algorithm>
 #include <cmath>
 
 void dessinTable::refuser(const std::string& raison) {
@@ -16,30 +15,16 @@ void dessinTable::retirer() {
     if (historique_.selection().empty())
         return;
     DocumentTable d = historique_.doc();
-    Selection s = historique_.selection();
-    for (std::size_t k = s.size(); k-- > 0;)
-        d.retirer(s[k]);
+    ::retirer(d, historique_.selection());
     historique_.changer("Supprimer", std::move(d), {});
 }
 
 // Placed beside the originals, by one step of the grid, and chosen in their place.
 void dessinTable::dupliquer() {
     DocumentTable d = historique_.doc();
-    std::vector<Fiche> copies;
-    for (const std::size_t i : historique_.selection())
-        if (d[i].cle != "M")
-            copies.push_back(formes::deplacee(d[i], vue_.grille(), vue_.grille()));
-    if (copies.empty())
-        return;
-    Selection s;
-    for (const Fiche& e : copies) {
-        const std::size_t i = d.ajouter(e);
-        for (std::size_t& j : s)
-            j += j >= i ? 1 : 0;
-        s.push_back(i);
-    }
-    std::sort(s.begin(), s.end());
-    historique_.changer("Dupliquer", std::move(d), s);
+    const Selection copies = ::dupliquer(d, historique_.selection(), vue_.grille());
+    if (!copies.empty())
+        historique_.changer("Dupliquer", std::move(d), copies);
 }
 
 void dessinTable::tout_choisir() {
@@ -52,15 +37,8 @@ void dessinTable::tout_choisir() {
 
 void dessinTable::deplacer(double dx, double dy) {
     DocumentTable d = historique_.doc();
-    std::vector<Fiche> objets;
-    for (const std::size_t i : historique_.selection())
-        objets.push_back(d[i]);
-    const QPointF ecart = formes::deplacement_permis(objets, {dx, dy});
-    if (objets.empty() || ecart.isNull())
-        return;
-    for (const std::size_t i : historique_.selection())
-        d.remplacer(i, formes::deplacee(d[i], ecart.x(), ecart.y()));
-    historique_.changer("Déplacer", std::move(d), historique_.selection(), fusion_des_pas);
+    if (::deplacer(d, historique_.selection(), {dx, dy}))
+        historique_.changer("Déplacer", std::move(d), historique_.selection(), fusion_des_pas);
 }
 
 void dessinTable::changer_plan(bool vers_l_avant) {
@@ -73,41 +51,12 @@ void dessinTable::changer_plan(bool vers_l_avant) {
         historique_.changer(vers_l_avant ? "Vers l'avant" : "Vers l'arrière", std::move(d), {i});
 }
 
-// On the edge (or the middle) of the box around everything that is chosen.
 void dessinTable::aligner(Bord bord) {
     DocumentTable d = historique_.doc();
-    QRectF tout;
-    for (const std::size_t i : historique_.selection())
-        if (d[i].cle != "M")
-            tout = tout.isNull() ? formes::cadre(d[i]) : tout.united(formes::cadre(d[i]));
-    if (historique_.selection().size() < 2)
-        return refuser("Choisissez au moins deux objets à aligner");
-    for (const std::size_t i : historique_.selection()) {
-        const QRectF r = formes::cadre(d[i]);
-        QPointF ecart;
-        switch (bord) {
-        case Bord::gauche:
-            ecart.setX(tout.left() - r.left());
-            break;
-        case Bord::droite:
-            ecart.setX(tout.right() - r.right());
-            break;
-        case Bord::haut: // y upwards
-            ecart.setY(tout.bottom() - r.bottom());
-            break;
-        case Bord::bas:
-            ecart.setY(tout.top() - r.top());
-            break;
-        case Bord::milieu_x:
-            ecart.setX(tout.center().x() - r.center().x());
-            break;
-        case Bord::milieu_y:
-            ecart.setY(tout.center().y() - r.center().y());
-            break;
-        }
-        ecart = formes::deplacement_permis({d[i]}, ecart);
-        if (d[i].cle != "M")
-            d.remplacer(i, formes::deplacee(d[i], ecart.x(), ecart.y()));
+    try {
+        ::aligner(d, historique_.selection(), bord);
+    } catch (const ErreurExecution& erreur) {
+        return refuser(erreur.what());
     }
     historique_.changer("Aligner", std::move(d), historique_.selection());
 }
@@ -138,9 +87,7 @@ void dessinTable::changer_nombre(std::size_t champ, double valeur) {
 
 // The line turns about its first end and keeps its length. @returns false when it would not
 bool dessinTable::tourner(Mesures& m, double angle) {
-    auto& v = m.typees.v;
-    v[2] = static_cast<float>(std::round(v[0] + m.longueur * std::cos(radians(angle))));
-    v[3] = static_cast<float>(std::round(v[1] + m.longueur * std::sin(radians(angle))));
+    m.typees = formes::tournee(m.typees, m.longueur, angle);
     return DocumentTable::normaliser(m.typees) == m.typees;
 }
 
@@ -174,26 +121,14 @@ void dessinTable::changer_sorte(const std::string& cle) {
     if (s.size() != 1 || historique_.doc()[s.front()].cle == cle)
         return;
     DocumentTable d = historique_.doc();
-    Fiche e = d[s.front()];
-    e.cle = cle;
-    d.remplacer(s.front(), e);
+    ::changer_sorte(d, s.front(), cle);
     historique_.changer("Changer de sorte", std::move(d), s);
 }
 
 void dessinTable::changer_legende() {
     DocumentTable d = historique_.doc();
-    Selection s = historique_.selection();
-    const Fiche e{"M", {}, legende_.toPlainText().toStdString()};
-    std::size_t i = d.nombre();
-    while (i-- > 0 && d[i].cle != "M") {
-    }
-    if (i < d.nombre()) {
-        d.remplacer(i, e);
-    } else {
-        const std::size_t place = d.ajouter(e);
-        for (std::size_t& j : s)
-            j += j >= place ? 1 : 0;
-    }
+    const Selection s =
+        regler_legende(d, historique_.selection(), legende_.toPlainText().toStdString());
     historique_.changer("Changer la légende", std::move(d), s, fusion_des_frappes);
 }
 

@@ -163,7 +163,16 @@ void FenetreEditeur::proposer_de_charger() {
 }
 
 bool FenetreEditeur::enregistrer() {
-    return chemin_.empty() ? enregistrer_sous() : genererFic(chemin_);
+    if (chemin_.empty())
+        return enregistrer_sous();
+    // "Ouvrir ..." takes files that no project could read back under their name.
+    if (const std::string raison = raison_nom_impossible(chemin_.stem().string());
+        !raison.empty()) {
+        boites_.message("Le fichier " + chemin_.filename().string() +
+                        " doit être enregistré sous un autre nom. " + raison);
+        return enregistrer_sous();
+    }
+    return genererFic(chemin_);
 }
 
 bool FenetreEditeur::enregistrer_sous() {

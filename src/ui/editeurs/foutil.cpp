@@ -1,6 +1,5 @@
 #include "ui/editeurs/foutil.h"
 
-#include "base/nombres.h"
 #include "ui/commun/touches_annulation.h"
 #include "ui/editeurs/formes.h"
 
@@ -10,14 +9,11 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QLineF>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace {
@@ -76,11 +72,6 @@ QPixmap image(const Outil& outil) {
     p.setRenderHint(QPainter::Antialiasing);
     dessiner_forme(p, outil);
     return pixmap;
-}
-
-Fiche enregistrement(const Outil& outil, double a, double b, double c, double d = 0) {
-    const auto f = [](double x) { return static_cast<float>(std::round(x)); };
-    return {outil.cle, {f(a), f(b), f(c), f(d)}, ""};
 }
 
 } // namespace
@@ -297,35 +288,11 @@ void Foutil::prendre(const Outil& outil) {
 }
 
 Fiche Foutil::creer(const Outil& outil, QPointF c) const {
-    using F = Outil::Forme;
-    if (outil.forme == F::cercle)
-        return enregistrement(outil, c.x(), c.y(), rayon.value());
-    double dx = largeur.value();
-    double dy = hauteur.value();
-    if (outil.cle == std::string_view("LN")) {
-        const double angle = outil.forme == F::horizontale ? 0
-                             : outil.forme == F::verticale ? 90
-                                                           : incidence.value();
-        dx = longueur.value() * std::cos(radians(angle));
-        dy = longueur.value() * std::sin(radians(angle));
-    }
-    // Whole centimetres and the size as it was asked for; a table has no negative coordinates.
-    double x = std::round(c.x() - dx / 2);
-    double y = std::round(c.y() - dy / 2);
-    if (chx_dessinTable.isChecked()) {
-        x = std::max({x, 0.0, -std::round(dx)});
-        y = std::max({y, 0.0, -std::round(dy)});
-    }
-    return enregistrement(outil, x, y, x + std::round(dx), y + std::round(dy));
+    const Tailles tailles{double(largeur.value()), double(hauteur.value()), double(rayon.value()),
+                          double(longueur.value()), double(incidence.value())};
+    return posee(outil.cle, outil.forme, en_vecteur(c), tailles, chx_dessinTable.isChecked());
 }
 
 Fiche Foutil::tracer(const Outil& outil, QPointF a, QPointF b) {
-    using F = Outil::Forme;
-    if (outil.forme == F::cercle)
-        return enregistrement(outil, a.x(), a.y(), std::max(1.0, QLineF(a, b).length()));
-    if (outil.forme == F::horizontale)
-        b.setY(a.y());
-    if (outil.forme == F::verticale)
-        b.setX(a.x());
-    return enregistrement(outil, a.x(), a.y(), b.x(), b.y());
+    return tracee(outil.cle, outil.forme, en_vecteur(a), en_vecteur(b));
 }

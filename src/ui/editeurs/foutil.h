@@ -1,7 +1,7 @@
 #pragma once
 
-#include "config/document.h"
 #include "config/nom_projet.h"
+#include "edition/outils.h"
 #include "ui/commun/nombre.h"
 
 #include <QButtonGroup>
@@ -16,7 +16,7 @@
 
 /// One thing that the palette places.
 struct Outil {
-    enum class Forme { selection, boite, cercle, horizontale, verticale, libre, legende };
+    using Forme = FormeOutil;
     const char* nom; ///< objectName of its button
     const char* texte;
     const char* cle; ///< key of the record that it makes

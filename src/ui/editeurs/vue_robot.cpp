@@ -1,5 +1,6 @@
 #include "ui/editeurs/vue_robot.h"
 
+#include "edition/segments_robot.h"
 #include "ui/editeurs/formes.h"
 
 #include <QDragEnterEvent>
@@ -8,7 +9,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -24,10 +24,6 @@ QPointF bout(const Fiche& segment, std::size_t k) {
 Fiche en_ligne(Fiche segment) {
     segment.cle = "LN";
     return segment;
-}
-
-float en_16_bits(double x) {
-    return static_cast<float>(std::clamp(std::round(x), -32768.0, 32767.0));
 }
 
 } // namespace
@@ -150,7 +146,7 @@ VueRobot::Geste VueRobot::geste_sous(QPointF pixels) {
         return Geste::extremite;
     for (std::size_t i = d.nombre(); i-- > 0;)
         if (d[i].cle == "R" &&
-            formes::touchee(en_ligne(d[i]), en_cm(pixels), prise / pixels_par_cm())) {
+            formes::touchee(en_ligne(d[i]), en_vecteur(en_cm(pixels)), prise / pixels_par_cm())) {
             pris_ = i;
             return Geste::deplacer;
         }
@@ -191,49 +187,44 @@ void VueRobot::glisser(QPointF pixels, Qt::KeyboardModifiers touches) {
     if (!provisoire_ && !ebauche_ && !gestes().loin())
         return;
     const QPointF cm = aimanter(en_cm(pixels), touches);
-    const float x = en_16_bits(cm.x());
-    const float y = en_16_bits(cm.y());
-    DocumentRobot d = h_.doc();
-    if (geste_ == Geste::placer) {
+    if (geste_ == Geste::placer)
         ebauche_ =
             Foutil::tracer(outils_.en_main(), aimanter(en_cm(gestes().depart()), touches), cm);
-    } else if (geste_ == Geste::deplacer) {
-        deplacer(en_cm(pixels), touches);
-    } else if (geste_ == Geste::bout) {
-        Fiche f = d[pris_];
-        f.v[2 * bout_] = x;
-        f.v[2 * bout_ + 1] = y;
-        d.remplacer(pris_, f);
-        if (!formes::sans_etendue(f)) // pulled to nothing, it stays as it was before
-            provisoire_ = std::move(d);
-    } else if (geste_ == Geste::reference) {
-        d.regler("A", {x, y, d.valeurs("A")[2], 0});
+    else if (DocumentRobot d = h_.doc(); appliquer(d, pixels, touches))
         provisoire_ = std::move(d);
-    } else if (geste_ == Geste::extremite) {
-        d.regler("E", {x, y, d.valeurs("E")[2], 0});
-        provisoire_ = std::move(d);
-    } else if (geste_ == Geste::roue) {
-        const auto a = d.valeurs("A");
-        d.regler("A", {a[0], a[1], en_16_bits(2 * std::fabs(en_cm(pixels).x() - a[0])), 0});
-        provisoire_ = std::move(d);
-    }
     if (provisoire_)
         au_glissement();
     update();
 }
 
-void VueRobot::deplacer(QPointF cm, Qt::KeyboardModifiers touches) {
-    DocumentRobot d = h_.doc();
-    const QPointF repere = bout(d[pris_], 0);
-    const QPointF ecart = aimanter(repere + cm - en_cm(gestes().depart()), touches) - repere;
-    for (const std::size_t i : h_.selection()) {
-        Fiche f = d[i];
-        for (std::size_t k = 0; k < 4; ++k)
-            f.v[k] = en_16_bits(f.v[k] + (k % 2 == 0 ? ecart.x() : ecart.y()));
-        if (f.cle == "R")
-            d.remplacer(i, f);
+// @returns false when the gesture leaves the robot as it is shown
+bool VueRobot::appliquer(DocumentRobot& d, QPointF pixels, Qt::KeyboardModifiers touches) const {
+    const Vecteur cm = en_vecteur(aimanter(en_cm(pixels), touches));
+    switch (geste_) {
+    case Geste::deplacer: {
+        const QPointF repere = bout(d[pris_], 0);
+        const QPointF ecart =
+            aimanter(repere + en_cm(pixels) - en_cm(gestes().depart()), touches) - repere;
+        deplacer(d, h_.selection(), en_vecteur(ecart));
+        return true;
     }
-    provisoire_ = std::move(d);
+    case Geste::bout:
+        return tirer_bout(d, pris_, bout_, cm); // pulled to nothing, it stays as it was before
+    case Geste::reference:
+        placer_reference(d, cm);
+        return true;
+    case Geste::extremite:
+        placer_extremite(d, cm);
+        return true;
+    case Geste::roue:
+        placer_roue(d, en_cm(pixels).x());
+        return true;
+    case Geste::aucun:
+    case Geste::placer:
+    case Geste::cadre:
+        break;
+    }
+    return false;
 }
 
 QString VueRobot::nom_du_geste(Geste geste) const {
@@ -265,9 +256,8 @@ void VueRobot::relacher(QPointF pixels, Qt::KeyboardModifiers touches) {
     } else if (geste == Geste::cadre) {
         const QRectF r = QRectF(en_cm(gestes().depart()), en_cm(pixels)).normalized();
         Selection s = en_plus ? h_.selection() : Selection{};
-        for (std::size_t i = 0; i < h_.doc().nombre(); ++i)
-            if (h_.doc()[i].cle == "R" && r.contains(bout(h_.doc()[i], 0)) &&
-                r.contains(bout(h_.doc()[i], 1)))
+        for (const std::size_t i : segments(h_.doc()))
+            if (r.contains(bout(h_.doc()[i], 0)) && r.contains(bout(h_.doc()[i], 1)))
                 s.push_back(i);
         std::sort(s.begin(), s.end());
         s.erase(std::unique(s.begin(), s.end()), s.end());
@@ -283,13 +273,9 @@ void VueRobot::relacher(QPointF pixels, Qt::KeyboardModifiers touches) {
 }
 
 void VueRobot::ajouter(Fiche segment) {
-    segment.cle = std::string("R"); // g++ 12 misreads the assignment of a literal
     DocumentRobot d = h_.doc();
     try {
-        if (formes::sans_etendue(segment))
-            throw ErreurExecution(
-                "Un segment sans longueur ne se verrait pas : tracez-le plus grand");
-        const std::size_t i = d.ajouter(std::move(segment));
+        const std::size_t i = creer(d, std::move(segment));
         h_.changer("Ajouter un segment", std::move(d), {i});
     } catch (const ErreurExecution& erreur) {
         update();

@@ -44,7 +44,7 @@ private:
     void peindre_reperes(QPainter& peintre) const;
     void peindre_segments(QPainter& peintre) const;
     void choisir_sous(bool en_plus);
-    void deplacer(QPointF cm, Qt::KeyboardModifiers touches);
+    bool appliquer(DocumentRobot& d, QPointF pixels, Qt::KeyboardModifiers touches) const;
     void ajouter(Fiche segment);
     QString nom_du_geste(Geste geste) const;
 

@@ -1,6 +1,7 @@
 #include "ui/editeurs/vue_table.h"
 
 #include "draw/table.h"
+#include "edition/objets_table.h"
 #include "ui/commun/boites.h"
 #include "ui/commun/surface_qt.h"
 #include "ui/editeurs/formes.h"
@@ -65,8 +66,8 @@ void VueTable::peindre_dessus(QPainter& peintre) {
     if (h_.selection().size() == 1) {
         peintre.setPen(QPen(teinte, 1));
         peintre.setBrush(Qt::white);
-        for (const QPointF p : formes::poignees(d[h_.selection().front()]))
-            peintre.drawRect(QRectF(en_pixels(p) - QPointF(3.5, 3.5), QSizeF(7, 7)));
+        for (const Vecteur p : formes::poignees(d[h_.selection().front()]))
+            peintre.drawRect(QRectF(en_pixels(en_point(p)) - QPointF(3.5, 3.5), QSizeF(7, 7)));
     }
     peintre.setBrush(Qt::NoBrush);
     peintre.setPen(QPen(teinte, 1, Qt::DashLine));
@@ -107,7 +108,7 @@ std::optional<std::size_t> VueTable::objet_sous(QPointF cm) const {
     for (std::size_t s = sortes.size(); s-- > 0;)
         for (std::size_t i = d.nombre(); i-- > 0;)
             if (sorte_table(d[i].cle) == &sortes[s] && !verrouille(d[i]) &&
-                formes::touchee(d[i], cm, portee / pixels_par_cm()))
+                formes::touchee(d[i], en_vecteur(cm), portee / pixels_par_cm()))
                 return i;
     return std::nullopt;
 }
@@ -115,9 +116,9 @@ std::optional<std::size_t> VueTable::objet_sous(QPointF cm) const {
 std::optional<std::size_t> VueTable::poignee_sous(QPointF pixels) const {
     if (h_.selection().size() != 1 || verrouille(h_.doc()[h_.selection().front()]))
         return std::nullopt;
-    const std::vector<QPointF> points = formes::poignees(h_.doc()[h_.selection().front()]);
+    const std::vector<Vecteur> points = formes::poignees(h_.doc()[h_.selection().front()]);
     for (std::size_t k = 0; k < points.size(); ++k)
-        if ((en_pixels(points[k]) - pixels).manhattanLength() <= portee + 2)
+        if ((en_pixels(en_point(points[k])) - pixels).manhattanLength() <= portee + 2)
             return k;
     return std::nullopt;
 }
@@ -175,27 +176,21 @@ void VueTable::glisser(QPointF pixels, Qt::KeyboardModifiers touches) {
 
 // Pulled to nothing, it stays as it was before.
 void VueTable::changer_forme(QPointF cm) {
-    const Fiche tiree = formes::tiree(h_.doc()[pris_], poignee_, cm);
-    if (formes::sans_etendue(tiree))
-        return;
-    provisoire_ = h_.doc();
-    provisoire_->remplacer(pris_, tiree);
-    provisoire_->remplir(*e_);
+    DocumentTable d = h_.doc();
+    if (redimensionner(d, pris_, poignee_, en_vecteur(cm)))
+        montrer(std::move(d));
 }
 
 void VueTable::deplacer(QPointF cm, Qt::KeyboardModifiers touches) {
-    const DocumentTable& d = h_.doc();
-    if (h_.selection().empty())
-        return;
+    DocumentTable d = h_.doc();
     const QPointF repere(d[pris_].v[0], d[pris_].v[1]);
-    std::vector<Fiche> objets;
-    for (const std::size_t i : h_.selection())
-        objets.push_back(d[i]);
-    const QPointF ecart = formes::deplacement_permis(
-        objets, aimanter(repere + cm - en_cm(gestes().depart()), touches) - repere);
-    provisoire_ = d;
-    for (const std::size_t i : h_.selection())
-        provisoire_->remplacer(i, formes::deplacee(d[i], ecart.x(), ecart.y()));
+    const QPointF ecart = aimanter(repere + cm - en_cm(gestes().depart()), touches) - repere;
+    ::deplacer(d, h_.selection(), en_vecteur(ecart));
+    montrer(std::move(d));
+}
+
+void VueTable::montrer(DocumentTable d) {
+    provisoire_ = std::move(d);
     provisoire_->remplir(*e_);
 }
 
@@ -255,9 +250,7 @@ void VueTable::poser(const Outil& outil, QPointF cm) {
 void VueTable::ajouter(Fiche e, const QString& nom) {
     DocumentTable d = h_.doc();
     try {
-        if (formes::sans_etendue(e))
-            throw ErreurExecution("Un objet sans étendue ne se verrait pas : tracez-le plus grand");
-        const std::size_t i = d.ajouter(std::move(e));
+        const std::size_t i = creer(d, std::move(e));
         h_.changer(nom, std::move(d), {i});
     } catch (const ErreurExecution& erreur) {
         update();

@@ -49,6 +49,7 @@ private:
     void deplacer(QPointF cm, Qt::KeyboardModifiers touches);
     void ajouter(Fiche e, const QString& nom);
     void changer_forme(QPointF cm);
+    void montrer(DocumentTable d);
     void choisir_dans(const QRectF& cm, bool en_plus);
 
     Historique<DocumentTable>& h_;

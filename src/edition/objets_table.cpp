@@ -1,0 +1,115 @@
+#include "edition/objets_table.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+std::vector<Fiche> objets_de(const DocumentTable& table, const Choix& choix) {
+    std::vector<Fiche> objets;
+    for (const std::size_t i : choix)
+        if (table[i].cle != "M")
+            objets.push_back(table[i]);
+    return objets;
+}
+
+Bornes bornes_de_tous(const std::vector<Fiche>& objets) {
+    Bornes tout = formes::bornes(objets.front());
+    for (const Fiche& f : objets) {
+        const Bornes b = formes::bornes(f);
+        tout = {std::min(tout.gauche, b.gauche), std::min(tout.bas, b.bas),
+                std::max(tout.droite, b.droite), std::max(tout.haut, b.haut)};
+    }
+    return tout;
+}
+
+Vecteur vers_le_bord(const Bornes& b, const Bornes& tout, Bord bord) {
+    switch (bord) {
+    case Bord::gauche:
+        return {tout.gauche - b.gauche, 0};
+    case Bord::droite:
+        return {tout.droite - b.droite, 0};
+    case Bord::haut:
+        return {0, tout.haut - b.haut};
+    case Bord::bas:
+        return {0, tout.bas - b.bas};
+    case Bord::milieu_x:
+        return {tout.milieu().x - b.milieu().x, 0};
+    case Bord::milieu_y:
+        break;
+    }
+    return {0, tout.milieu().y - b.milieu().y};
+}
+
+/// The indices after a record was put in at `place`.
+void faire_place(Choix& choix, std::size_t place) {
+    for (std::size_t& i : choix)
+        i += i >= place ? 1 : 0;
+}
+
+} // namespace
+
+std::size_t creer(DocumentTable& table, Fiche objet) {
+    if (formes::sans_etendue(objet))
+        throw ErreurExecution("Un objet sans étendue ne se verrait pas : tracez-le plus grand");
+    return table.ajouter(std::move(objet));
+}
+
+Choix dupliquer(DocumentTable& table, const Choix& choix, double ecart) {
+    Choix copies;
+    for (const Fiche& objet : objets_de(table, choix)) {
+        const std::size_t i = table.ajouter(formes::deplacee(objet, ecart, ecart));
+        faire_place(copies, i);
+        copies.push_back(i);
+    }
+    std::sort(copies.begin(), copies.end());
+    return copies;
+}
+
+bool deplacer(DocumentTable& table, const Choix& choix, Vecteur ecart) {
+    ecart = formes::deplacement_permis(objets_de(table, choix), ecart);
+    if (choix.empty() || ecart == Vecteur{})
+        return false;
+    for (const std::size_t i : choix)
+        table.remplacer(i, formes::deplacee(table[i], ecart.x, ecart.y));
+    return true;
+}
+
+void aligner(DocumentTable& table, const Choix& choix, Bord bord) {
+    if (choix.size() < 2)
+        throw ErreurExecution("Choisissez au moins deux objets à aligner");
+    const std::vector<Fiche> objets = objets_de(table, choix);
+    for (const std::size_t i : choix) {
+        if (table[i].cle == "M")
+            continue;
+        const Vecteur ecart = formes::deplacement_permis(
+            {table[i]}, vers_le_bord(formes::bornes(table[i]), bornes_de_tous(objets), bord));
+        table.remplacer(i, formes::deplacee(table[i], ecart.x, ecart.y));
+    }
+}
+
+bool redimensionner(DocumentTable& table, std::size_t i, std::size_t poignee, Vecteur cm) {
+    const Fiche tiree = formes::tiree(table[i], poignee, cm);
+    if (formes::sans_etendue(tiree))
+        return false;
+    table.remplacer(i, tiree);
+    return true;
+}
+
+void changer_sorte(DocumentTable& table, std::size_t i, const std::string& cle) {
+    Fiche f = table[i];
+    f.cle = cle;
+    table.remplacer(i, std::move(f));
+}
+
+Choix regler_legende(DocumentTable& table, Choix choix, const std::string& texte) {
+    const Fiche legende{"M", {}, texte};
+    for (std::size_t i = table.nombre(); i-- > 0;) {
+        if (table[i].cle == "M") {
+            table.remplacer(i, legende);
+            return choix;
+        }
+    }
+    faire_place(choix, table.ajouter(legende));
+    return choix;
+}

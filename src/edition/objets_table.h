@@ -1,0 +1,29 @@
+#pragma once
+
+#include "config/document_table.h"
+#include "edition/choix.h"
+#include "edition/formes.h"
+
+#include <string>
+
+// What the table editor does to a table. Undoing is keeping the document from before: it is a
+// value. A caption among the chosen records stays as it is.
+
+enum class Bord { gauche, droite, haut, bas, milieu_x, milieu_y };
+
+/// Adds what was drawn, over those of its kind. @returns its index
+/// @throws ErreurExecution, a sentence for the user: it would not be seen, or its kind is full
+std::size_t creer(DocumentTable& table, Fiche objet);
+/// Copies beside the originals (cm to the right and up). @returns them @throws when a kind is full
+Choix dupliquer(DocumentTable& table, const Choix& choix, double ecart);
+/// Moves records together, as far as the table's file can say. @returns false when that is nowhere
+bool deplacer(DocumentTable& table, const Choix& choix, Vecteur ecart);
+/// Moves each to an edge, or the middle, of the box around all of them.
+/// @throws ErreurExecution, a sentence for the user, for fewer than two
+void aligner(DocumentTable& table, const Choix& choix, Bord bord);
+/// Pulls a record by one of its handles. @returns false, the table as it was, when nothing would be
+/// left of it
+bool redimensionner(DocumentTable& table, std::size_t i, std::size_t poignee, Vecteur cm);
+void changer_sorte(DocumentTable& table, std::size_t i, const std::string& cle);
+/// Changes the caption that counts, or adds one. @returns the chosen records' indices from then on
+Choix regler_legende(DocumentTable& table, Choix choix, const std::string& texte);

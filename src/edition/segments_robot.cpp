@@ -1,0 +1,127 @@
+#include "edition/segments_robot.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+float en_16_bits(double x) {
+    return static_cast<float>(std::clamp(std::round(x), -32768.0, 32767.0));
+}
+
+Fiche deplace(Fiche segment, Vecteur ecart) {
+    for (std::size_t k = 0; k < segment.v.size(); ++k)
+        segment.v[k] = en_16_bits(segment.v[k] + (k % 2 == 0 ? ecart.x : ecart.y));
+    return segment;
+}
+
+Fiche image(Fiche segment, double x_axe) {
+    for (const std::size_t k : {0U, 2U})
+        segment.v[k] = en_16_bits(2 * x_axe - segment.v[k]);
+    return segment;
+}
+
+Choix ajouter(DocumentRobot& robot, const std::vector<Fiche>& nouveaux) {
+    Choix choix;
+    for (const Fiche& f : nouveaux)
+        choix.push_back(robot.ajouter(f)); // each behind the one before
+    return choix;
+}
+
+/// @returns false, nothing changed, when the segment loses its length
+bool remplacer(DocumentRobot& robot, std::size_t i, Fiche segment) {
+    if (formes::sans_etendue(segment) && !formes::sans_etendue(robot[i]))
+        return false;
+    robot.remplacer(i, std::move(segment));
+    return true;
+}
+
+} // namespace
+
+Choix segments(const DocumentRobot& robot) {
+    Choix choix;
+    for (std::size_t i = 0; i < robot.nombre(); ++i)
+        if (robot[i].cle == "R")
+            choix.push_back(i);
+    return choix;
+}
+
+Choix segments(const DocumentRobot& robot, const Choix& choix) {
+    Choix restants;
+    std::copy_if(choix.begin(), choix.end(), std::back_inserter(restants),
+                 [&](std::size_t i) { return robot[i].cle == "R"; });
+    return restants;
+}
+
+std::size_t creer(DocumentRobot& robot, Fiche ligne) {
+    ligne.cle = std::string("R"); // g++ 12 misreads the assignment of a literal
+    if (formes::sans_etendue(ligne))
+        throw ErreurExecution("Un segment sans longueur ne se verrait pas : tracez-le plus grand");
+    return robot.ajouter(std::move(ligne));
+}
+
+Choix dupliquer(DocumentRobot& robot, const Choix& choix, double ecart) {
+    std::vector<Fiche> copies;
+    for (const std::size_t i : segments(robot, choix))
+        copies.push_back(deplace(robot[i], {ecart, ecart}));
+    return ajouter(robot, copies);
+}
+
+void deplacer(DocumentRobot& robot, const Choix& choix, Vecteur ecart) {
+    for (const std::size_t i : segments(robot, choix))
+        robot.remplacer(i, deplace(robot[i], ecart));
+}
+
+Choix copier_en_miroir(DocumentRobot& robot, const Choix& choix) {
+    const Choix tous = segments(robot);
+    const Choix choisis = segments(robot, choix);
+    std::vector<std::array<float, 4>> presents; // in both directions
+    for (const std::size_t i : tous) {
+        const auto& v = robot[i].v;
+        presents.push_back(v);
+        presents.push_back({v[2], v[3], v[0], v[1]});
+    }
+    std::vector<Fiche> images;
+    for (const std::size_t i : choisis.empty() ? tous : choisis) {
+        const Fiche f = image(robot[i], robot.valeurs("A")[0]);
+        if (std::find(presents.begin(), presents.end(), f.v) == presents.end())
+            images.push_back(f);
+    }
+    return ajouter(robot, images);
+}
+
+bool changer_segment(DocumentRobot& robot, std::size_t i, std::size_t champ, double valeur) {
+    Fiche f = robot[i];
+    f.v[champ] = static_cast<float>(valeur);
+    return remplacer(robot, i, std::move(f));
+}
+
+bool tirer_bout(DocumentRobot& robot, std::size_t i, std::size_t bout, Vecteur cm) {
+    Fiche f = robot[i];
+    f.v[2 * bout] = en_16_bits(cm.x);
+    f.v[2 * bout + 1] = en_16_bits(cm.y);
+    if (formes::sans_etendue(f))
+        return false;
+    robot.remplacer(i, std::move(f));
+    return true;
+}
+
+void placer_reference(DocumentRobot& robot, Vecteur cm) {
+    robot.regler("A", {en_16_bits(cm.x), en_16_bits(cm.y), robot.valeurs("A")[2], 0});
+}
+
+void placer_extremite(DocumentRobot& robot, Vecteur cm) {
+    robot.regler("E", {en_16_bits(cm.x), en_16_bits(cm.y), robot.valeurs("E")[2], 0});
+}
+
+void placer_roue(DocumentRobot& robot, double x) {
+    const auto a = robot.valeurs("A");
+    robot.regler("A", {a[0], a[1], en_16_bits(2 * std::fabs(x - a[0])), 0});
+}
+
+void regler_nombre(DocumentRobot& robot, std::string_view cle, std::size_t rang, double valeur) {
+    auto v = robot.valeurs(cle);
+    v[rang] = static_cast<float>(valeur);
+    robot.regler(cle, v);
+}

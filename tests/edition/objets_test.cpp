@@ -1,0 +1,183 @@
+// What the editors do to a table and a robot, without a window.
+#include "edition/objets_table.h"
+#include "edition/outils.h"
+#include "edition/segments_robot.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+// Corners and middles from the lower left on, anticlockwise; a circle has the middles alone.
+TEST(Poignees, nombre_place_et_effet) {
+    const Fiche zone{"L", {10, 20, 30, 60}, ""};
+    const std::vector<Vecteur> points = formes::poignees(zone);
+    const std::vector<Vecteur> voulus{{10, 20}, {20, 20}, {30, 20}, {30, 40},
+                                      {30, 60}, {20, 60}, {10, 60}, {10, 40}};
+    EXPECT_EQ(points, voulus);
+    struct Cas {
+        std::size_t poignee;
+        std::array<float, 4> apres; ///< pulled to (100, 5): the box is turned the right way round
+    };
+    for (const Cas& c :
+         {Cas{0, {30, 5, 100, 60}}, Cas{1, {10, 5, 30, 60}}, Cas{2, {10, 5, 100, 60}},
+          Cas{3, {10, 20, 100, 60}}, Cas{4, {10, 5, 100, 20}}, Cas{5, {10, 5, 30, 20}},
+          Cas{6, {30, 5, 100, 20}}, Cas{7, {30, 20, 100, 60}}})
+        EXPECT_EQ(formes::tiree(zone, c.poignee, {100, 5}).v, c.apres) << c.poignee;
+    const Fiche minimal = formes::tiree({"DR", {50, 50, 9, 0}, ""}, 0, {50, 50});
+    EXPECT_EQ(minimal.v[2], 1) << "a radius pulled to nothing";
+    const std::vector<Vecteur> du_cercle{{50, 42}, {58, 50}, {50, 58}, {42, 50}};
+    EXPECT_EQ(formes::poignees({"PB", {50, 50, 8, 0}, ""}), du_cercle);
+    EXPECT_EQ(formes::poignees({"LN", {1, 2, 3, 4}, ""}), (std::vector<Vecteur>{{1, 2}, {3, 4}}));
+    EXPECT_TRUE(formes::poignees({"M", {}, "x"}).empty());
+}
+
+TEST(Formes, la_zone_ou_la_souris_prend_un_objet) {
+    struct Cas {
+        Fiche objet;
+        Vecteur dedans, dehors; ///< within and beyond 2 cm
+    };
+    for (const Cas& c : {Cas{{"L", {10, 10, 50, 50}, ""}, {30, 30}, {52, 30}},
+                         Cas{{"DC", {10, 10, 50, 50}, ""}, {51.5, 30}, {30, 30}},
+                         Cas{{"LE", {10, 10, 50, 30}, ""}, {30, 11}, {30, 20}},
+                         Cas{{"LE", {10, 10, 50, 30}, ""}, {11, 20}, {12, 12}},
+                         Cas{{"DR", {30, 30, 10, 0}, ""}, {30, 41}, {30, 33}},
+                         Cas{{"PB", {30, 30, 10, 0}, ""}, {30, 33}, {30, 41}},
+                         Cas{{"LN", {10, 10, 50, 50}, ""}, {31, 29.5}, {52, 52}}}) {
+        EXPECT_TRUE(formes::touchee(c.objet, c.dedans, 2)) << c.objet.cle;
+        EXPECT_FALSE(formes::touchee(c.objet, c.dehors, 2)) << c.objet.cle;
+    }
+}
+
+namespace {
+
+std::string apres(std::string_view table, const std::function<void(DocumentTable&)>& changer) {
+    DocumentTable d = DocumentTable::depuis(table);
+    changer(d);
+    return d.ecrire();
+}
+
+std::string robot_apres(std::string_view robot,
+                        const std::function<void(DocumentRobot&)>& changer) {
+    DocumentRobot d = DocumentRobot::depuis(robot);
+    changer(d);
+    return d.ecrire();
+}
+
+} // namespace
+
+TEST(ObjetsTable, chaque_geste_change_ce_qui_est_choisi_et_rien_d_autre) {
+    constexpr std::string_view avant = "# sol\nU,0,0,200,300\nM,Nom\nL,10,10,30,20\nPB,50,60,5\n";
+    const Choix tout{1, 2, 3}; // the caption among them
+    struct Cas {
+        std::function<void(DocumentTable&)> geste;
+        std::string_view lignes; ///< those of the zone and the piece
+    };
+    const Cas cas[] = {
+        {[&](auto& d) {
+             EXPECT_TRUE(deplacer(d, tout, {-100, 7}));
+         },
+         "L , 0, 17, 20, 27\nPB , 40, 67, 5\n"}, // together, as far as the zone can go
+        {[&](auto& d) {
+             EXPECT_FALSE(deplacer(d, {2}, {-0.0, 0}));
+         },
+         "L,10,10,30,20\nPB,50,60,5\n"},
+        {[&](auto& d) { aligner(d, tout, Bord::gauche); }, "L,10,10,30,20\nPB , 15, 60, 5\n"},
+        {[&](auto& d) { aligner(d, tout, Bord::droite); }, "L , 35, 10, 55, 20\nPB,50,60,5\n"},
+        {[&](auto& d) { aligner(d, tout, Bord::haut); }, "L , 10, 55, 30, 65\nPB,50,60,5\n"},
+        {[&](auto& d) { aligner(d, tout, Bord::bas); }, "L,10,10,30,20\nPB , 50, 15, 5\n"},
+        {[&](auto& d) { aligner(d, tout, Bord::milieu_y); },
+         "L , 10, 33, 30, 43\nPB , 50, 37, 5\n"},
+        {[&](auto& d) {
+             EXPECT_TRUE(redimensionner(d, 2, 2, {40, 5}));
+         },
+         "L , 10, 5, 40, 20\nPB,50,60,5\n"},
+        {[&](auto& d) {
+             EXPECT_FALSE(redimensionner(d, 2, 3, {10, 5}));
+         },
+         "L,10,10,30,20\nPB,50,60,5\n"},
+        {[&](auto& d) { changer_sorte(d, 3, "BJ"); }, "L,10,10,30,20\nBJ , 50, 60, 5\n"},
+        {[&](auto& d) {
+             EXPECT_EQ(dupliquer(d, tout, 5), (Choix{3, 5}));
+         },
+         "L,10,10,30,20\nL , 15, 15, 35, 25\nPB,50,60,5\nPB , 55, 65, 5\n"},
+        {[&](auto& d) { retirer(d, {3}); }, "L,10,10,30,20\n"},
+    };
+    for (const Cas& c : cas)
+        EXPECT_EQ(apres(avant, c.geste), "# sol\nU,0,0,200,300\nM,Nom\n" + std::string(c.lignes));
+    DocumentTable d = DocumentTable::depuis(avant);
+    EXPECT_THROW(aligner(d, {2}, Bord::bas), ErreurExecution);
+    EXPECT_THROW(creer(d, {"L", {5, 5, 5, 9}, ""}), ErreurExecution) << "no width";
+    EXPECT_EQ(d.ecrire(), avant);
+}
+
+TEST(ObjetsTable, la_legende_qui_vaut_est_changee_ou_ajoutee) {
+    Choix choix;
+    EXPECT_EQ(apres("M,a\nU,0,0,9,9\nM,b\n", [&](auto& d) { choix = regler_legende(d, {1}, "c"); }),
+              "M,a\nU,0,0,9,9\nM,c\n");
+    EXPECT_EQ(choix, Choix{1});
+    EXPECT_EQ(apres("U,0,0,9,9\n", [&](auto& d) { choix = regler_legende(d, {0}, "c\nd"); }),
+              "U,0,0,9,9\nM,c,d\n");
+    EXPECT_EQ(choix, Choix{0});
+}
+
+TEST(SegmentsRobot, chaque_geste_change_les_segments_choisis) {
+    constexpr std::string_view avant = "A,10,5,8\nR,0,0,4,0\nR,16,0,20,0\nE,1,2,3\n";
+    struct Cas {
+        std::function<void(DocumentRobot&)> geste;
+        std::string_view attendu;
+    };
+    const Cas cas[] = {
+        {[](auto& d) {
+             deplacer(d, {0, 1, 3}, {2, -3});
+         },
+         "A,10,5,8\nR , 2, -3, 6, -3\nR,16,0,20,0\nE,1,2,3\n"},
+        {[](auto& d) { EXPECT_EQ(dupliquer(d, {1}, 5), Choix{3}); },
+         "A,10,5,8\nR,0,0,4,0\nR,16,0,20,0\nR , 5, 5, 9, 5\nE,1,2,3\n"},
+        // Each is the other's image already, written from its other end.
+        {[](auto& d) { EXPECT_TRUE(copier_en_miroir(d, {}).empty()); }, avant},
+        {[](auto& d) {
+             EXPECT_TRUE(changer_segment(d, 1, 1, 7));
+             EXPECT_EQ(copier_en_miroir(d, {0, 1}), Choix{3});
+         },
+         "A,10,5,8\nR , 0, 7, 4, 0\nR,16,0,20,0\nR , 20, 7, 16, 0\nE,1,2,3\n"},
+        {[](auto& d) { EXPECT_FALSE(changer_segment(d, 1, 0, 4)); }, avant},
+        {[](auto& d) {
+             EXPECT_FALSE(tirer_bout(d, 1, 1, {0.2, -0.4}));
+         },
+         avant},
+        {[](auto& d) {
+             EXPECT_TRUE(tirer_bout(d, 2, 0, {-40000, 1.5}));
+         },
+         "A,10,5,8\nR,0,0,4,0\nR , -32768, 2, 20, 0\nE,1,2,3\n"},
+        {[](auto& d) {
+             placer_reference(d, {1, 2});
+         },
+         "A , 1, 2, 8\nR,0,0,4,0\nR,16,0,20,0\nE,1,2,3\n"},
+        {[](auto& d) { placer_roue(d, 4); }, "A , 10, 5, 12\nR,0,0,4,0\nR,16,0,20,0\nE,1,2,3\n"},
+        {[](auto& d) {
+             placer_extremite(d, {7, 8});
+             regler_nombre(d, "E", 2, 9);
+         },
+         "A,10,5,8\nR,0,0,4,0\nR,16,0,20,0\nE , 7, 8, 9\n"},
+        {[](auto& d) {
+             EXPECT_EQ(creer(d, {"LN", {1, 1, 2, 2}, ""}), 3U);
+         },
+         "A,10,5,8\nR,0,0,4,0\nR,16,0,20,0\nR , 1, 1, 2, 2\nE,1,2,3\n"},
+    };
+    for (const Cas& c : cas)
+        EXPECT_EQ(robot_apres(avant, c.geste), c.attendu);
+}
+
+TEST(Outils, un_clic_pose_la_taille_voulue_un_trace_suit_la_souris) {
+    const Tailles t{40, 20, 5, 60, 90};
+    const auto v = [](const Fiche& f) { return f.v; };
+    using V = std::array<float, 4>;
+    EXPECT_EQ(v(posee("L", FormeOutil::boite, {50, 50}, t, true)), (V{30, 40, 70, 60}));
+    EXPECT_EQ(v(posee("L", FormeOutil::boite, {3, 4}, t, true)), (V{0, 0, 40, 20}));
+    EXPECT_EQ(v(posee("LN", FormeOutil::libre, {0, 0}, t, false)), (V{0, -30, 0, 30}));
+    EXPECT_EQ(v(posee("LN", FormeOutil::horizontale, {50, 9}, t, true)), (V{20, 9, 80, 9}));
+    EXPECT_EQ(v(posee("PB", FormeOutil::cercle, {2, 3}, t, true)), (V{2, 3, 5, 0}));
+    EXPECT_EQ(v(tracee("DR", FormeOutil::cercle, {9, 9}, {9, 9})), (V{9, 9, 1, 0}));
+    EXPECT_EQ(v(tracee("DR", FormeOutil::cercle, {0, 0}, {3, 4})), (V{0, 0, 5, 0}));
+    EXPECT_EQ(v(tracee("LN", FormeOutil::verticale, {1, 2}, {8, 9})), (V{1, 2, 1, 9}));
+}
