@@ -1,5 +1,6 @@
 #include "cli/verifier_match.h"
 
+#include "analyse/lecture.h"
 #include "analyse/verdict.h"
 #include "cli/sortie.h"
 #include "config/dossier.h"
@@ -18,28 +19,6 @@ Provenance provenance_de(const Projet& projet) {
         p.lignes(n) = projet.lignes_trajet(n);
     }
     return p;
-}
-
-/// The reason without the file's name, which stands elsewhere, and without the record's padding.
-std::string raison_seule(const ErreurDeLecture& erreur) {
-    std::string_view raison = erreur.raison;
-    const std::string nom = erreur.fichier.string() + " : ";
-    if (raison.starts_with(nom))
-        raison.remove_prefix(nom.size());
-    return std::string(rogner(raison));
-}
-
-Constat constat_de(const ErreurDeLecture& erreur, const Projet& projet) {
-    Constat c{.genre = Genre::lecture,
-              .fichier = erreur.fichier.lexically_relative(projet.dossier_application()),
-              .texte = "lecture impossible : " + raison_seule(erreur) +
-                       ". Le match est joué sans la suite de ce fichier, avec des données de "
-                       "secours : corrigez-le d'abord."};
-    if (erreur.robot > 0)
-        c.robot = erreur.robot;
-    if (erreur.ligne > 0)
-        c.ligne = erreur.ligne;
-    return c;
 }
 
 void montrer(const Analyse& a) {
@@ -63,7 +42,7 @@ int verifier_match(const ChoixDeLigne& choix, bool json) {
     initDamier(*etat);
     std::vector<Constat> constats;
     for (const ErreurDeLecture& erreur : projet.erreurs())
-        constats.push_back(constat_de(erreur, projet));
+        constats.push_back(constat_de(erreur, projet.dossier_application()));
     try {
         disposer(*etat);
         if (appliquer_reglages(*etat, choix))

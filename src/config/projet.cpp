@@ -123,18 +123,24 @@ bool Projet::lire(std::string_view projet, std::string_view suite, const Entier1
             return lire_octets_natif(chemin.c_str(), taille_lisible);
         }
     };
-    std::string raison;
+    ErreurDeLecture faute;
     try {
         const std::string texte = en_utf8(contenu());
         lecteur(std::string_view(texte));
         return true;
+    } catch (const ErreurFichier& erreur) {
+        faute.nature = ErreurDeLecture::Nature::acces;
+        faute.raison = erreur.raison();
     } catch (const ErreurExecution& erreur) {
-        raison = erreur.what();
+        faute.raison = erreur.what();
     }
-    erreurs_.push_back({chemin, robot, NoLigne - ligne_avant, raison});
-    f.message("Erreur lors de la lecture du fichier " + chemin + " Ligne " +
-                  std::to_string(NoLigne),
-              "Raison : " + raison + std::string(consequence));
+    faute.fichier = chemin;
+    faute.robot = robot;
+    faute.ligne = NoLigne - ligne_avant;
+    faute.ligne_annoncee = NoLigne;
+    faute.consequence = consequence;
+    f.message(annonce(faute), explication(faute));
+    erreurs_.push_back(std::move(faute));
     return false;
 }
 
@@ -172,7 +178,7 @@ void Projet::LoadRobot() {
 }
 
 void Projet::LoadTrajet() {
-    constexpr std::string_view sans_trajets = "\r\nTous les robots restent immobiles, ceux des "
+    constexpr std::string_view sans_trajets = "Tous les robots restent immobiles, ceux des "
                                               "autres fichiers aussi, tant que ce fichier "
                                               "n'est pas corrigé.";
     LecteurTrajet lecteur(e);

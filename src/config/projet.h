@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/erreur_lecture.h"
 #include "sim/etat.h"
 #include "sim/fenetres.h"
 
@@ -16,14 +17,6 @@ struct ReglagesGeneraux {
     bool allege = false;      ///< Check2
     std::string nb_robot;     ///< caption of NbRO
     bool horizontale = false; ///< Check3
-};
-
-/// What a reader complained about.
-struct ErreurDeLecture {
-    std::filesystem::path fichier;
-    int robot = 0; ///< 0: the settings or the table
-    int ligne = 0; ///< within that file, from 1; 0 when not even the first one was reached
-    std::string raison;
 };
 
 /// Reads and installs a project's files for one Etat. Every failing reader shows "Erreur lors de la
