@@ -20,6 +20,15 @@ Bilan bilan_de(const Etat& e, const MatchCalcule& m, int i) {
     return b;
 }
 
+void ranger(std::vector<Constat>& constats) {
+    const auto cle = [](const Constat& c) {
+        constexpr int fin = std::numeric_limits<int>::max();
+        return std::tuple(c.temps.value_or(fin), c.robot.value_or(fin), c.genre,
+                          c.autre.value_or(fin), c.ligne.value_or(fin));
+    };
+    std::ranges::stable_sort(constats, {}, cle);
+}
+
 } // namespace
 
 std::optional<int> Enquete::ligne(int robot, int numero) const {
@@ -66,10 +75,12 @@ std::string compte(int n, std::string_view nom) {
     return std::to_string(n) + " " + std::string(nom) + (n > 1 ? "s" : "");
 }
 
-Analyse analyser(const Etat& etat, const Provenance& provenance) {
+Analyse analyser(const Etat& etat, const Provenance& provenance, std::vector<Constat> connus) {
     const auto copie = std::make_unique<Etat>(etat);
-    Analyse a{
-        .projet = etat.NomProjet, .match = calculer_match(*copie), .lignes = provenance.lignes};
+    Analyse a{.projet = etat.NomProjet,
+              .match = calculer_match(*copie),
+              .lignes = provenance.lignes,
+              .constats = std::move(connus)};
     copie->PasTemps = etat.PasTemps == 1 ? 5 : 1;
     const MatchCalcule autre = calculer_match(*copie);
     const Releve releve = relever(etat, a.match);
@@ -84,13 +95,4 @@ Analyse analyser(const Etat& etat, const Provenance& provenance) {
     constater_pas(q, releve, autre, relever(etat, autre));
     ranger(a.constats);
     return a;
-}
-
-void ranger(std::vector<Constat>& constats) {
-    const auto cle = [](const Constat& c) {
-        constexpr int fin = std::numeric_limits<int>::max();
-        return std::tuple(c.temps.value_or(fin), c.robot.value_or(fin), c.genre,
-                          c.autre.value_or(fin), c.ligne.value_or(fin));
-    };
-    std::ranges::stable_sort(constats, {}, cle);
 }

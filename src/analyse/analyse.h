@@ -2,6 +2,7 @@
 
 #include "analyse/constat.h"
 #include "analyse/match.h"
+#include "config/projet.h"
 
 #include <memory>
 #include <vector>
@@ -24,8 +25,8 @@ struct Bilan {
 struct EcartDeRobots {
     int robot = 0;
     int autre = 0;
-    double ecart = 0; ///< cm
-    std::int32_t temps = 0;
+    double ecart = 0;       ///< cm
+    std::int32_t temps = 0; ///< of the tick that brought them so near
 };
 
 /// A whole match and what is to be said of it.
@@ -38,11 +39,14 @@ struct Analyse {
     std::vector<Constat> constats{};     ///< by time, then robot; those without one last
 };
 
+Provenance provenance_de(const Projet& projet);
+/// What the readers of a project complained about, a finding each.
+std::vector<Constat> constats_de_lecture(const Projet& projet);
+
 /// Plays the match of `etat`, with its settings, and looks for all that the team should know. The
-/// state is copied: nothing of it changes. What the readers complained about is the caller's to add
-/// (`ranger` sorts afresh).
-Analyse analyser(const Etat& etat, const Provenance& provenance);
-void ranger(std::vector<Constat>& constats);
+/// state is copied: nothing of it changes.
+/// @param connus  findings of the caller's own, to be sorted in
+Analyse analyser(const Etat& etat, const Provenance& provenance, std::vector<Constat> connus = {});
 /// Fills `ecarts`, for whoever shows them: with nine robots it takes longer than all the rest.
 /// @param etat  the one that was analysed
 void mesurer_ecarts(const Etat& etat, Analyse& a);

@@ -2,6 +2,7 @@
 
 #include "analyse/geometrie.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -24,6 +25,7 @@ enum class Genre : std::uint8_t {
     damier,        ///< chequerboard on a turned table
     lecture        ///< a reader complained
 };
+inline constexpr std::size_t nombre_de_genres = 13;
 /// "contact-robot"
 std::string_view nom(Genre genre);
 

@@ -1,5 +1,7 @@
 #include "analyse/lecture.h"
 
+#include "analyse/analyse.h"
+
 #include "base/texte.h"
 
 Constat constat_de(const ErreurDeLecture& erreur, const std::filesystem::path& dossier) {
@@ -14,4 +16,20 @@ Constat constat_de(const ErreurDeLecture& erreur, const std::filesystem::path& d
     if (erreur.ligne > 0)
         c.ligne = erreur.ligne;
     return c;
+}
+
+Provenance provenance_de(const Projet& projet) {
+    Provenance p;
+    for (int n = 1; n <= robots_des_fichiers; ++n) {
+        p.fichier(n) = projet.chemin_trajet(n).lexically_relative(projet.dossier_application());
+        p.lignes(n) = projet.lignes_trajet(n);
+    }
+    return p;
+}
+
+std::vector<Constat> constats_de_lecture(const Projet& projet) {
+    std::vector<Constat> constats;
+    for (const ErreurDeLecture& erreur : projet.erreurs())
+        constats.push_back(constat_de(erreur, projet.dossier_application()));
+    return constats;
 }

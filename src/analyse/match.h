@@ -10,6 +10,8 @@ struct PoseTick {
     float x = 0; ///< reference point, cm
     float y = 0;
     float cap = 0; ///< degrees, not brought back to a turn
+
+    bool operator==(const PoseTick&) const = default;
 };
 
 /// One action that was loaded, "FIN" excepted. Times in hundredths of a second.

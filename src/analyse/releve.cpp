@@ -60,10 +60,19 @@ Releve relever(const Etat& e, const MatchCalcule& m) {
 
 void mesurer_ecarts(const Etat& etat, Analyse& a) {
     a.ecarts.clear();
-    const auto mesurer = [&a](int i, int j, const Parcours& p, const Parcours& q) {
+    // Where both stand still, the tick that brought them there.
+    const auto arrivee = [&m = a.match](std::size_t tick, int i, int j) {
+        const auto immobile = [](const std::vector<PoseTick>& poses, std::size_t t) {
+            return poses[t] == poses[t - 1];
+        };
+        while (tick > 0 && immobile(m.poses(i), tick) && immobile(m.poses(j), tick))
+            --tick;
+        return tick;
+    };
+    const auto mesurer = [&](int i, int j, const Parcours& p, const Parcours& q) {
         const Rencontre vue = rencontre(p, q);
         if (std::isfinite(vue.ecart))
-            a.ecarts.push_back({i, j, vue.ecart, a.match.temps(vue.tick_ecart)});
+            a.ecarts.push_back({i, j, vue.ecart, a.match.temps(arrivee(vue.tick_ecart, i, j))});
     };
     pour_chaque_paire(parcours_de_tous(etat, a.match), mesurer);
 }

@@ -27,20 +27,10 @@ std::string place(double x, double y) {
 }
 
 std::string fin_des_trajets(const Analyse& a) {
-    if (a.match.arret)
-        return "match arrêté par une erreur à " + secondes(a.match.duree);
-    std::optional<std::int32_t> fin;
-    for (const Bilan& b : a.robots) {
-        if (b.actions_du_plan == 0)
-            continue;
-        if (!b.fin)
-            return "robot " + std::to_string(b.robot) + " pas fini à 90 s";
-        fin = std::max(fin.value_or(0), *b.fin);
-    }
-    if (!fin)
-        return "aucune action";
-    return "dernière action finie à " + secondes(*fin) + ", marge " +
-           secondes(duree_du_match - *fin);
+    const auto fin = fin_des_plans(a);
+    return fin ? "dernière action finie à " + secondes(*fin) + ", marge " +
+                     secondes(duree_du_match - *fin)
+               : sans_fin(a);
 }
 
 } // namespace
@@ -51,6 +41,27 @@ std::string secondes(std::int32_t centiemes) {
 
 std::string dixiemes(double valeur) {
     return decimal(valeur, 1);
+}
+
+std::optional<std::int32_t> fin_des_plans(const Analyse& a) {
+    std::optional<std::int32_t> fin;
+    for (const Bilan& b : a.robots) {
+        if (b.actions_du_plan == 0)
+            continue;
+        if (a.match.arret || !b.fin)
+            return std::nullopt;
+        fin = std::max(fin.value_or(0), *b.fin);
+    }
+    return fin;
+}
+
+std::string sans_fin(const Analyse& a) {
+    if (a.match.arret)
+        return "match arrêté par une erreur à " + secondes(a.match.duree);
+    for (const Bilan& b : a.robots)
+        if (b.actions_du_plan > 0 && !b.fin)
+            return "robot " + std::to_string(b.robot) + " pas fini à 90 s";
+    return "aucune action";
 }
 
 std::string verdict(const Analyse& a) {

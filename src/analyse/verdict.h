@@ -4,6 +4,10 @@
 
 /// One line: end of the last action and margin, arrival of robot 1, number of findings.
 std::string verdict(const Analyse& a);
+/// When the last plan ends, of the robots that have one; nothing when one of them does not end.
+std::optional<std::int32_t> fin_des_plans(const Analyse& a);
+/// Why there is no such end: "robot 2 pas fini à 90 s", "aucune action".
+std::string sans_fin(const Analyse& a);
 /// One finding in one line: instant, robot, place, file and line, what it means and what to do.
 std::string en_ligne(const Constat& constat);
 /// "Robots 1 et 2 : au plus près 12,3 cm à 45,60 s."

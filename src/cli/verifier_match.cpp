@@ -1,25 +1,14 @@
 #include "cli/verifier_match.h"
 
-#include "analyse/lecture.h"
 #include "analyse/verdict.h"
 #include "cli/sortie.h"
 #include "config/dossier.h"
 #include "sim/damier.h"
 
 #include <iostream>
-
-namespace fs = std::filesystem;
+#include <utility>
 
 namespace {
-
-Provenance provenance_de(const Projet& projet) {
-    Provenance p;
-    for (int n = 1; n <= robots_des_fichiers; ++n) {
-        p.fichier(n) = projet.chemin_trajet(n).lexically_relative(projet.dossier_application());
-        p.lignes(n) = projet.lignes_trajet(n);
-    }
-    return p;
-}
 
 void montrer(const Analyse& a) {
     const SortieDeLignes sortie;
@@ -40,9 +29,7 @@ int verifier_match(const ChoixDeLigne& choix, bool json) {
         projet.imposer_projet(*choix.projet);
     projet.verifier();
     initDamier(*etat);
-    std::vector<Constat> constats;
-    for (const ErreurDeLecture& erreur : projet.erreurs())
-        constats.push_back(constat_de(erreur, projet.dossier_application()));
+    std::vector<Constat> constats = constats_de_lecture(projet);
     try {
         disposer(*etat);
         if (appliquer_reglages(*etat, choix))
@@ -52,9 +39,7 @@ int verifier_match(const ChoixDeLigne& choix, bool json) {
         fenetres.message(texte);
         constats.push_back({.genre = Genre::arret, .texte = texte});
     }
-    Analyse a = analyser(*etat, provenance_de(projet));
-    a.constats.insert(a.constats.end(), constats.begin(), constats.end());
-    ranger(a.constats);
+    Analyse a = analyser(*etat, provenance_de(projet), std::move(constats));
     if (json) {
         std::cout << en_json(a) << std::flush;
     } else {

@@ -17,6 +17,7 @@ struct ErreurDeLecture {
     int ligne_annoncee = 0; ///< counted on over the trajectories of all robots
     std::string raison;     ///< without the file's name
     std::string consequence{}; ///< what becomes of the match; may be empty
+    std::string suite{};       ///< of the file's name behind the project's: " Robot3.ini"
 };
 
 /// The text of the message box: file and line.

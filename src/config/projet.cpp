@@ -139,9 +139,15 @@ bool Projet::lire(std::string_view projet, std::string_view suite, const Entier1
     faute.ligne = NoLigne - ligne_avant;
     faute.ligne_annoncee = NoLigne;
     faute.consequence = consequence;
+    faute.suite = suite;
     f.message(annonce(faute), explication(faute));
     erreurs_.push_back(std::move(faute));
     return false;
+}
+
+void Projet::oublier_erreurs(std::string_view sorte) {
+    std::erase_if(erreurs_,
+                  [sorte](const auto& erreur) { return erreur.suite.starts_with(sorte); });
 }
 
 void Projet::LoadGeneral() {
@@ -157,6 +163,7 @@ void Projet::LoadGeneral() {
 }
 
 void Projet::LoadTable() {
+    oublier_erreurs(suite_table);
     Entier16 NoLigne;
     vider_table(e);
     f.ecrire_LNom("");
@@ -167,6 +174,7 @@ void Projet::LoadTable() {
 }
 
 void Projet::LoadRobot() {
+    oublier_erreurs(" Robot");
     LecteurRobot lecteur(e);
     for (int n = 1; n <= robots_des_fichiers; ++n) {
         Entier16 NoLigne;
@@ -181,6 +189,7 @@ void Projet::LoadTrajet() {
     constexpr std::string_view sans_trajets = "Tous les robots restent immobiles, ceux des "
                                               "autres fichiers aussi, tant que ce fichier "
                                               "n'est pas corrigé.";
+    oublier_erreurs(" Trajet");
     LecteurTrajet lecteur(e);
     Entier16 NoLigne; // deliberately counts over all nine files
     for (int n = 1; n <= robots_des_fichiers; ++n) {

@@ -63,7 +63,7 @@ public:
     /// nothing. What is wrong comes out as messages.
     void verifier();
 
-    /// What the readers complained about since the last LoadGeneral, as values.
+    /// What the readers complained about when each kind of file was read last, as values.
     const std::vector<ErreurDeLecture>& erreurs() const { return erreurs_; }
     /// The lines of robot n's actions 1, 2... in its file; empty when the trajectories in use are
     /// the built-in ones.
@@ -73,6 +73,8 @@ private:
     template <typename Lecteur>
     bool lire(std::string_view projet, std::string_view suite, const Entier16& NoLigne,
               Lecteur lecteur, int robot = 0, std::string_view consequence = {});
+    /// Those of the files whose `suite` begins so: they are read again.
+    void oublier_erreurs(std::string_view sorte);
 
     Etat& e;
     Fenetres& f;

@@ -28,7 +28,8 @@ public:
     virtual void projet_change(Lecture) {}
     /// The recorded path changed: the console drove or took back an action, a recording came back.
     virtual void trajet_change() {}
-    /// The number of robots or the table's orientation changed.
+    /// The number of robots, the table's orientation, the time step or the use of the chequerboard
+    /// changed.
     virtual void reglages_changes() {}
     /// The program itself has just written that file, of the project or not.
     virtual void fichier_ecrit(const std::filesystem::path&) {}

@@ -39,8 +39,9 @@ const std::map<std::string, Dossiers> permis{
     {"ui/console", et(sans_qt, {"Qt", "ui/commun"})},
     {"ui/editeurs", et(sans_qt, {"Qt", "ui/commun"})},
     {"ui/generation", et(sans_qt, {"Qt", "ui/commun"})},
-    {"ui/principale",
-     et(sans_qt, {"Qt", "ui/commun", "ui/aide", "ui/console", "ui/editeurs", "ui/generation"})},
+    {"ui/verdict", et(sans_qt, {"Qt", "ui/commun"})},
+    {"ui/principale", et(sans_qt, {"Qt", "ui/commun", "ui/aide", "ui/console", "ui/editeurs",
+                                   "ui/generation", "ui/verdict"})},
 };
 
 const fs::path sources = fs::path(RACINE_DU_PROJET) / "src";

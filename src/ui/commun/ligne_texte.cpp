@@ -100,6 +100,20 @@ QString LigneTexte::texte() const {
         contenu_);
 }
 
+bool LigneTexte::est_vide() const {
+    const auto* libre = std::get_if<std::string>(&contenu_);
+    return libre != nullptr && libre->empty();
+}
+
+int LigneTexte::fin_du_texte() const {
+    if (est_texte())
+        return est_vide() ? 0 : width();
+    int fin = 0;
+    for (const TexteCourt& rangee : rangees_)
+        fin = std::max(fin, marge + fontMetrics().horizontalAdvance(texte_qt(rangee)));
+    return fin;
+}
+
 int LigneTexte::hauteur(int largeur) const {
     constexpr std::string_view etat = "     Durée : 1 mn 30 s     Action 100/100 en cours : "
                                       "BALISE DRO  -100/100 cm Incidence:359.5 Nbre carreaux:100";

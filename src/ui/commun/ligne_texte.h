@@ -26,6 +26,10 @@ public:
     /// A free text stands in the line, not its values.
     bool est_texte() const { return std::holds_alternative<std::string>(contenu_); }
 
+    bool est_vide() const;
+    /// Where the text on the screen ends (logical pixels from the left); 0 without one.
+    int fin_du_texte() const;
+
     /// Height (logical pixels) for a width: one to three lines (the sensor's: two), as the longest
     /// usual text asks; for a free text as many as it needs to be read whole.
     int hauteur(int largeur) const;

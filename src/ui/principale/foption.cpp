@@ -72,6 +72,7 @@ void FOption::Check1_Click(bool coche) {
 void FOption::Check2_Click(bool coche) {
     seance_.etat().PasTemps = coche ? 5 : 1;
     modifie = true;
+    seance_.annonces().annoncer(&Ecouteur::reglages_changes);
 }
 
 void FOption::Check3_Click(bool coche) {
@@ -104,6 +105,7 @@ void FOption::utiliDamier_Click(bool coche) {
     lb_utilcarreaux.setVisible(coche);
     nbre_carreaux.setVisible(coche);
     avertir_du_damier();
+    seance_.annonces().annoncer(&Ecouteur::reglages_changes);
 }
 
 // The chequerboard stays where it is when the table is turned.

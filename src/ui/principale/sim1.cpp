@@ -8,6 +8,7 @@
 #include "ui/principale/editeurs.h"
 #include "ui/principale/restauration.h"
 #include "ui/principale/surveillance.h"
+#include "ui/verdict/verdict.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -24,6 +25,7 @@ Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(
       logo(&Table),
       options_(this, seance_, bureau()),
       surveillance_(std::make_unique<Surveillance>(seance_)),
+      verdict_(std::make_unique<Verdict>(*this, seance_)),
       aide_(std::make_unique<ServiceAide>(*this)) {
     nommer();
     connecter();
@@ -69,6 +71,7 @@ void Sim1::Form_Load() {
     Info.ecrire("");
     if (!seance_.demarrer())
         return;
+    verdict_->recalculer();
     show();
     Table_Click();
     garde(*this, [this] { proposer_reprise(); });
@@ -191,11 +194,14 @@ void Sim1::menu_robots(const QPoint& ou) {
         choix->setData(n);
     }
     menu.addSeparator();
+    const QAction* constats = menu.addAction("Constats du match…\tF7");
     const QAction* restaurer = menu.addAction("Restaurer une version…");
     const QAction* choix = menu.exec(Table.mapToGlobal(ou));
     if (choix == nullptr)
         return;
-    if (choix == restaurer)
+    if (choix == constats)
+        verdict_->montrer_liste();
+    else if (choix == restaurer)
         montrer_restauration();
     else
         options_.choisir_robots(choix->data().toInt());

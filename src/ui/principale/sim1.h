@@ -21,6 +21,7 @@ class Restauration;
 class ServiceAide;
 class Surveillance;
 class Télécommande;
+class Verdict;
 
 /// The main window: table, status lines and clock. It shows one session, and owns the other
 /// windows.
@@ -91,6 +92,7 @@ private:
     void connecter();
     void placer();
     void placer_logo();
+    void placer_verdict();
     void placer_options();
     struct MesuresEcran mesures(int largeur_lignes) const;
     void montrer_console();
@@ -122,5 +124,6 @@ private:
     std::unique_ptr<Restauration> restauration_;
     std::unique_ptr<Editeurs> editeurs_;
     std::unique_ptr<Surveillance> surveillance_;
+    std::unique_ptr<Verdict> verdict_;
     std::unique_ptr<ServiceAide> aide_;
 };

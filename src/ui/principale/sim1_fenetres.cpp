@@ -1,6 +1,7 @@
 // What the engine and the session ask of the main window.
 #include "ui/console/telecommande.h"
 #include "ui/principale/sim1.h"
+#include "ui/verdict/verdict.h"
 
 void Sim1::message(std::string_view texte, std::string_view explication) {
     show();
@@ -21,8 +22,11 @@ void Sim1::regler_Timer(Entier16 ms) {
     if (ms > 0) {
         Timer.start(ms);
         cadence_.demarrer(std::chrono::milliseconds(ms), std::chrono::steady_clock::now());
-    } else
+    } else {
         Timer.stop();
+        verdict_->a_l_arret();
+    }
+    placer_verdict();
 }
 
 // The window is laid out again only where a text needs another height than the values.

@@ -3,6 +3,7 @@
 #include "draw/table.h"
 #include "ui/commun/place.h"
 #include "ui/principale/sim1.h"
+#include "ui/verdict/verdict.h"
 
 #include <QScreen>
 
@@ -71,6 +72,18 @@ void Sim1::placer() {
     const QSize taille = taille_Table_.scaled(place, Qt::KeepAspectRatio);
     Table.setGeometry((width() - taille.width()) / 2, haut, taille.width(), taille.height());
     placer_logo();
+    placer_verdict();
+}
+
+// At rest the verdict takes what the read-outs leave free, just above the table; where that is too
+// little, the place of the sensor's.
+void Sim1::placer_verdict() {
+    LigneVerdict& ligne = verdict_->ligne();
+    ligne.setVisible(!en_marche());
+    const int haut = Mess.est_vide() ? 0 : Mess.height();
+    const int libre = Info.fin_du_texte();
+    const int gauche = width() - libre < ligne.largeur_utile() ? 0 : libre;
+    ligne.setGeometry(gauche, haut, width() - gauche, Table.y() - haut);
 }
 
 void Sim1::placer_logo() {

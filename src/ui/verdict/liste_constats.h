@@ -1,0 +1,38 @@
+#pragma once
+
+#include "analyse/analyse.h"
+#include "ui/verdict/genres_masques.h"
+
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QWidget>
+
+#include <functional>
+
+/// The findings of the computed match by robot, and how near each robot came to another one.
+class ListeConstats final : public QWidget {
+public:
+    /// @param au_choix  the user has switched a kind of findings off or on
+    ListeConstats(QWidget* parent, std::function<void(Genre, bool masque)> au_choix);
+
+    void remplir(const QString& verdict, const Analyse& a, const GenresMasques& masques);
+
+protected:
+    void keyPressEvent(QKeyEvent* evenement) override;
+
+private:
+    void nommer();
+    void placer();
+    void connecter();
+    void remplir_genres(const Analyse& a, const GenresMasques& masques);
+    void remplir_robot(const Analyse& a, const GenresMasques& masques, int robot);
+    void ajouter_ecart(QTreeWidgetItem& groupe, const Analyse& a, int robot);
+
+    std::function<void(Genre, bool)> au_choix_;
+    QLabel verdict_, titre_texte_, texte_, masques_;
+    QTreeWidget liste_;
+    QPushButton genres_, Fermer;
+    QMenu menu_{this};
+};

@@ -1,0 +1,129 @@
+#include "ui/verdict/verdict.h"
+
+#include "analyse/verdict.h"
+#include "ui/commun/boites.h"
+#include "ui/verdict/liste_constats.h"
+
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int apres_une_boite_ms = 200;
+
+} // namespace
+
+Verdict::Verdict(QWidget& principale, Seance& seance)
+    : principale_(principale), seance_(seance), ligne_(*new LigneVerdict(&principale)) {
+    attente_.setSingleShot(true);
+    const auto ouvrir = [this] { montrer_liste(); };
+    QObject::connect(&attente_, &QTimer::timeout, &attente_, [this] { calculer(); });
+    QObject::connect(&ligne_, &QAbstractButton::clicked, &attente_, ouvrir);
+    auto* touche = new QShortcut(Qt::Key_F7, &principale);
+    touche->setContext(Qt::ApplicationShortcut);
+    QObject::connect(touche, &QShortcut::activated, &attente_, ouvrir);
+    ecouter(seance.annonces());
+}
+
+void Verdict::projet_change(Lecture lecture) {
+    if (lecture != Lecture::table)
+        enregistres_.reset();
+    recalculer();
+}
+
+void Verdict::trajet_change() {
+    for (std::size_t i = 1; i <= robots_max; ++i)
+        if (seance_.etat().TrajetModifie(static_cast<int>(i)))
+            enregistres_.set(i);
+    recalculer();
+}
+
+void Verdict::recalculer() {
+    attendu_ = true;
+    attente_.start(0);
+}
+
+void Verdict::a_l_arret() {
+    if (attendu_)
+        attente_.start(0);
+}
+
+void Verdict::calculer() {
+    if (seance_.terminee() || seance_.en_marche())
+        return;
+    if (boite_ouverte())
+        return attente_.start(apres_une_boite_ms);
+    attendu_ = false;
+    analyse_ = analyser_le_projet();
+    masques_ = {seance_.projet().dossier_configuration(), analyse_.projet};
+    noter_changement();
+    montrer();
+}
+
+// A recorded path stands in a file only once it is saved, and which lines it has there nobody has
+// counted.
+Provenance Verdict::provenance() const {
+    Provenance p = provenance_de(seance_.projet());
+    for (int i = 1; i <= robots_des_fichiers; ++i) {
+        if (enregistres_.test(static_cast<std::size_t>(i)))
+            p.lignes(i).clear();
+        if (seance_.etat().TrajetModifie(i))
+            p.fichier(i).clear();
+    }
+    return p;
+}
+
+Analyse Verdict::analyser_le_projet() const {
+    const Etat& e = seance_.etat();
+    try {
+        return analyser(e, provenance(), constats_de_lecture(seance_.projet()));
+    } catch (const ErreurExecution& erreur) {
+        Analyse a{.projet = e.NomProjet};
+        a.match.arret = ArretDeMatch{.raison = erreur.what()};
+        a.constats.push_back({.genre = Genre::arret,
+                              .texte = "le match ne peut pas être joué : " +
+                                       std::string(erreur.what()) + ". Corrigez le projet."});
+        return a;
+    }
+}
+
+// What the last change did to the margin; what changes nothing leaves it in sight.
+void Verdict::noter_changement() {
+    const auto fin = fin_des_plans(analyse_);
+    const auto marge = fin ? std::optional(duree_du_match - *fin) : std::nullopt;
+    const std::string present =
+        analyse_.projet + '\n' + texte_du_verdict(analyse_, {}, 0, 0).entier();
+    if (present == dernier_)
+        return;
+    const bool meme_projet = dernier_.starts_with(analyse_.projet + '\n');
+    changement_ = meme_projet && marge && marge_ ? std::optional(*marge - *marge_) : std::nullopt;
+    dernier_ = present;
+    marge_ = marge;
+}
+
+void Verdict::montrer() {
+    const auto visibles = std::ranges::count_if(
+        analyse_.constats, [this](const Constat& c) { return !masques_.contient(c.genre); });
+    const TexteVerdict texte =
+        texte_du_verdict(analyse_, changement_, static_cast<int>(visibles), masques_.nombre());
+    ligne_.ecrire(texte);
+    if (liste_ == nullptr || !liste_->isVisible())
+        return;
+    if (analyse_.ecarts.empty() && !analyse_.robots.empty() && !seance_.en_marche())
+        mesurer_ecarts(seance_.etat(), analyse_);
+    liste_->remplir(texte_qt(texte.entier()), analyse_, masques_);
+}
+
+void Verdict::montrer_liste() {
+    if (liste_ == nullptr)
+        liste_ = new ListeConstats(&principale_, [this](Genre genre, bool masque) {
+            masques_.masquer(genre, masque);
+            montrer();
+        });
+    liste_->show();
+    liste_->raise();
+    liste_->activateWindow();
+    attendu_ = attendu_ || seance_.en_marche(); // the gaps can wait until nothing runs
+    montrer();
+}

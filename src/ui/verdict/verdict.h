@@ -1,0 +1,55 @@
+#pragma once
+
+#include "analyse/analyse.h"
+#include "seance/seance.h"
+#include "ui/verdict/genres_masques.h"
+#include "ui/verdict/ligne_verdict.h"
+
+#include <QTimer>
+
+#include <bitset>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+class ListeConstats;
+
+/// Plays the whole match anew after whatever changes it, once for several changes, when nothing
+/// runs and no box is open; shows the verdict in a line and the findings in a list.
+class Verdict final : private Ecouteur {
+public:
+    Verdict(QWidget& principale, Seance& seance);
+
+    /// To be placed, shown and hidden by the main window.
+    LigneVerdict& ligne() { return ligne_; }
+    void montrer_liste();
+    /// Something changed: plays the match again once the events that brought it are dealt with.
+    void recalculer();
+    /// Nothing runs any more.
+    void a_l_arret();
+
+private:
+    void projet_change(Lecture lecture) override;
+    void trajet_change() override;
+    void reglages_changes() override { recalculer(); }
+    void fichier_ecrit(const std::filesystem::path&) override { recalculer(); }
+
+    void calculer();
+    Provenance provenance() const;
+    Analyse analyser_le_projet() const;
+    void noter_changement();
+    void montrer();
+
+    QWidget& principale_;
+    Seance& seance_;
+    LigneVerdict& ligne_;
+    ListeConstats* liste_ = nullptr; ///< made when it is first shown; belongs to the main window
+    QTimer attente_;
+    bool attendu_ = false; ///< something changed since the match was played
+    /// Their paths were recorded since the files were read: they have no lines there.
+    std::bitset<robots_max + 1> enregistres_;
+    Analyse analyse_;
+    GenresMasques masques_;
+    std::string dernier_; ///< the verdict before, and its margin
+    std::optional<std::int32_t> marge_, changement_;
+};
