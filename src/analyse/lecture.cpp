@@ -1,7 +1,6 @@
 #include "analyse/lecture.h"
 
 #include "analyse/analyse.h"
-
 #include "base/texte.h"
 
 Constat constat_de(const ErreurDeLecture& erreur, const std::filesystem::path& dossier) {
