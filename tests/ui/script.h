@@ -23,9 +23,9 @@ public:
         qApp->installEventFilter(this);
     }
 
-    std::deque<bool> reponses;          ///< "Oui" or "Non"; "Non" when it is empty
-    std::deque<Sauvegarde> sauvegardes; ///< "Annuler" when it is empty
-    std::deque<QString> chemins_choisis;       ///< for the file dialogs; given up when it is empty
+    std::deque<bool> reponses;           ///< "Oui" or "Non"; "Non" when it is empty
+    std::deque<Sauvegarde> sauvegardes;  ///< "Annuler" when it is empty
+    std::deque<QString> chemins_choisis; ///< for the file dialogs; given up when it is empty
     /// What to do in a dialog of that objectName; without it the dialog is given up.
     std::map<QString, std::function<void(QDialog&)>> dialogues;
     std::function<void(QDialog&)> avant_de_repondre; ///< sees each one before its answer; may wait
