@@ -68,6 +68,7 @@ TEST_F(LeVerdict, dit_fin_marge_arrivee_et_constats_et_suit_les_fichiers) {
 TEST_F(LeVerdict, suit_chaque_action_enregistree_et_se_tait_pendant_elle) {
     trajet(1, "Init,100,30,0\r\nAvance,150\r\nFIN\r\n");
     ouvrir();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !ligne().empty(); }));
     commencer();
     auto& verdict = trouver("verdict");
     bouton("Avance").click(); // 10 cm

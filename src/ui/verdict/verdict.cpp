@@ -10,6 +10,7 @@
 
 namespace {
 
+constexpr int apres_le_dessin_ms = 20; ///< what changed is painted first
 constexpr int apres_une_boite_ms = 200;
 
 } // namespace
@@ -41,12 +42,12 @@ void Verdict::trajet_change() {
 
 void Verdict::recalculer() {
     attendu_ = true;
-    attente_.start(0);
+    attente_.start(apres_le_dessin_ms);
 }
 
 void Verdict::a_l_arret() {
     if (attendu_)
-        attente_.start(0);
+        attente_.start(apres_le_dessin_ms);
 }
 
 void Verdict::calculer() {
