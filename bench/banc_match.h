@@ -4,37 +4,26 @@
 #include "draw/a_vide.h"
 #include "outils/dossier_temporaire.h"
 #include "sim/damier.h"
+#include "sim/fenetres_muettes.h"
 #include "sim/moteur.h"
 
 #include <cstdio>
 #include <memory>
 
 /// Headless as the command line runs it: the drawing's arithmetic, no text.
-class FenetresBanc : public Fenetres {
+class FenetresBanc : public FenetresMuettes {
 public:
     explicit FenetresBanc(Etat& etat) : e(etat) {}
-    virtual ~FenetresBanc() = default;
     void message(std::string_view texte, std::string_view) override {
         std::fprintf(stderr, "%.*s\n", static_cast<int>(texte.size()), texte.data());
     }
-    void information(std::string_view) override {}
-    bool question(std::string_view, std::string_view) override { return false; }
     void regler_Timer(Entier16 ms) override { intervalle = ms; }
-    void ecrire_Mess(const LigneMess&) override {}
-    void ecrire_texte_Mess(std::string_view) override {}
-    void ecrire_Info(const LigneInfo&) override {}
-    void ecrire_LNom(std::string_view) override {}
-    void ecrire_nbre_carreaux(std::string_view) override {}
-    void Active_Desactive(bool) override {}
     void Dessine_Table() override { dessin.table(e, *this); }
     void Dessine_Robot() override { dessin.robots(e, *this); }
-    void apres_actions() override {}
     void montrer_course(bool en_cours) override {
         if (en_cours)
             dessin.oublier();
     }
-    void montrer_logo(bool) override {}
-    void fin_du_programme() override {}
 
     Etat& e;
     DessinAVide dessin;

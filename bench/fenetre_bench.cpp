@@ -3,6 +3,7 @@
 
 #include "draw/robot.h"
 #include "draw/table.h"
+#include "sim/fenetres_muettes.h"
 #include "ui/principale/sim1.h"
 
 #include <QApplication>
@@ -64,27 +65,8 @@ public:
     }
 
 private:
-    struct Muettes final : Fenetres {
-        void message(std::string_view, std::string_view) override {}
-        void information(std::string_view) override {}
-        bool question(std::string_view, std::string_view) override { return false; }
-        void regler_Timer(Entier16) override {}
-        void ecrire_Mess(const LigneMess&) override {}
-        void ecrire_Info(const LigneInfo&) override {}
-        void ecrire_texte_Mess(std::string_view) override {}
-        void ecrire_LNom(std::string_view) override {}
-        void ecrire_nbre_carreaux(std::string_view) override {}
-        void Active_Desactive(bool) override {}
-        void Dessine_Table() override {}
-        void Dessine_Robot() override {}
-        void apres_actions() override {}
-        void montrer_course(bool) override {}
-        void montrer_logo(bool) override {}
-        void fin_du_programme() override {}
-    };
-
     Etat& e_;
-    Muettes f_;
+    FenetresMuettes f_;
     QWidget fenetre_;
     QLabel Mess_, Info_;
     Table table_{e_, f_, &fenetre_};

@@ -1,28 +1,20 @@
 #pragma once
 
 #include "draw/a_vide.h"
-#include "sim/fenetres.h"
+#include "sim/fenetres_muettes.h"
 
 #include <ostream>
 
 /// The engine's outlet without a window: messages go to one stream, a line each; the drawing's
 /// arithmetic is done on an empty surface; the timer is a number that a loop reads.
-class FenetresTerminal : public Fenetres {
+class FenetresTerminal : public FenetresMuettes {
 public:
     FenetresTerminal(Etat& etat, std::ostream& erreurs) : e(etat), erreurs_(erreurs) {}
-    virtual ~FenetresTerminal() = default;
 
     void message(std::string_view texte, std::string_view explication = {}) override;
     void information(std::string_view texte) override;
     bool question(std::string_view texte, std::string_view explication = {}) override;
     void regler_Timer(Entier16 ms) override { intervalle_ = ms; }
-    void ecrire_Mess(const LigneMess&) override {}
-    void ecrire_texte_Mess(std::string_view) override {}
-    void ecrire_Info(const LigneInfo&) override {}
-    void ecrire_LNom(std::string_view) override {}
-    void ecrire_nbre_carreaux(std::string_view) override {}
-    void Active_Desactive(bool) override {}
-    void apres_actions() override {}
     void Dessine_Table() override {
         if (!terminee_)
             dessin_.table(e, *this);
@@ -32,7 +24,6 @@ public:
             dessin_.robots(e, *this);
     }
     void montrer_course(bool en_cours) override;
-    void montrer_logo(bool) override {}
     void fin_du_programme() override { terminee_ = true; }
 
     /// The simulation clock runs.
