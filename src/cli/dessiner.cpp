@@ -22,7 +22,7 @@ class FenetresDessiner final : public FenetresTerminal {
 public:
     using FenetresTerminal::FenetresTerminal;
 
-    void apres_actions() override { sillages.noter(e); }
+    void apres_actions() override { sillages.noter(etat_); }
 
     Sillages sillages;
 };

@@ -9,7 +9,7 @@
 /// arithmetic is done on an empty surface; the timer is a number that a loop reads.
 class FenetresTerminal : public FenetresMuettes {
 public:
-    FenetresTerminal(Etat& etat, std::ostream& erreurs) : e(etat), erreurs_(erreurs) {}
+    FenetresTerminal(Etat& etat, std::ostream& erreurs) : etat_(etat), erreurs_(erreurs) {}
 
     void message(std::string_view texte, std::string_view explication = {}) override;
     void information(std::string_view texte) override;
@@ -17,11 +17,11 @@ public:
     void regler_Timer(Entier16 ms) override { intervalle_ = ms; }
     void Dessine_Table() override {
         if (!terminee_)
-            dessin_.table(e, *this);
+            dessin_.table(etat_, *this);
     }
     void Dessine_Robot() override {
         if (!terminee_)
-            dessin_.robots(e, *this);
+            dessin_.robots(etat_, *this);
     }
     void montrer_course(bool en_cours) override;
     void fin_du_programme() override { terminee_ = true; }
@@ -35,7 +35,7 @@ public:
     int code_de_sortie() const;
 
 protected:
-    Etat& e;
+    Etat& etat_;
 
 private:
     void ecrire_en_une_ligne(std::string_view texte);

@@ -15,8 +15,8 @@ std::filesystem::path ouvrir_dossier(const std::optional<std::filesystem::path>&
 }
 
 Simulation::Simulation(Etat& etat, FenetresTerminal& fenetres, ChoixDeLigne choix)
-    : e(etat),
-      f(fenetres),
+    : etat_(etat),
+      fenetres_(fenetres),
       choix_(std::move(choix)),
       seance_(etat, fenetres, *this, ouvrir_dossier(choix_.dossier)) {
     if (choix_.projet)
@@ -27,13 +27,13 @@ Simulation::Simulation(Etat& etat, FenetresTerminal& fenetres, ChoixDeLigne choi
 }
 
 void Simulation::appliquer_reglages() {
-    if (::appliquer_reglages(e, choix_))
+    if (::appliquer_reglages(etat_, choix_))
         Init_Table();
 }
 
 void Simulation::redessiner() {
-    f.Dessine_Table();
-    f.Dessine_Robot();
+    fenetres_.Dessine_Table();
+    fenetres_.Dessine_Robot();
 }
 
 bool appliquer_reglages(Etat& e, const ChoixDeLigne& choix) {
@@ -68,10 +68,10 @@ Image disposer(Etat& e) {
 
 void Simulation::jouer(std::int32_t duree) {
     moteur().Run_Jeu();
-    Progres progres("Simulation", std::min<std::int32_t>(duree, dernier_tick(e.PasTemps)));
-    while (f.en_marche() && e.TempsEcoule < duree) {
+    Progres progres("Simulation", std::min<std::int32_t>(duree, dernier_tick(etat_.PasTemps)));
+    while (fenetres_.en_marche() && etat_.TempsEcoule < duree) {
         if (!moteur().Timer_Timer())
             break;
-        progres.avancer(e.TempsEcoule);
+        progres.avancer(etat_.TempsEcoule);
     }
 }

@@ -58,16 +58,16 @@ public:
     Image image() const { return image_; }
 
 private:
-    void Init_Table() override { image_ = disposer(e); }
+    void Init_Table() override { image_ = disposer(etat_); }
     void redessiner() override;
     void appliquer_reglages() override;
     bool apres_panne() override { return false; }
     std::filesystem::path choisir_dossier(std::string_view) override { return {}; }
-    bool en_marche() const override { return f.en_marche(); }
-    bool terminee() const override { return f.terminee(); }
+    bool en_marche() const override { return fenetres_.en_marche(); }
+    bool terminee() const override { return fenetres_.terminee(); }
 
-    Etat& e;
-    FenetresTerminal& f;
+    Etat& etat_;
+    FenetresTerminal& fenetres_;
     ChoixDeLigne choix_;
     Seance seance_;
     Image image_;

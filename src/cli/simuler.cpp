@@ -26,7 +26,7 @@ public:
 
     void apres_actions() override {
         if (garder_trace_)
-            trace_.ajouter(e);
+            trace_.ajouter(etat_);
     }
     void ecrire_Mess(const LigneMess& mess) override {
         if (garder_etat_ && !terminee())

@@ -84,7 +84,7 @@ Essai jouer(const Etat& depart, int nb_robots) {
 
 class Verification {
 public:
-    Verification(const Projet& projet, Fenetres& fenetres) : projet_(projet), f(fenetres) {}
+    Verification(const Projet& projet, Fenetres& fenetres) : projet_(projet), fenetres_(fenetres) {}
 
     void debout_puis_tournee(const Etat& lu) {
         const auto e = copie_de(lu);
@@ -105,8 +105,9 @@ private:
             action(*copie);
             return true;
         } catch (const ErreurExecution& erreur) {
-            f.message("Le fichier " + fichier + " arrêterait le programme : " + quoi + sens_,
-                      std::string("Raison : ") + erreur.what());
+            fenetres_.message("Le fichier " + fichier + " arrêterait le programme : " + quoi +
+                                  sens_,
+                              std::string("Raison : ") + erreur.what());
             return false;
         }
     }
@@ -201,17 +202,17 @@ private:
             if (!essai.fini_par_une_erreur)
                 continue;
             const bool trajet_seul = essai.texte.find("Trajet.ini") != std::string::npos;
-            f.message("Le fichier " + (trajet_seul ? trajet(n) : pose(n)) +
-                          " arrêterait le programme : robot " + std::to_string(n) + ", " +
-                          essai.action + ", " + std::to_string(essai.temps / 100) +
-                          " s après le départ" + sens_,
-                      essai.explication);
+            fenetres_.message("Le fichier " + (trajet_seul ? trajet(n) : pose(n)) +
+                                  " arrêterait le programme : robot " + std::to_string(n) + ", " +
+                                  essai.action + ", " + std::to_string(essai.temps / 100) +
+                                  " s après le départ" + sens_,
+                              essai.explication);
             return;
         }
     }
 
     const Projet& projet_;
-    Fenetres& f;
+    Fenetres& fenetres_;
     std::string sens_;
 };
 

@@ -16,7 +16,7 @@ void parcourir_trajet(std::string_view texte, Entier16& NoLigne,
 }
 
 void LecteurTrajet::lire(std::string_view texte, Entier16 n, Entier16& NoLigne) {
-    e.TrajNbActions(n) = 0;
+    etat_.TrajNbActions(n) = 0;
     lignes_.clear();
     const int avant = NoLigne;
     parcourir_trajet(texte, NoLigne, [&](const LigneTrajet& lue) {
@@ -28,9 +28,9 @@ void LecteurTrajet::lire(std::string_view texte, Entier16 n, Entier16& NoLigne) 
 }
 
 void LecteurTrajet::prendre_depart(const LigneTrajet& lue, Entier16 n) {
-    e.XInit(n) = simple(lue.v[0]);
-    e.YInit(n) = simple(lue.v[1]);
-    e.CapInit(n) = simple(lue.v[2]);
+    etat_.XInit(n) = simple(lue.v[0]);
+    etat_.YInit(n) = simple(lue.v[1]);
+    etat_.CapInit(n) = simple(lue.v[2]);
 }
 
 void LecteurTrajet::ajouter(const LigneTrajet& lue, Entier16 n) {
@@ -38,9 +38,9 @@ void LecteurTrajet::ajouter(const LigneTrajet& lue, Entier16 n) {
         parametre_ = lue.v[0];
     if (lue.parametres > 1)
         parametre2_ = lue.v[1];
-    const Entier16 k = e.TrajNbActions(n) + 1;
-    e.TrajAction(n, k) = lue.code;
-    e.TrajParam1(n, k) = parametre_;
-    e.TrajParam2(n, k) = parametre2_;
-    e.TrajNbActions(n) = k;
+    const Entier16 k = etat_.TrajNbActions(n) + 1;
+    etat_.TrajAction(n, k) = lue.code;
+    etat_.TrajParam1(n, k) = parametre_;
+    etat_.TrajParam2(n, k) = parametre2_;
+    etat_.TrajNbActions(n) = k;
 }

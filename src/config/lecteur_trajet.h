@@ -19,7 +19,7 @@ void parcourir_trajet(std::string_view texte, Entier16& NoLigne,
 /// an earlier line (of this or an earlier file) left there.
 class LecteurTrajet {
 public:
-    explicit LecteurTrajet(Etat& etat) : e(etat) {}
+    explicit LecteurTrajet(Etat& etat) : etat_(etat) {}
 
     /// Replaces robot n's trajectory by the file's actions and takes its initial pose.
     /// @param texte    the file's content, UTF-8
@@ -34,7 +34,7 @@ private:
     void prendre_depart(const LigneTrajet& lue, Entier16 n);
     void ajouter(const LigneTrajet& lue, Entier16 n);
 
-    Etat& e;
+    Etat& etat_;
     Entier16 parametre_, parametre2_;
     std::vector<int> lignes_;
 };

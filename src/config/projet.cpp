@@ -46,8 +46,8 @@ void creer_si_absent(const fs::path& chemin, Contenu contenu) {
 } // namespace
 
 Projet::Projet(Etat& etat, Fenetres& fenetres, fs::path dossier_application)
-    : e(etat),
-      f(fenetres),
+    : etat_(etat),
+      fenetres_(fenetres),
       dossier_(std::move(dossier_application)),
       configuration_(dossier_configuration() / "") {}
 
@@ -61,7 +61,7 @@ fs::path Projet::chemin_general() const {
     return trouver_fichier(dossier_configuration(), nom_general);
 }
 fs::path Projet::chemin(std::string_view suite) const {
-    return fichier_de_projet(dossier_configuration(), e.NomProjet, suite);
+    return fichier_de_projet(dossier_configuration(), etat_.NomProjet, suite);
 }
 fs::path Projet::chemin_table() const {
     return chemin(suite_table);
@@ -92,17 +92,17 @@ void Projet::Installe() {
          {dossier_configuration(), dossier_configuration() / "Sauvegardes"})
         retirer_brouillons(dossier);
     creer_si_absent(chemin_general(), general_par_defaut);
-    if (!raison_projet_impossible(e.NomProjet).empty())
+    if (!raison_projet_impossible(etat_.NomProjet).empty())
         return;
     creer_si_absent(chemin_table(), [this] {
-        Init_Table_Old(e);
+        Init_Table_Old(etat_);
         return table_par_defaut();
     });
     for (int n = 1; n <= robots_des_fichiers; ++n) {
-        creer_si_absent(chemin_robot(n), [&] { return robot_par_defaut(e.NomProjet, n); });
+        creer_si_absent(chemin_robot(n), [&] { return robot_par_defaut(etat_.NomProjet, n); });
         creer_si_absent(chemin_trajet(n), [&] {
-            Init_Jeu_Old(e);
-            return trajet_par_defaut(e.NomProjet, n);
+            Init_Jeu_Old(etat_);
+            return trajet_par_defaut(etat_.NomProjet, n);
         });
     }
 }
@@ -140,7 +140,7 @@ bool Projet::lire(std::string_view projet, std::string_view suite, const Entier1
     faute.ligne_annoncee = NoLigne;
     faute.consequence = consequence;
     faute.suite = suite;
-    f.message(annonce(faute), explication(faute));
+    fenetres_.message(annonce(faute), explication(faute));
     erreurs_.push_back(std::move(faute));
     return false;
 }
@@ -152,36 +152,36 @@ void Projet::oublier_erreurs(std::string_view sorte) {
 
 void Projet::LoadGeneral() {
     erreurs_.clear();
-    const std::string ancien = std::exchange(e.NomProjet, "Defaut");
+    const std::string ancien = std::exchange(etat_.NomProjet, "Defaut");
     Entier16 NoLigne;
     lire("", nom_general, NoLigne,
-         [&](std::string_view texte) { lire_general(texte, e, NoLigne); });
+         [&](std::string_view texte) { lire_general(texte, etat_, NoLigne); });
     if (projet_impose_)
-        e.NomProjet = *projet_impose_;
-    if (e.NomProjet != ancien && installation_)
+        etat_.NomProjet = *projet_impose_;
+    if (etat_.NomProjet != ancien && installation_)
         Installe();
 }
 
 void Projet::LoadTable() {
     oublier_erreurs(suite_table);
     Entier16 NoLigne;
-    vider_table(e);
-    f.ecrire_LNom("");
-    const auto nommer = [this](std::string_view nom) { f.ecrire_LNom(nom); };
-    if (!lire(e.NomProjet, suite_table, NoLigne,
-              [&](std::string_view texte) { lire_table(texte, e, nommer, NoLigne); }))
-        Init_Table_Old(e);
+    vider_table(etat_);
+    fenetres_.ecrire_LNom("");
+    const auto nommer = [this](std::string_view nom) { fenetres_.ecrire_LNom(nom); };
+    if (!lire(etat_.NomProjet, suite_table, NoLigne,
+              [&](std::string_view texte) { lire_table(texte, etat_, nommer, NoLigne); }))
+        Init_Table_Old(etat_);
 }
 
 void Projet::LoadRobot() {
     oublier_erreurs(" Robot");
-    LecteurRobot lecteur(e);
+    LecteurRobot lecteur(etat_);
     for (int n = 1; n <= robots_des_fichiers; ++n) {
         Entier16 NoLigne;
         if (!lire(
-                e.NomProjet, suite_robot(n), NoLigne,
+                etat_.NomProjet, suite_robot(n), NoLigne,
                 [&](std::string_view texte) { lecteur.lire(texte, n, NoLigne); }, n))
-            return Init_Robot_Old(e, n);
+            return Init_Robot_Old(etat_, n);
     }
 }
 
@@ -190,16 +190,16 @@ void Projet::LoadTrajet() {
                                               "autres fichiers aussi, tant que ce fichier "
                                               "n'est pas corrigé.";
     oublier_erreurs(" Trajet");
-    LecteurTrajet lecteur(e);
+    LecteurTrajet lecteur(etat_);
     Entier16 NoLigne; // deliberately counts over all nine files
     for (int n = 1; n <= robots_des_fichiers; ++n) {
         const auto lire_le_texte = [&](std::string_view texte) {
             const bool autre = n == autre_trajet_;
             lecteur.lire(autre ? autre_texte_(texte) : texte, n, NoLigne);
         };
-        if (!lire(e.NomProjet, suite_trajet(n), NoLigne, lire_le_texte, n, sans_trajets)) {
+        if (!lire(etat_.NomProjet, suite_trajet(n), NoLigne, lire_le_texte, n, sans_trajets)) {
             lignes_trajet_.remplir({});
-            return Init_Jeu_Old(e);
+            return Init_Jeu_Old(etat_);
         }
         lignes_trajet_(n) = lecteur.lignes();
     }
@@ -207,15 +207,15 @@ void Projet::LoadTrajet() {
 
 void Projet::Init_Robot() {
     LoadRobot();
-    Init_Jeu_Old(e);
+    Init_Jeu_Old(etat_);
 }
 
 void Projet::Init_Jeu() {
     LoadTrajet();
     for (int i = 1; i <= robots_des_fichiers; ++i) {
-        e.CapRobot(i) = e.CapInit(i);
-        e.XRobot(i) = e.XInit(i);
-        e.YRobot(i) = e.YInit(i);
+        etat_.CapRobot(i) = etat_.CapInit(i);
+        etat_.XRobot(i) = etat_.XInit(i);
+        etat_.YRobot(i) = etat_.YInit(i);
     }
 }
 

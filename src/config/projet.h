@@ -76,8 +76,8 @@ private:
     /// Those of the files whose `suite` begins so: they are read again.
     void oublier_erreurs(std::string_view sorte);
 
-    Etat& e;
-    Fenetres& f;
+    Etat& etat_;
+    Fenetres& fenetres_;
     std::filesystem::path dossier_;
     std::string configuration_; ///< the directory Configuration, with a separator behind
     std::optional<std::string> projet_impose_;

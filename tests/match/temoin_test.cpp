@@ -64,9 +64,9 @@ public:
     Match(Etat& etat, std::ostream& erreurs) : FenetresTerminal(etat, erreurs) {}
 
     void apres_actions() override {
-        empreinte.ajouter(e);
+        empreinte.ajouter(etat_);
         if (retenu())
-            trace.ajouter(e);
+            trace.ajouter(etat_);
     }
     void ecrire_Mess(const LigneMess& mess) override {
         if (retenu())
@@ -78,7 +78,9 @@ public:
     Empreinte empreinte;
 
 private:
-    bool retenu() const { return e.TempsEcoule % 100 == 0 || e.TempsEcoule > duree_du_match; }
+    bool retenu() const {
+        return etat_.TempsEcoule % 100 == 0 || etat_.TempsEcoule > duree_du_match;
+    }
 };
 
 struct Cas {
