@@ -32,7 +32,7 @@ protected:
     void ouvrir() {
         QTimer::singleShot(0, [this] {
             auto& menu = trouver<QMenu>("menu_table");
-            menu.setActiveAction(menu.actions().back());
+            menu.setActiveAction(sim->findChild<QAction*>("menu_restaurer"));
             QTest::keyClick(&menu, Qt::Key_Return);
         });
         emit trouver("Table").customContextMenuRequested({5, 5});

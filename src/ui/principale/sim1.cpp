@@ -12,7 +12,6 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QMenu>
 
 Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(int)> terminer)
     : e(std::make_unique<Etat>()),
@@ -29,6 +28,7 @@ Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(
       aide_(std::make_unique<ServiceAide>(*this)) {
     nommer();
     connecter();
+    composer_menu();
     ecouter(seance_.annonces());
 }
 
@@ -55,7 +55,7 @@ void Sim1::nommer() {
 void Sim1::connecter() {
     connect(&Timer, &QTimer::timeout, this, [this] { Timer_Timer(); });
     connect(&Table, &QWidget::customContextMenuRequested, this,
-            [this](const QPoint& ou) { menu_robots(ou); });
+            [this](const QPoint& ou) { montrer_menu(ou); });
     options_.brancher(options_.dessinAire, [this] { editeurs().montrer(); });
     options_.brancher(options_.generer, [this] { montrer_generateur(); });
     options_.brancher(options_.Command5, [this] { montrer_console(); });
@@ -134,10 +134,12 @@ void Sim1::Table_Click() {
 }
 
 void Sim1::montrer_console() {
-    if (!console_)
+    if (!console_) {
         console_ = std::make_unique<Télécommande>(this, seance_, bureau(), [this] {
             return options_.nbre_carreaux.text().toStdString();
         });
+        console_->addActions(Table.actions());
+    }
     const QRect cadre_options = options_.frameGeometry();
     if (!console_->isVisible())
         proposer_place(*console_, cadre_options.topLeft());
@@ -178,33 +180,6 @@ void Sim1::Timer_Timer() {
         seance_.moteur().Timer_Timer();
         cadence_.compter(temps_de_calcul() - avant);
     }
-}
-
-void Sim1::menu_robots(const QPoint& ou) {
-    QMenu menu(&Table);
-    menu.setObjectName("menu_table");
-    QMenu& robots = *menu.addMenu("Nombre de robots");
-    robots.setObjectName("menu_robots");
-    robots.setEnabled(options_.robots_modifiables());
-    robots.addSection("Nombre de robots");
-    for (int n = 1; n <= robots_des_fichiers; ++n) {
-        QAction* choix = robots.addAction(QString::number(n));
-        choix->setCheckable(true);
-        choix->setChecked(n == e->NbRobot);
-        choix->setData(n);
-    }
-    menu.addSeparator();
-    const QAction* constats = menu.addAction("Constats du match…\tF7");
-    const QAction* restaurer = menu.addAction("Restaurer une version…");
-    const QAction* choix = menu.exec(Table.mapToGlobal(ou));
-    if (choix == nullptr)
-        return;
-    if (choix == constats)
-        verdict_->montrer_liste();
-    else if (choix == restaurer)
-        montrer_restauration();
-    else
-        options_.choisir_robots(choix->data().toInt());
 }
 
 Editeurs& Sim1::editeurs() {

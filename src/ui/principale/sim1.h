@@ -17,6 +17,7 @@
 
 class Dialog;
 class Editeurs;
+class QMenu;
 class Restauration;
 class ServiceAide;
 class Surveillance;
@@ -100,7 +101,13 @@ private:
     Editeurs& editeurs();
     void proposer_reprise();
     void Timer_Timer();
-    void menu_robots(const QPoint& ou);
+    /// A line of the table's context menu and its key, which the options window and the console
+    /// answer too.
+    QAction& entree(const char* nom, const QString& texte, const QKeySequence& touche,
+                    std::function<void()> procedure);
+    void composer_menu();
+    void montrer_menu(const QPoint& ou);
+    void remplir_robots(QMenu& robots);
     void Form_Unload();
     void terminer(int code_de_sortie);
 
