@@ -1,19 +1,10 @@
 #include "draw/sillages.h"
 
-#include <array>
+#include "draw/couleurs_robots.h"
+
 #include <string>
 
 namespace {
-
-constexpr std::array<Couleur, robots_des_fichiers> couleurs_robots{{{0, 255, 255},
-                                                                    {255, 140, 0},
-                                                                    {255, 105, 180},
-                                                                    {173, 255, 47},
-                                                                    {186, 130, 255},
-                                                                    {255, 215, 0},
-                                                                    {135, 206, 250},
-                                                                    {255, 160, 122},
-                                                                    {64, 224, 208}}};
 
 constexpr double rayon_seconde = 0.8; // cm
 
@@ -46,7 +37,7 @@ void Sillages::peindre(const Etat& e, Surface& s) const {
         s.epaisseur(4);
         s.chemin(chemins_(i), couleurs::noir);
         s.epaisseur(2);
-        s.chemin(chemins_(i), couleurs_robots[static_cast<std::size_t>(i - 1)]);
+        s.chemin(chemins_(i), couleur_robot(i));
         peindre_secondes(secondes_(i), "robot " + std::to_string(i), s);
         s.epaisseur(1);
     }

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <vector>
 
 /// 24-bit colour.
 struct Couleur {
@@ -28,6 +29,8 @@ inline constexpr Couleur orange_clair{255, 192, 128};
 struct PointTable {
     double x, y;
 };
+
+using Forme = std::vector<PointTable>;
 
 /// A drawing surface in table coordinates (cm, y upwards). One implementation paints in the window,
 /// one writes SVG, one does nothing, tests record the calls.
@@ -59,12 +62,16 @@ public:
     virtual void chemin(std::span<const PointTable> points, Couleur couleur) = 0;
     /// A closed shape full of one colour, without an outline.
     virtual void polygone(std::span<const PointTable> points, Couleur couleur) = 0;
+    /// Closed shapes as one: what several cover is covered once. All run anticlockwise.
+    virtual void reunion(std::span<const Forme> formes, Couleur couleur) = 0;
     /// A dot. @param rayon  cm  @param bulle  what it says where it is pointed at
     virtual void repere(PointTable centre, double rayon, Couleur couleur,
                         std::string_view bulle) = 0;
     /// A short text about its middle. @param hauteur  of the letters, pixels
     virtual void texte(PointTable milieu, double hauteur, Couleur couleur,
                        std::string_view texte) = 0;
+    /// For what keeps its size in pixels at any scale.
+    virtual double cm_par_pixel() const = 0;
 
 protected:
     ~Surface() = default;

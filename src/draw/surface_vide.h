@@ -22,6 +22,8 @@ public:
     void opacite(double) override {}
     void chemin(std::span<const PointTable>, Couleur) override {}
     void polygone(std::span<const PointTable>, Couleur) override {}
+    void reunion(std::span<const Forme>, Couleur) override {}
     void repere(PointTable, double, Couleur, std::string_view) override {}
     void texte(PointTable, double, Couleur, std::string_view) override {}
+    double cm_par_pixel() const override { return 1; }
 };

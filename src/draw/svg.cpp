@@ -120,20 +120,34 @@ void SurfaceSvg::arc(double x, double y, double rayon, Couleur couleur, double d
     contour(couleur, false);
 }
 
-void SurfaceSvg::points(std::string_view balise, std::span<const PointTable> points) {
-    corps_.append("<").append(balise).append(" points=\"");
+void SurfaceSvg::points(std::span<const PointTable> points) {
     for (const PointTable& p : points)
         corps_.append(decimal(p.x).vue()).append(",").append(decimal(-p.y).vue()).append(" ");
-    corps_ += "\"";
 }
 
 void SurfaceSvg::chemin(std::span<const PointTable> points, Couleur couleur) {
-    this->points("polyline", points);
+    corps_ += "<polyline points=\"";
+    this->points(points);
+    corps_ += "\"";
     contour(couleur, false);
 }
 
 void SurfaceSvg::polygone(std::span<const PointTable> points, Couleur couleur) {
-    this->points("polygon", points);
+    corps_ += "<polygon points=\"";
+    this->points(points);
+    corps_ += "\"";
+    plein(couleur);
+    corps_ += "/>\n";
+}
+
+void SurfaceSvg::reunion(std::span<const Forme> formes, Couleur couleur) {
+    corps_ += "<path d=\"";
+    for (const Forme& forme : formes) {
+        corps_ += "M";
+        points(forme);
+        corps_ += "Z";
+    }
+    corps_ += "\" fill-rule=\"nonzero\"";
     plein(couleur);
     corps_ += "/>\n";
 }
@@ -151,7 +165,7 @@ void SurfaceSvg::texte(PointTable milieu, double hauteur, Couleur couleur, std::
     corps_ += "<text";
     nombre("x", milieu.x);
     nombre("y", -milieu.y);
-    nombre("font-size", hauteur * (droite_ - gauche_) / largeur_); // user units are centimetres
+    nombre("font-size", hauteur * cm_par_pixel()); // user units are centimetres
     corps_ += " text-anchor=\"middle\" dominant-baseline=\"central\" font-family=\"sans-serif\"";
     plein(couleur);
     corps_ += ">" + echapper(texte) + "</text>\n";

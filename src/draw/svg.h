@@ -28,8 +28,10 @@ public:
     void opacite(double part) override { opacite_ = part; }
     void chemin(std::span<const PointTable> points, Couleur couleur) override;
     void polygone(std::span<const PointTable> points, Couleur couleur) override;
+    void reunion(std::span<const Forme> formes, Couleur couleur) override;
     void repere(PointTable centre, double rayon, Couleur couleur, std::string_view bulle) override;
     void texte(PointTable milieu, double hauteur, Couleur couleur, std::string_view texte) override;
+    double cm_par_pixel() const override { return (droite_ - gauche_) / largeur_; }
 
     /// The whole picture. @param titre  shown by viewers
     std::string document(std::string_view titre) const;
@@ -37,7 +39,7 @@ public:
 private:
     void nombre(std::string_view attribut, double valeur);
     void rectangle(double x1, double y1, double x2, double y2);
-    void points(std::string_view balise, std::span<const PointTable> points);
+    void points(std::span<const PointTable> points);
     void contour(Couleur couleur, bool rempli);
     void plein(Couleur couleur);
 

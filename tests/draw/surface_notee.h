@@ -41,12 +41,17 @@ public:
     void polygone(std::span<const PointTable> points, Couleur c) override {
         noter("polygone", points, nom(c));
     }
+    void reunion(std::span<const Forme> formes, Couleur c) override {
+        for (const Forme& forme : formes)
+            noter("reunion", forme, nom(c));
+    }
     void repere(PointTable p, double rayon, Couleur c, std::string_view bulle) override {
         noter("repere", {p.x, p.y, rayon}, nom(c) + " " + std::string(bulle));
     }
     void texte(PointTable p, double hauteur, Couleur c, std::string_view texte) override {
         noter("texte", {p.x, p.y, hauteur}, nom(c) + " " + std::string(texte));
     }
+    double cm_par_pixel() const override { return 0.5; }
 
 private:
     static std::string nom(Couleur c) {

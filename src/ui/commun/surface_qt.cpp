@@ -1,6 +1,7 @@
 #include "ui/commun/surface_qt.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
@@ -129,6 +130,17 @@ void SurfaceQt::chemin(std::span<const PointTable> points, Couleur couleur) {
 void SurfaceQt::polygone(std::span<const PointTable> points, Couleur couleur) {
     choisir_plein(couleur);
     peintre_.drawPolygon(en_pixels(points));
+}
+
+void SurfaceQt::reunion(std::span<const Forme> formes, Couleur couleur) {
+    QPainterPath chemin;
+    chemin.setFillRule(Qt::WindingFill);
+    for (const Forme& forme : formes) {
+        chemin.addPolygon(en_pixels(forme));
+        chemin.closeSubpath();
+    }
+    choisir_plein(couleur);
+    peintre_.drawPath(chemin);
 }
 
 void SurfaceQt::repere(PointTable centre, double rayon, Couleur couleur, std::string_view) {

@@ -51,9 +51,11 @@ public:
     void opacite(double part) override;
     void chemin(std::span<const PointTable> points, Couleur couleur) override;
     void polygone(std::span<const PointTable> points, Couleur couleur) override;
+    void reunion(std::span<const Forme> formes, Couleur couleur) override;
     /// The tool tip is left out: a painter has none.
     void repere(PointTable centre, double rayon, Couleur couleur, std::string_view bulle) override;
     void texte(PointTable milieu, double hauteur, Couleur couleur, std::string_view texte) override;
+    double cm_par_pixel() const override { return 1 / repere_.pixels_x(1); }
 
 private:
     QRectF sur_les_pixels(QRectF r) const;

@@ -60,6 +60,8 @@ void Verdict::calculer() {
     masques_ = {seance_.projet().dossier_configuration(), analyse_.projet};
     noter_changement();
     montrer();
+    for (const auto& suite : suites_)
+        suite(analyse_);
 }
 
 // A recorded path stands in a file only once it is saved, and which lines it has there nobody has

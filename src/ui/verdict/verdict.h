@@ -9,8 +9,11 @@
 
 #include <bitset>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 class ListeConstats;
 
@@ -23,6 +26,11 @@ public:
     /// To be placed, shown and hidden by the main window.
     LigneVerdict& ligne() { return ligne_; }
     void montrer_liste();
+    const Analyse& analyse() const { return analyse_; }
+    /// To be called with every new computation, in the order in which they came.
+    void quand_calcule(std::function<void(const Analyse&)> suite) {
+        suites_.push_back(std::move(suite));
+    }
     /// Something changed: plays the match again once the events that brought it are dealt with.
     void recalculer();
     /// Nothing runs any more.
@@ -49,6 +57,7 @@ private:
     /// Their paths were recorded since the files were read: they have no lines there.
     std::bitset<robots_max + 1> enregistres_;
     Analyse analyse_;
+    std::vector<std::function<void(const Analyse&)>> suites_;
     GenresMasques masques_;
     std::string dernier_; ///< the verdict before, and its margin
     std::optional<std::int32_t> marge_, changement_;
