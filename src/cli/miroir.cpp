@@ -14,14 +14,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, Axe>, 3> axes{
-    {{"vertical", Axe::vertical}, {"horizontal", Axe::horizontal}, {"demi-tour", Axe::demi_tour}}};
+constexpr std::array<std::pair<std::string_view, Retournement>, 3> axes{
+    {{"vertical", Retournement::vertical},
+     {"horizontal", Retournement::horizontal},
+     {"demi-tour", Retournement::demi_tour}}};
 
 struct OptionsMiroir {
     ChoixDeLigne choix;
     int robot = 0;
     int vers = 0; ///< 0: the robot itself
-    Axe axe = Axe::vertical;
+    Retournement axe = Retournement::vertical;
 };
 
 /// The project that the settings or the command line name, its table read. Whatever is wrong with
@@ -34,7 +36,8 @@ void ouvrir(Projet& projet, const ChoixDeLigne& choix) {
     projet.LoadTable();
 }
 
-std::string fichier_de_l_autre_cote(const fs::path& chemin, Axe axe, const Etendue& table) {
+std::string fichier_de_l_autre_cote(const fs::path& chemin, Retournement axe,
+                                    const Etendue& table) {
     const std::string octets = lire_octets(chemin);
     try {
         return fichier_retourne(octets, axe, table);

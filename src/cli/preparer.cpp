@@ -2,11 +2,9 @@
 
 #include "base/fichiers.h"
 #include "cli/choix.h"
-#include "cli/fenetres_pilotees.h"
+#include "cli/simulation.h"
 #include "cli/sortie.h"
-#include "record/appuis.h"
-#include "record/generation.h"
-#include "record/pose.h"
+#include "record/preparation.h"
 
 #include <iostream>
 #include <memory>
@@ -27,25 +25,21 @@ public:
     explicit Preparation(const OptionsPreparer& options)
         : robot_(options.robot),
           fenetres_(*etat_, std::cerr),
-          simulation_(*etat_, fenetres_, avec_lecture(options.choix)),
-          console_(*etat_, fenetres_, simulation_.moteur()) {
+          simulation_(*etat_, fenetres_, avec_lecture(options.choix)) {
         etat_->utiliDamier = options.damier;
-        fenetres_.suivre(console_);
     }
 
     int executer() {
         if (!simulation_.demarree() || !trajet_)
             return fenetres_.code_de_sortie();
         avertir_des_balises();
-        auto refus = refus_du_lecteur();
-        if (!refus)
-            refus = refus_de_generation(*trajet_);
-        if (!refus)
-            refus = conduire();
-        if (refus)
-            refuser(*refus);
-        else
-            ecrire();
+        try {
+            preparer();
+        } catch (const LigneRefusee& refus) {
+            refuser(fichier().string() + " " + refus.what());
+        } catch (const ErreurExecution& erreur) {
+            refuser(erreur.what());
+        }
         return fenetres_.code_de_sortie();
     }
 
@@ -62,21 +56,17 @@ private:
         return choix;
     }
 
-    std::string ou(int ligne) const {
-        return simulation_.seance().projet().chemin_trajet(robot_).string() + " Ligne " +
-               std::to_string(ligne);
-    }
+    const Projet& projet() { return simulation_.seance().projet(); }
+    fs::path fichier() { return projet().chemin_trajet(robot_); }
 
-    void refuser(const RefusLecture& refus) {
-        fenetres_.message("Rien n'a été écrit : " + ou(refus.ligne) + " : " + refus.raison);
-    }
+    void refuser(const std::string& raison) { fenetres_.message("Rien n'a été écrit : " + raison); }
 
-    void avertir_des_balises() const {
+    void avertir_des_balises() {
         for (std::size_t i = 0; i < trajet_->nombre(); ++i) {
             const std::string& cle = (*trajet_)[i].cle;
             if (cle != cle_jouee(cle))
-                avertir(ou(trajet_->ligne(i)) + " : « " + cle +
-                        " » n'est pas lu par le simulateur");
+                avertir(fichier().string() + " Ligne " + std::to_string(trajet_->ligne(i)) +
+                        " : « " + cle + " » n'est pas lu par le simulateur");
         }
     }
 
@@ -84,50 +74,28 @@ private:
         ecrire_ligne(std::cerr, "Avertissement : " + texte);
     }
 
-    std::optional<RefusLecture> refus_du_lecteur() const {
-        const auto refus = trajet_->refus(false);
-        return refus.empty() ? std::nullopt : std::optional(refus.front());
-    }
-
-    std::optional<RefusLecture> conduire() {
-        Etat& e = *etat_;
-        if (e.NbRobot < robot_)
-            e.NbRobot = robot_;
-        console_.VScroll1_Change(robot_);
-        // The fields of the console and the file have the same frame.
-        const Pose p = pose_des_fichiers(e, robot_);
-        console_.Command9_Click({std::string(texte_simple(p.x)), std::string(texte_simple(p.y)),
-                                 std::string(texte_simple(p.cap))});
-        tourner();
-        return rejouer(*trajet_, console_, [this] { return tourner(); });
-    }
-
-    bool tourner() {
-        while (fenetres_.en_marche() && simulation_.moteur().Timer_Timer()) {
-        }
-        if (!etat_->en_course && !prevenu_)
-            avertir("le match de 90 s finit avant ou avec une action de ce trajet");
-        prevenu_ = prevenu_ || !etat_->en_course;
-        return !fenetres_.terminee();
-    }
-
-    void ecrire() {
+    void preparer() {
         const std::string suite = " PourGenerer10.ini";
-        const fs::path fichier = simulation_.seance().projet().chemin(suite);
-        const std::string contenu = texte_generation(*etat_, etat_->NomProjet + suite);
-        sauvegarder_version(fichier,
-                            simulation_.seance().projet().dossier_configuration() / "Sauvegardes");
-        remplacer_fichier(fichier, contenu);
-        ecrire_ligne(std::cout, "Fichier écrit : " + fichier.string());
+        if (const auto refus = trajet_->refus(false); !refus.empty())
+            throw LigneRefusee(refus.front().ligne, refus.front().raison);
+        const GenerationPreparee generation =
+            preparer_generation(*etat_, robot_, *trajet_, etat_->NomProjet + suite);
+        if (generation.hors_du_match)
+            avertir("le match de 90 s finit avant ou avec une action de ce trajet");
+        ecrire(projet().chemin(suite), generation.texte);
+    }
+
+    void ecrire(const fs::path& sortie, const std::string& contenu) {
+        sauvegarder_version(sortie, projet().dossier_configuration() / "Sauvegardes");
+        remplacer_fichier(sortie, contenu);
+        ecrire_ligne(std::cout, "Fichier écrit : " + sortie.string());
     }
 
     int robot_;
     std::unique_ptr<Etat> etat_ = std::make_unique<Etat>();
     std::optional<DocumentTrajet> trajet_;
-    FenetresPilotees fenetres_;
+    FenetresTerminal fenetres_;
     Simulation simulation_;
-    Console console_;
-    bool prevenu_ = false;
 };
 
 } // namespace

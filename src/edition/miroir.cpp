@@ -11,13 +11,13 @@ std::string autre_cote(const std::string& cle) {
     return action == nullptr ? cle : std::string(action->miroir.sans_blancs());
 }
 
-std::array<int, 3> pose_retournee(int x, int y, int cap, Axe axe, const Etendue& table) {
+std::array<int, 3> pose_retournee(int x, int y, int cap, Retournement axe, const Etendue& table) {
     switch (axe) {
-    case Axe::vertical:
+    case Retournement::vertical:
         return {table.XMax - x, y, 180 - cap};
-    case Axe::horizontal:
+    case Retournement::horizontal:
         return {x, table.YMax - y, -cap};
-    case Axe::demi_tour:
+    case Retournement::demi_tour:
         break;
     }
     return {table.XMax - x, table.YMax - y, cap_oppose(cap)};
@@ -33,7 +33,7 @@ void exiger_lisible(const DocumentTrajet& trajet, std::string_view octets) {
                               "fichier du robot ; ajoutez-la au trajet");
 }
 
-std::string une_fois(std::string_view octets, Axe axe, const Etendue& table) {
+std::string une_fois(std::string_view octets, Retournement axe, const Etendue& table) {
     DocumentTrajet trajet = DocumentTrajet::depuis(octets);
     exiger_lisible(trajet, octets);
     std::vector<std::size_t> toutes(trajet.nombre());
@@ -66,20 +66,20 @@ int cap_oppose(int cap) {
     return tour < 180 ? cap + 180 : cap - 180;
 }
 
-Fiche retournee(const Fiche& fiche, Axe axe, const Etendue& table) {
+Fiche retournee(const Fiche& fiche, Retournement axe, const Etendue& table) {
     Fiche autre = fiche;
     if (fiche.cle == "INIT") {
         const auto pose =
             pose_retournee(fiche.entier(0), fiche.entier(1), fiche.entier(2), axe, table);
         for (std::size_t i = 0; i < pose.size(); ++i)
             autre.v[i] = static_cast<float>(Entier16(pose[i]));
-    } else if (axe != Axe::demi_tour) {
+    } else if (axe != Retournement::demi_tour) {
         autre.cle = autre_cote(fiche.cle);
     }
     return autre;
 }
 
-void retourner(DocumentTrajet& trajet, const std::vector<std::size_t>& choisies, Axe axe,
+void retourner(DocumentTrajet& trajet, const std::vector<std::size_t>& choisies, Retournement axe,
                const Etendue& table) {
     DocumentTrajet nouveau = trajet;
     for (const std::size_t i : choisies) {
@@ -92,7 +92,7 @@ void retourner(DocumentTrajet& trajet, const std::vector<std::size_t>& choisies,
     trajet = std::move(nouveau);
 }
 
-std::string fichier_retourne(std::string_view octets, Axe axe, const Etendue& table) {
+std::string fichier_retourne(std::string_view octets, Retournement axe, const Etendue& table) {
     std::string texte = une_fois(octets, axe, table);
     exiger_memes_octets(octets, une_fois(texte, axe, table));
     return texte;

@@ -7,7 +7,7 @@
 #include <vector>
 
 /// How a trajectory goes to the other side of the table. Each done twice gives the same again.
-enum class Axe {
+enum class Retournement {
     vertical,   ///< mirror: x becomes XMax - x, heading h 180 - h
     horizontal, ///< mirror: y becomes YMax - y, heading h -h
     demi_tour   ///< half turn about the table's middle
@@ -25,18 +25,18 @@ int cap_oppose(int cap);
 
 /// A start pose or an action on the other side: a mirror swaps the sides of turns, arcs and beacon
 /// searches, a half turn does not. @throws Debordement when a number leaves 16 bits
-Fiche retournee(const Fiche& fiche, Axe axe, const Etendue& table);
+Fiche retournee(const Fiche& fiche, Retournement axe, const Etendue& table);
 
 /// Takes records to the other side, their lines otherwise untouched. @param choisies  their indices
 /// @throws LigneRefusee when a number leaves 16 bits; nothing is changed then
-void retourner(DocumentTrajet& trajet, const std::vector<std::size_t>& choisies, Axe axe,
+void retourner(DocumentTrajet& trajet, const std::vector<std::size_t>& choisies, Retournement axe,
                const Etendue& table);
 
 /// The whole file on the other side. Without a start pose of its own it has none to turn, and is
 /// refused.
 /// @throws ErreurExecution (LigneRefusee for a line) when the simulator's reader refuses it, when a
 ///         number leaves 16 bits, and when a second time would not give these very bytes again
-std::string fichier_retourne(std::string_view octets, Axe axe, const Etendue& table);
+std::string fichier_retourne(std::string_view octets, Retournement axe, const Etendue& table);
 
 /// Moves the start pose that counts (cm, degrees). @throws LigneRefusee beyond 16 bits;
 /// ErreurExecution without a start pose

@@ -15,9 +15,10 @@
 namespace {
 
 constexpr Etendue table{200, 320};
-constexpr Axe axes[] = {Axe::vertical, Axe::horizontal, Axe::demi_tour};
+constexpr Retournement axes[] = {Retournement::vertical, Retournement::horizontal,
+                                 Retournement::demi_tour};
 
-std::string retourne(std::string_view octets, Axe axe) {
+std::string retourne(std::string_view octets, Retournement axe) {
     return fichier_retourne(octets, axe, table);
 }
 
@@ -43,9 +44,9 @@ TEST(Miroir, chaque_axe_change_le_depart_et_les_cotes_et_rien_d_autre) {
                          "VIRARGA   ,90,10\r\nbalise GAUCHE du fond\r\nBALISE DRO\r\n") +
                "Pause,007\r\nFIN";
     };
-    EXPECT_EQ(retourne(fichier, Axe::vertical), attendu("Init, 140 ,40, 150", true));
-    EXPECT_EQ(retourne(fichier, Axe::horizontal), attendu("Init, 60 ,280, -30", true));
-    EXPECT_EQ(retourne(fichier, Axe::demi_tour), attendu("Init, 140 ,280, 210", false));
+    EXPECT_EQ(retourne(fichier, Retournement::vertical), attendu("Init, 140 ,40, 150", true));
+    EXPECT_EQ(retourne(fichier, Retournement::horizontal), attendu("Init, 60 ,280, -30", true));
+    EXPECT_EQ(retourne(fichier, Retournement::demi_tour), attendu("Init, 140 ,280, 210", false));
 }
 
 TEST(Miroir, le_demi_tour_d_un_cap_se_defait) {
@@ -97,10 +98,11 @@ TEST(Miroir, deux_fois_rend_les_octets_de_fichiers_au_hasard) {
         }
         if (essai % 5 == 0) // not UTF-8
             fichier += "# \xE9t\xE9";
-        for (const Axe axe : axes) {
+        for (const Retournement axe : axes) {
             const std::string autre = retourne(fichier, axe);
             ASSERT_EQ(retourne(autre, axe), fichier);
-            ASSERT_EQ(retourne(retourne(autre, Axe::horizontal), Axe::horizontal), autre);
+            ASSERT_EQ(retourne(retourne(autre, Retournement::horizontal), Retournement::horizontal),
+                      autre);
         }
     }
 }
@@ -108,23 +110,27 @@ TEST(Miroir, deux_fois_rend_les_octets_de_fichiers_au_hasard) {
 TEST(Miroir, ce_qui_ne_peut_pas_etre_retourne_dit_sa_ligne) {
     struct Cas {
         const char* fichier;
-        Axe axe;
+        Retournement axe;
         const char* message;
     };
     const Cas cas[] = {
-        {"Init,1,2,3\nTourne,5", Axe::vertical, "Ligne 2 : enregistrement inconnu : TOURNE    "},
-        {"Init,1,2,3\n\nBD", Axe::vertical, "Ligne 3 : « BD » n'est pas lu par le simulateur"},
-        {"Init,1,2", Axe::demi_tour, "Ligne 1 : il manque une virgule : 1,2"},
-        {"# a\nInit,-32700,2,3", Axe::vertical, "Ligne 2 : "},
-        {"Init,1,-32700,3", Axe::horizontal, "Ligne 1 : "},
-        {"Init,1,2,-32600", Axe::vertical, "Ligne 1 : "},
-        {"Init,1,2,-32768", Axe::horizontal, "Ligne 1 : "},
-        {"Init,1,2,32767", Axe::demi_tour, "Ligne 1 : "},
-        {"Avance,5\nInit,1,2,3\nInit,+1,2,3", Axe::vertical,
+        {"Init,1,2,3\nTourne,5", Retournement::vertical,
+         "Ligne 2 : enregistrement inconnu : TOURNE    "},
+        {"Init,1,2,3\n\nBD", Retournement::vertical,
+         "Ligne 3 : « BD » n'est pas lu par le simulateur"},
+        {"Init,1,2", Retournement::demi_tour, "Ligne 1 : il manque une virgule : 1,2"},
+        {"# a\nInit,-32700,2,3", Retournement::vertical, "Ligne 2 : "},
+        {"Init,1,-32700,3", Retournement::horizontal, "Ligne 1 : "},
+        {"Init,1,2,-32600", Retournement::vertical, "Ligne 1 : "},
+        {"Init,1,2,-32768", Retournement::horizontal, "Ligne 1 : "},
+        {"Init,1,2,32767", Retournement::demi_tour, "Ligne 1 : "},
+        {"Avance,5\nInit,1,2,3\nInit,+1,2,3", Retournement::vertical,
          "Ligne 3 : un second retournement ne rendrait pas « Init,+1,2,3 »"},
-        {"Init,1,2,030", Axe::vertical, "Ligne 1 : un second retournement ne rendrait pas"},
-        {"Init,1.5,2,0", Axe::vertical, "Ligne 1 : un second retournement ne rendrait pas"},
-        {"Avance,5\nFIN", Axe::vertical, "il n'y a pas de ligne « Init »"},
+        {"Init,1,2,030", Retournement::vertical,
+         "Ligne 1 : un second retournement ne rendrait pas"},
+        {"Init,1.5,2,0", Retournement::vertical,
+         "Ligne 1 : un second retournement ne rendrait pas"},
+        {"Avance,5\nFIN", Retournement::vertical, "il n'y a pas de ligne « Init »"},
     };
     for (const Cas& c : cas) {
         try {
@@ -134,13 +140,14 @@ TEST(Miroir, ce_qui_ne_peut_pas_etre_retourne_dit_sa_ligne) {
             EXPECT_TRUE(std::string_view(erreur.what()).starts_with(c.message)) << erreur.what();
         }
     }
-    EXPECT_EQ(retourne("Init,1.0,2,90.00", Axe::vertical), "Init,199.0,2,90.00");
-    EXPECT_EQ(retourne("Init,0100,2,90", Axe::vertical), "Init,0100,2,90"); // nothing to write
+    EXPECT_EQ(retourne("Init,1.0,2,90.00", Retournement::vertical), "Init,199.0,2,90.00");
+    EXPECT_EQ(retourne("Init,0100,2,90", Retournement::vertical),
+              "Init,0100,2,90"); // nothing to write
 }
 
 TEST(Miroir, un_choix_de_lignes_et_un_depart_deplace) {
     DocumentTrajet d = DocumentTrajet::depuis("Init,1,2,3\nDroite,5\nGauche,6\nBD\n");
-    retourner(d, {1, 3}, Axe::horizontal, table);
+    retourner(d, {1, 3}, Retournement::horizontal, table);
     EXPECT_EQ(d.ecrire(), "Init,1,2,3\nGauche,5\nGauche,6\nBG\n");
     decaler_depart(d, -11, 7, 90);
     EXPECT_EQ(d.ecrire(), "Init,-10,9,93\nGauche,5\nGauche,6\nBG\n");
@@ -177,32 +184,32 @@ std::vector<PoseJouee> jouer(const std::string& fichier, PointBalise droite, Poi
     return poses;
 }
 
-PointBalise balise_retournee(PointBalise b, Axe axe) {
-    const bool x = axe != Axe::horizontal;
-    const bool y = axe != Axe::vertical;
+PointBalise balise_retournee(PointBalise b, Retournement axe) {
+    const bool x = axe != Retournement::horizontal;
+    const bool y = axe != Retournement::vertical;
     return {x ? 200 - b.X : b.X, y ? 320 - b.Y : b.Y, b.Val};
 }
 
 // A mirror swaps the beacons' sides too; the half turn does not.
-std::vector<PoseJouee> jouer_retourne(const std::string& fichier, Axe axe, PointBalise droite,
-                                      PointBalise gauche) {
+std::vector<PoseJouee> jouer_retourne(const std::string& fichier, Retournement axe,
+                                      PointBalise droite, PointBalise gauche) {
     PointBalise d = balise_retournee(droite, axe);
     PointBalise g = balise_retournee(gauche, axe);
-    if (axe != Axe::demi_tour)
+    if (axe != Retournement::demi_tour)
         std::swap(d, g);
     return jouer(retourne(fichier, axe), d, g);
 }
 
 void exiger_retournees(const std::vector<PoseJouee>& poses, const std::vector<PoseJouee>& autres,
-                       Axe axe) {
+                       Retournement axe) {
     ASSERT_EQ(autres.size(), poses.size());
     for (std::size_t k = 0; k < poses.size(); ++k) {
         const PoseJouee& p = poses[k];
-        const double cap = axe == Axe::vertical     ? 180 - p.cap
-                           : axe == Axe::horizontal ? -p.cap
-                                                    : p.cap + 180;
-        ASSERT_NEAR(autres[k].x, axe == Axe::horizontal ? p.x : 200 - p.x, 1e-3) << k;
-        ASSERT_NEAR(autres[k].y, axe == Axe::vertical ? p.y : 320 - p.y, 1e-3) << k;
+        const double cap = axe == Retournement::vertical     ? 180 - p.cap
+                           : axe == Retournement::horizontal ? -p.cap
+                                                             : p.cap + 180;
+        ASSERT_NEAR(autres[k].x, axe == Retournement::horizontal ? p.x : 200 - p.x, 1e-3) << k;
+        ASSERT_NEAR(autres[k].y, axe == Retournement::vertical ? p.y : 320 - p.y, 1e-3) << k;
         ASSERT_NEAR(autres[k].cap, cap, 3e-3) << k;
     }
 }

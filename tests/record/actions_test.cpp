@@ -39,8 +39,8 @@ TEST(Actions, chacune_va_du_fichier_au_bouton_au_code_et_retour) {
             lire_commande(std::string(action.legende) + (action.nb_parametres() > 0 ? " 40" : "") +
                           (action.nb_parametres() > 1 ? " 30" : ""));
         EXPECT_EQ(commande->legende, action.legende);
-        const Fiche autre = retournee(trajet[0], Axe::vertical, {});
+        const Fiche autre = retournee(trajet[0], Retournement::vertical, {});
         EXPECT_EQ(autre != trajet[0], action.miroir != action.nom);
-        EXPECT_EQ(retournee(autre, Axe::vertical, {}), trajet[0]);
+        EXPECT_EQ(retournee(autre, Retournement::vertical, {}), trajet[0]);
     }
 }
