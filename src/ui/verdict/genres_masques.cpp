@@ -1,10 +1,10 @@
 #include "ui/verdict/genres_masques.h"
 
 #include "ui/commun/boites.h"
+#include "ui/commun/cle_de_projet.h"
 
 #include <QSettings>
 #include <QStringList>
-#include <QUrl>
 
 namespace {
 
@@ -31,10 +31,8 @@ std::span<const GenreNomme> genres_nommes() {
     return genres;
 }
 
-// A project is its folder and its name.
 GenresMasques::GenresMasques(const std::filesystem::path& dossier, const std::string& projet)
-    : cle_("constats_masques/" +
-           QUrl::toPercentEncoding(texte_qt((dossier / projet).string())).replace('%', '_')) {
+    : cle_(cle_de_projet("constats_masques", dossier, projet)) {
     const QStringList noms = QSettings().value(cle_).toStringList();
     for (const GenreNomme& g : genres)
         if (noms.contains(texte_qt(nom(g.genre))))
