@@ -1,3 +1,4 @@
+#include "analyse/match.h"
 #include "ui/banc.h"
 
 #include <QAccessible>
@@ -169,6 +170,51 @@ TEST_F(CourseDeSim1, toute_boite_ouverte_retient_l_horloge) {
         EXPECT_LE(e().TempsEcoule - apres, 15) << "what the box lasted is not caught up";
         EXPECT_TRUE(QTest::qWaitFor([&] { return e().TempsEcoule > apres; }));
     }
+}
+
+TEST_F(CourseDeSim1, pause_pas_et_vitesse_ne_changent_que_le_rythme) {
+    demarrer();
+    cocher("Check2", true);
+    auto attendu = std::make_unique<Etat>(e());
+    const MatchCalcule match = calculer_match(*attendu);
+    auto& Timer = *sim->findChild<QTimer*>("Timer");
+    QTest::keyClick(&options(), Qt::Key_P); // at rest there is nothing to hold
+    cliquer("Command1");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return e().TempsEcoule > 0; }));
+
+    QTest::keyClick(&options(), Qt::Key_P);
+    EXPECT_FALSE(Timer.isActive());
+    EXPECT_TRUE(seance().en_marche());
+    EXPECT_EQ(sim->windowTitle(), "Tavolmex – en pause");
+    const int avant = e().TempsEcoule;
+    for (int n = 0; n < 3; ++n)
+        QTest::keyClick(sim.get(), Qt::Key_Period);
+    EXPECT_EQ(e().TempsEcoule, avant + 15);
+    QTest::qWait(120);
+    EXPECT_EQ(e().TempsEcoule, avant + 15);
+
+    for (int n = 0; n < 12; ++n)
+        QTest::keyClick(sim.get(), Qt::Key_Plus);
+    EXPECT_EQ(sim->windowTitle(), "Tavolmex (vitesse max) – en pause");
+    QTest::keyClick(sim.get(), Qt::Key_P);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !seance().en_marche(); }, 20000));
+    EXPECT_EQ(e().TempsEcoule, match.duree);
+    EXPECT_EQ((PoseTick{e().XRobot(1), e().YRobot(1), e().CapRobot(1)}), match.poses(1).back());
+    EXPECT_EQ(e().NbreCarreaux, match.NbreCarreaux.back());
+
+    // What stops a run stops it from the pause too, and the next one is in none.
+    for (const auto& arreter : std::initializer_list<std::function<void()>>{
+             [this] { cliquer("Command1"); },
+             [this] { QTest::keyClick(sim.get(), Qt::Key_Escape); }}) {
+        cliquer("Command1");
+        QTest::keyClick(sim.get(), Qt::Key_P);
+        EXPECT_FALSE(Timer.isActive());
+        arreter();
+        EXPECT_FALSE(seance().en_marche());
+        EXPECT_EQ(trouver<QPushButton>("Command1").text(), "Démarrer");
+    }
+    QTest::keyClick(sim.get(), Qt::Key_Equal);
+    EXPECT_EQ(sim->windowTitle(), "Tavolmex");
 }
 
 TEST_F(CourseDeSim1, ce_que_le_systeme_retarde_est_rattrape_avec_peu_de_peintures) {

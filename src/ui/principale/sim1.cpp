@@ -22,6 +22,7 @@ Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(
       Table(*e, *this, this),
       LNom(&Table),
       logo(&Table),
+      barre_(this),
       options_(this, seance_, bureau()),
       surveillance_(std::make_unique<Surveillance>(seance_)),
       verdict_(std::make_unique<Verdict>(*this, seance_)),
@@ -104,11 +105,8 @@ void Sim1::continuer_enregistrement() {
     console_->continuer_le_dernier();
 }
 
-// The title: the bare caption is the default project's.
 void Sim1::projet_va_etre_lu() {
-    const bool nomme = !e->NomProjet.empty() && e->NomProjet != "Defaut";
-    const QString nom = texte_qt(e->NomProjet).replace("[*]", "[*][*]"); // no mark of changes
-    setWindowTitle(nomme ? nom + " – Tavolmex" : "Tavolmex");
+    titrer();
 }
 
 void Sim1::charger_projet_choisi() {
@@ -138,7 +136,7 @@ void Sim1::montrer_console() {
         console_ = std::make_unique<Télécommande>(this, seance_, bureau(), [this] {
             return options_.nbre_carreaux.text().toStdString();
         });
-        console_->addActions(Table.actions());
+        console_->addActions(actions());
     }
     const QRect cadre_options = options_.frameGeometry();
     if (!console_->isVisible())
@@ -170,18 +168,6 @@ void Sim1::cacher_options_et_console() {
         console_->hide();
 }
 
-void Sim1::Timer_Timer() {
-    const auto maintenant = std::chrono::steady_clock::now();
-    // A box lets the timer run on underneath: the ticks wait until it is closed.
-    if (boite_ouverte() || terminee_)
-        return cadence_.retenir(maintenant);
-    for (int n = 0; n < Cadence::par_evenement && en_marche() && cadence_.echu(maintenant); ++n) {
-        const Cadence::Duree avant = temps_de_calcul();
-        seance_.moteur().Timer_Timer();
-        cadence_.compter(temps_de_calcul() - avant);
-    }
-}
-
 Editeurs& Sim1::editeurs() {
     if (!editeurs_)
         editeurs_ = std::make_unique<Editeurs>(this, seance_, bureau());
@@ -209,6 +195,7 @@ void Sim1::terminer(int code_de_sortie) {
         return;
     terminee_ = true;
     Timer.stop();
+    suspendue_ = false;
     terminer_(code_de_sortie);
 }
 
@@ -221,14 +208,6 @@ void Sim1::closeEvent(QCloseEvent* evenement) {
         Form_Unload();
     // Unsaved drawings may have kept the program from ending.
     evenement->setAccepted(terminee_);
-}
-
-bool Sim1::arreter_course() {
-    if (!en_marche())
-        return false;
-    if (!console_ || !console_->arreter_action())
-        seance_.moteur().Fin_Jeu();
-    return true;
 }
 
 void Sim1::keyPressEvent(QKeyEvent* evenement) {

@@ -4,6 +4,7 @@
 #include "ui/commun/boites.h"
 #include "ui/commun/bureau.h"
 #include "ui/commun/ligne_texte.h"
+#include "ui/principale/barre_match.h"
 #include "ui/principale/cadence.h"
 #include "ui/principale/foption.h"
 #include "ui/principale/logo.h"
@@ -74,7 +75,7 @@ private:
     void appliquer_reglages() override;
     bool apres_panne() override;
     std::filesystem::path choisir_dossier(std::string_view titre) override;
-    bool en_marche() const override { return Timer.isActive(); }
+    bool en_marche() const override { return Timer.isActive() || suspendue_; }
     bool terminee() const override { return terminee_; }
 
     void montrer_options() override { options_.montrer(); }
@@ -101,13 +102,21 @@ private:
     Editeurs& editeurs();
     void proposer_reprise();
     void Timer_Timer();
-    /// A line of the table's context menu and its key, which the options window and the console
-    /// answer too.
+    void suspendre(bool oui);
+    void avancer_d_un_pas();
+    void changer_vitesse(double vitesse);
+    void montrer_rythme();
+    void titrer();
+    /// A command with its key, which the options window and the console answer too.
+    QAction& commande(const char* nom, const QString& texte, const QKeySequence& touche,
+                      std::function<void()> procedure);
+    /// The same as a line of the table's context menu.
     QAction& entree(const char* nom, const QString& texte, const QKeySequence& touche,
                     std::function<void()> procedure);
     void composer_menu();
     void montrer_menu(const QPoint& ou);
     void remplir_robots(QMenu& robots);
+    void remplir_vitesses(QMenu& menu);
     void Form_Unload();
     void terminer(int code_de_sortie);
 
@@ -118,10 +127,15 @@ private:
     Seance seance_;
     QTimer Timer{this};
     Cadence cadence_;
+    bool suspendue_ = false; ///< the run is in pause: the timer is stopped, the run is not
+    QAction* pause_ = nullptr;
+    QAction* pas_ = nullptr;
+    QList<QAction*> commandes_de_vitesse_;
     LigneTexte Mess, Info;
     ::Table Table;
     Banniere LNom;
     Logo logo;
+    BarreMatch barre_;
     QSize taille_dessinee_; ///< XMax, YMax that Init_Table laid the window out for
     QSize taille_Table_;    ///< logical pixels that Init_Table chose: only their ratio counts
     FOption options_;

@@ -1,7 +1,6 @@
 // What the engine and the session ask of the main window.
 #include "ui/console/telecommande.h"
 #include "ui/principale/sim1.h"
-#include "ui/verdict/verdict.h"
 
 void Sim1::message(std::string_view texte, std::string_view explication) {
     show();
@@ -16,17 +15,6 @@ void Sim1::information(std::string_view texte) {
 bool Sim1::question(std::string_view texte, std::string_view explication) {
     show();
     return boites_.question(texte, explication);
-}
-
-void Sim1::regler_Timer(Entier16 ms) {
-    if (ms > 0) {
-        Timer.start(ms);
-        cadence_.demarrer(std::chrono::milliseconds(ms), std::chrono::steady_clock::now());
-    } else {
-        Timer.stop();
-        verdict_->a_l_arret();
-    }
-    placer_verdict();
 }
 
 // The window is laid out again only where a text needs another height than the values.
@@ -86,6 +74,7 @@ void Sim1::Active_Desactive(bool Status) {
 
 void Sim1::montrer_course(bool en_cours) {
     options_.montrer_course(en_cours);
+    barre_.avancer(0);
     if (!en_cours && console_)
         console_->action_finie();
 }

@@ -1,31 +1,51 @@
 // The table's context menu.
+#include "ui/commun/vitesses.h"
 #include "ui/principale/sim1.h"
 #include "ui/verdict/verdict.h"
 
 #include <QAction>
 #include <QMenu>
 
-QAction& Sim1::entree(const char* nom, const QString& texte, const QKeySequence& touche,
-                      std::function<void()> procedure) {
+QAction& Sim1::commande(const char* nom, const QString& texte, const QKeySequence& touche,
+                        std::function<void()> procedure) {
     auto* action = new QAction(texte, this);
     action->setObjectName(nom);
     action->setShortcut(touche);
     connect(action, &QAction::triggered, this, std::move(procedure));
-    Table.addAction(action);
+    addAction(action);
     options_.addAction(action);
     return *action;
 }
 
+QAction& Sim1::entree(const char* nom, const QString& texte, const QKeySequence& touche,
+                      std::function<void()> procedure) {
+    QAction& action = commande(nom, texte, touche, std::move(procedure));
+    Table.addAction(&action);
+    return action;
+}
+
 // One line each, in the menu's order.
 void Sim1::composer_menu() {
+    pause_ = &entree("menu_pause", "Pause", Qt::Key_P, [this] { suspendre(!suspendue_); });
+    pause_->setCheckable(true);
+    pas_ = &entree("menu_pas", "Un pas", Qt::Key_Period, [this] { avancer_d_un_pas(); });
     entree("menu_constats", "Constats du match…\tF7", {}, [this] { verdict_->montrer_liste(); });
     entree("menu_restaurer", "Restaurer une version…", {}, [this] { montrer_restauration(); });
+    commandes_de_vitesse_ = {
+        &commande("menu_plus_vite", "Plus vite", Qt::Key_Plus,
+                  [this] { changer_vitesse(vitesse_voisine(cadence_.vitesse(), 1)); }),
+        &commande("menu_moins_vite", "Moins vite", Qt::Key_Minus,
+                  [this] { changer_vitesse(vitesse_voisine(cadence_.vitesse(), -1)); }),
+        &commande("menu_vitesse_reelle", "Vitesse réelle", Qt::Key_Equal,
+                  [this] { changer_vitesse(1); })};
+    montrer_rythme();
 }
 
 void Sim1::montrer_menu(const QPoint& ou) {
     QMenu menu(&Table);
     menu.setObjectName("menu_table");
     remplir_robots(*menu.addMenu("Nombre de robots"));
+    remplir_vitesses(*menu.addMenu("Vitesse"));
     menu.addSeparator();
     menu.addActions(Table.actions());
     menu.exec(Table.mapToGlobal(ou));
@@ -41,4 +61,16 @@ void Sim1::remplir_robots(QMenu& robots) {
         choix->setChecked(n == e->NbRobot);
         connect(choix, &QAction::triggered, this, [this, n] { options_.choisir_robots(n); });
     }
+}
+
+void Sim1::remplir_vitesses(QMenu& menu) {
+    menu.setObjectName("menu_vitesses");
+    for (const double vitesse : vitesses) {
+        QAction* choix = menu.addAction(legende_vitesse(vitesse));
+        choix->setCheckable(true);
+        choix->setChecked(vitesse == cadence_.vitesse());
+        connect(choix, &QAction::triggered, this, [this, vitesse] { changer_vitesse(vitesse); });
+    }
+    menu.addSeparator();
+    menu.addActions(commandes_de_vitesse_);
 }

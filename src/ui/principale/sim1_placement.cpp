@@ -56,7 +56,7 @@ void Sim1::Init_Table() {
     taille_dessinee_ = {e->XMax, e->YMax};
     taille_Table_ = {pixels(d.largeur_Table), pixels(d.hauteur_Table)};
     resize(pixels(d.largeur_fenetre - m.cadre_horizontal),
-           pixels(d.hauteur_fenetre - m.cadre_vertical));
+           pixels(d.hauteur_fenetre - m.cadre_vertical) + BarreMatch::hauteur);
     placer();
     placer_options();
 }
@@ -68,9 +68,11 @@ void Sim1::placer() {
     Mess.setGeometry(0, 0, width(), h_Mess);
     Info.setGeometry(0, h_Mess, width(), h_Info);
     const int haut = h_Mess + h_Info;
-    const QSize place(width(), std::max(0, height() - haut));
+    const QSize place(width(), std::max(0, height() - haut - BarreMatch::hauteur));
     const QSize taille = taille_Table_.scaled(place, Qt::KeepAspectRatio);
     Table.setGeometry((width() - taille.width()) / 2, haut, taille.width(), taille.height());
+    barre_.setGeometry(Table.x(), Table.geometry().bottom() + 1, Table.width(),
+                       BarreMatch::hauteur);
     placer_logo();
     placer_verdict();
 }
