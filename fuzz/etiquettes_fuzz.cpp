@@ -1,7 +1,9 @@
-// Any bytes as a PICBASIC file: every label listed is found again and shows a body.
+// Any bytes as a PICBASIC file: every label listed is found again and shows a body, in which no
+// more is understood than there are lines.
 
 #include "codegen/etiquettes.h"
 #include "codegen/lexique.h"
+#include "codegen/relecture.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -35,6 +37,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
         const std::string corps = corps_de(programme, texte);
         verifier(majuscules(corps).starts_with("\r\n" + texte));
         verifier(etiquettes[i].ligne <= numero);
+        const CodeRelu relu = relire_fonction(programme, texte.substr(0, texte.size() - 1));
+        for (const MouvementRelu& mouvement : relu.mouvements)
+            verifier(mouvement.ligne <= numero && mouvement.regle != nullptr);
     }
     return 0;
 }

@@ -1,6 +1,8 @@
-// Any bytes as a generation input file: statements or a refusal that names the line.
+// Any bytes as a generation input file: statements or a refusal that names the line, and the moves
+// come back from both.
 
 #include "base/erreurs.h"
+#include "codegen/relecture.h"
 #include "codegen/traduction.h"
 
 #include <cstdint>
@@ -37,5 +39,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     }
     const std::size_t lignes = nombre_de_lignes(sortie);
     verifier(lignes >= mouvements && lignes <= 2 * mouvements);
+    const std::size_t relus = relire_entree(entree, "entree.ini").mouvements.size();
+    const Programme programme("F:\r\n" + sortie + "\tReturn\r\n");
+    verifier(relire_fonction(programme, "f").mouvements.size() == relus && relus <= mouvements);
     return 0;
 }

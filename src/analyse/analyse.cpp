@@ -92,6 +92,7 @@ Analyse analyser(const Etat& etat, const Provenance& provenance, std::vector<Con
     constater_arret(q);
     constater_terrain(q, releve);
     constater_damier(q);
+    constater_code(q);
     constater_pas(q, releve, autre, relever(etat, autre));
     ranger(a.constats);
     return a;

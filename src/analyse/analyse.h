@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analyse/code.h"
 #include "analyse/constat.h"
 #include "analyse/match.h"
 #include "config/projet.h"
@@ -7,10 +8,11 @@
 #include <memory>
 #include <vector>
 
-/// Where the trajectories stand, so that findings can name a place.
+/// Where the trajectories stand, so that findings can name a place, and the code made from them.
 struct Provenance {
     Tableau<std::string, robots_max> fichier;     ///< "Configuration/Defaut Trajet1.ini"
     Tableau<std::vector<int>, robots_max> lignes; ///< per robot, of its actions 1, 2...
+    std::optional<CodeDuRobot> code;
 };
 
 /// One robot's plan, which is what precedes its first "FIN".

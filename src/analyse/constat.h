@@ -22,10 +22,11 @@ enum class Genre : std::uint8_t {
     balise,        ///< a beacon search that a full turn does not end
     prediction,    ///< tile predictions that were abandoned
     pas,           ///< another time step gives another match
+    code,          ///< the generated code ends elsewhere than the screen
     damier,        ///< chequerboard on a turned table
     lecture        ///< a reader complained
 };
-inline constexpr std::size_t nombre_de_genres = 13;
+inline constexpr std::size_t nombre_de_genres = 14;
 /// "contact-robot"
 std::string_view nom(Genre genre);
 
@@ -37,9 +38,10 @@ struct Constat {
     std::optional<int> autre{}; ///< the other robot, or the block in the file's order
     std::optional<std::int32_t> temps{};
     std::optional<std::int32_t> duree{}; ///< of an exit: time outside, all in all
-    std::optional<double> ecart{};       ///< of an exit: farthest distance from the table
-    std::optional<Point> lieu{};         ///< reference point at `temps`
-    std::string fichier{};               ///< "Configuration/Defaut Trajet1.ini"
-    std::optional<int> ligne{};          ///< within that file, from 1
-    std::string texte{};                 ///< what it means for the real robot, and what to do
+    std::optional<double>
+        ecart{}; ///< of an exit: farthest from the table; of code: from the screen's end
+    std::optional<Point> lieu{}; ///< reference point at `temps`
+    std::string fichier{};       ///< "Configuration/Defaut Trajet1.ini"
+    std::optional<int> ligne{};  ///< within that file, from 1
+    std::string texte{};         ///< what it means for the real robot, and what to do
 };

@@ -23,6 +23,7 @@ Provenance provenance_de(const Projet& projet) {
         p.fichier(n) = projet.chemin_trajet(n).lexically_relative(projet.dossier_application());
         p.lignes(n) = projet.lignes_trajet(n);
     }
+    p.code = code_du_projet(projet);
     return p;
 }
 

@@ -50,6 +50,8 @@ void constater_plan(const Enquete& q, const Bilan& bilan);
 void constater_arret(const Enquete& q);
 void constater_terrain(const Enquete& q, const Releve& releve);
 void constater_damier(const Enquete& q);
+/// Compares with the code that was made from a trajectory, where there is one.
+void constater_code(const Enquete& q);
 /// Compares with the same match played at the other time step.
 void constater_pas(const Enquete& q, const Releve& releve, const MatchCalcule& autre,
                    const Releve& autre_releve);

@@ -119,6 +119,8 @@ std::string_view nom(Genre genre) {
         return "prediction";
     case Genre::pas:
         return "pas";
+    case Genre::code:
+        return "code";
     case Genre::damier:
         return "damier";
     case Genre::lecture:

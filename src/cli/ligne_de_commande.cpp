@@ -20,9 +20,10 @@ int executer(int argc, char** argv) {
     app.set_version_flag("--version", "tavolmex-cli " TAVOLMEX_VERSION, "Affiche la version");
     app.require_subcommand(1);
     int code = 0;
-    for (const auto declarer : {declarer_installer, declarer_verifier, declarer_simuler,
-                                declarer_dessiner, declarer_piloter, declarer_preparer,
-                                declarer_miroir, declarer_generer, declarer_etiquettes})
+    for (const auto declarer :
+         {declarer_installer, declarer_verifier, declarer_simuler, declarer_dessiner,
+          declarer_piloter, declarer_preparer, declarer_miroir, declarer_generer, declarer_rejouer,
+          declarer_etiquettes})
         declarer(app, code);
     parler_francais(app);
     try {

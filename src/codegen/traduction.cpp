@@ -66,6 +66,15 @@ void traduire(const Mouvement& mouvement, std::string_view fin, std::string& sor
         (sortie += "\tGosub ").append(r.sous_programme).append(fin);
 }
 
+std::span<const RegleTraduction> regles_de_traduction() {
+    return regles;
+}
+
+bool est_une_ligne_d_entete(std::string_view ligne) {
+    const std::string_view contenu = rogner(ligne);
+    return contenu.empty() || contenu.front() == '#';
+}
+
 LignesMuettes compter_les_muettes(std::string_view octets) {
     const std::string texte = en_utf8(std::string(octets));
     Lignes lignes(texte);
@@ -75,8 +84,7 @@ LignesMuettes compter_les_muettes(std::string_view octets) {
         if (regle_de(*ligne) != nullptr)
             continue;
         ++muettes.toutes;
-        const std::string_view contenu = rogner(*ligne);
-        if (contenu.empty() || contenu.front() == '#')
+        if (est_une_ligne_d_entete(*ligne))
             continue;
         if (++muettes.inattendues == 1)
             muettes.premiere = numero;

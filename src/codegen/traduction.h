@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,9 @@ struct RegleTraduction {
     std::string_view affectation; ///< stands before the value; empty: no value
     std::string_view sous_programme; ///< called after it; empty: none
 };
+
+/// Every kind, in the order in which a line is compared with them.
+std::span<const RegleTraduction> regles_de_traduction();
 
 /// One line of the generation input file.
 struct Mouvement {
@@ -41,6 +45,9 @@ private:
 
 /// Appends the move's one or two statements, each behind a TAB.
 void traduire(const Mouvement& mouvement, std::string_view fin, std::string& sortie);
+
+/// A line that an ordinary header may have, empty or "#...": nobody takes it for a move.
+bool est_une_ligne_d_entete(std::string_view ligne);
 
 /// The lines of an input file, its first left out, that no rule translates.
 struct LignesMuettes {

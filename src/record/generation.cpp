@@ -3,33 +3,24 @@
 #include "config/ecriture.h"
 #include "sim/actions.h"
 
-#include <cmath>
-
 namespace {
-
-// A curve of radius R and angle A becomes a straight run R sin A, a quarter turn to its side and a
-// straight run (1 - cos A) R. Deliberate: A, recorded in degrees, is taken as radians.
-void ajouter_virage(Ecrivain& fichier, std::string_view sens, std::string_view cote, int rayon,
-                    int angle) {
-    const double a = rayon * std::sin(double(angle));
-    const double b = (1 - std::cos(double(angle))) * rayon;
-    fichier.ligne(sens, texte_double15(a));
-    fichier.ligne(cote, "90");
-    fichier.ligne(sens, texte_double15(b));
-}
 
 void ajouter_entree(Ecrivain& fichier, int code, int p1, int p2) {
     const actions::Action* const action = actions::trouver_code(code);
-    if (code == actions::code_carreaux)
+    if (code == actions::code_carreaux) {
         fichier.ligne(actions::mots::carreaux, texte_entier(p1));
-    else if (action == nullptr)
+        return;
+    }
+    if (action == nullptr) {
         fichier.ligne("'*** PB remplissage fichier");
-    else if (action->genre == actions::Genre::arc)
-        ajouter_virage(fichier, action->genere, action->quart, p1, p2);
-    else if (action->nb_parametres() == 0)
-        fichier.ligne(action->genere);
-    else
-        fichier.ligne(action->genere, texte_entier(p1));
+        return;
+    }
+    for (const actions::LigneGeneree& ligne : actions::lignes_generees(*action, p1, p2)) {
+        if (ligne.mot.ends_with(':'))
+            fichier.ligne(ligne.mot, texte_double15(ligne.valeur));
+        else
+            fichier.ligne(ligne.mot);
+    }
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "sim/actions.h"
 
+#include <cmath>
+
 namespace actions {
 
 namespace {
@@ -36,6 +38,14 @@ const Action* trouver_legende(std::string_view nom) {
 
 const Action* trouver_code(int code) {
     return chercher([&](const Action& a) { return a.code == code; });
+}
+
+std::vector<LigneGeneree> lignes_generees(const Action& action, int p1, int p2) {
+    if (action.genre != Genre::arc)
+        return {{action.genere, double(p1)}};
+    return {{action.genere, p1 * std::sin(double(p2))},
+            {action.quart, 90},
+            {action.genere, (1 - std::cos(double(p2))) * p1}};
 }
 
 } // namespace actions

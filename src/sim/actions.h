@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <vector>
 
 // The elementary actions: all that is said about them stands in `actions::table`. How they move the
 // robot is in cinematique.cpp and balise.cpp.
@@ -126,6 +127,17 @@ const Action* trouver_bouton(const Nom10& nom);
 const Action* trouver_legende(std::string_view nom);
 /// The action of a row of the generation table; null when there is none.
 const Action* trouver_code(int code);
+
+/// A line of the generation input file; the value belongs to the words that end in a colon.
+struct LigneGeneree {
+    std::string_view mot;
+    double valeur = 0;
+};
+/// What the generation input says of an action of the console. An arc of radius R and angle A
+/// becomes a straight run R sin A, a quarter turn to its side and a straight run (1 - cos A) R.
+/// Deliberate: A, recorded in degrees, is taken as radians.
+/// @param p1, p2  as the generation table has them: an arc's radius first
+std::vector<LigneGeneree> lignes_generees(const Action& action, int p1, int p2);
 
 /// The generation table, and so the robot's program, keeps each value in one byte.
 constexpr bool tient_dans_un_octet(int valeur) {

@@ -20,6 +20,7 @@ constexpr GenreNomme genres[] = {
     {Genre::balise, "Recherches de balise sans fin"},
     {Genre::prediction, "Comptes de carreaux sans résultat"},
     {Genre::pas, "Différences entre les deux pas de temps"},
+    {Genre::code, "Code qui finit ailleurs que l'écran"},
     {Genre::damier, "Damier sur une table tournée"},
     {Genre::lecture, "Fichiers mal lus"},
 };
