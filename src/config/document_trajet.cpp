@@ -1,5 +1,7 @@
 #include "config/document_trajet.h"
 
+#include "config/ecriture.h"
+#include "config/fige.h"
 #include "config/lecteur_trajet.h"
 #include "config/ligne.h"
 #include "config/ligne_trajet.h"
@@ -66,6 +68,28 @@ FicheLue fiche_trajet(std::string_view ligne) {
 DocumentTrajet DocumentTrajet::depuis(std::string_view octets) {
     DocumentTrajet d;
     d.lire(octets, fiche_trajet, compte_dans_un_trajet);
+    return d;
+}
+
+DocumentTrajet DocumentTrajet::nouveau() {
+    Ecrivain texte;
+    texte.entete("trajet.ini ")
+        .ligne("#")
+        .description("Fichier de description du déplacement du robot", "Readme.txt")
+        .ligne("Init,100,30,0")
+        .ligne("FIN");
+    return depuis(texte.texte());
+}
+
+DocumentTrajet DocumentTrajet::depuis_fige(std::string_view fige) {
+    DocumentTrajet d;
+    d.relever(fige, [](const Fiche& f) {
+        Fiche verifiee = f;
+        verifier_fiche(verifiee);
+        return verifiee == f;
+    });
+    if (std::ranges::any_of(d.entrees_, [](const Entree& e) { return e.objet && !e.lu; }))
+        LectureFigee::refuser();
     return d;
 }
 

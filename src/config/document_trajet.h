@@ -14,8 +14,12 @@ FicheLue fiche_trajet(std::string_view ligne);
 /// short ("BD", "BG") are records here, although the simulator's reader refuses them.
 class DocumentTrajet : public Document {
 public:
+    /// A start pose and "FIN".
+    static DocumentTrajet nouveau();
     /// Reads any bytes: what is no proper line is kept as it is.
     static DocumentTrajet depuis(std::string_view octets);
+    /// What figer() gave. @throws ErreurExecution for other bytes
+    static DocumentTrajet depuis_fige(std::string_view fige);
     /// Numbers that a record of that key holds, 0 for an unknown one.
     static std::size_t champs(std::string_view cle);
 

@@ -46,13 +46,24 @@ std::string phrase_de_refus(std::string_view nom, const std::string& raison) {
     return sujet + " ne peut pas être celui d'un projet : " + raison;
 }
 
+constexpr std::string_view fin_de(GenreFichier genre) {
+    switch (genre) {
+    case GenreFichier::table:
+        return " Table";
+    case GenreFichier::robot:
+        return " Robot";
+    default:
+        return " Trajet";
+    }
+}
+
 /// Bytes of " Table" or " Robot3" at the end of a name, 0 without.
 std::size_t fin_reconnue(std::string_view nom, GenreFichier genre) {
     const std::string grand = majuscules(nom);
-    const std::string_view fin = genre == GenreFichier::table ? " TABLE" : " ROBOT";
+    const std::string fin = majuscules(fin_de(genre));
     std::string_view vue = grand;
     std::size_t chiffre = 0;
-    if (genre == GenreFichier::robot) {
+    if (genre != GenreFichier::table) {
         if (vue.empty() || vue.back() < '1' || vue.back() > '9')
             return 0;
         vue.remove_suffix(1);
@@ -63,8 +74,9 @@ std::size_t fin_reconnue(std::string_view nom, GenreFichier genre) {
 
 // What stands before such an end, the whole name without one.
 std::string_view sans_fin(std::string_view nom) {
-    return nom.substr(0, nom.size() - std::max(fin_reconnue(nom, GenreFichier::table),
-                                               fin_reconnue(nom, GenreFichier::robot)));
+    return nom.substr(0, nom.size() - std::max({fin_reconnue(nom, GenreFichier::table),
+                                                fin_reconnue(nom, GenreFichier::robot),
+                                                fin_reconnue(nom, GenreFichier::trajet)}));
 }
 
 } // namespace
@@ -141,7 +153,7 @@ std::string proposer_nom(std::string_view nom, GenreFichier genre) {
     std::string_view vue = rogner(propre);
     if (majuscules(vue).ends_with(".INI"))
         vue = rogner(vue.substr(0, vue.size() - 4));
-    std::string fin = genre == GenreFichier::table ? " Table" : " Robot1";
+    std::string fin = std::string(fin_de(genre)) + (genre == GenreFichier::table ? "" : "1");
     if (const std::size_t n = fin_reconnue(vue, genre); n != 0) {
         fin = vue.substr(vue.size() - n);
         vue = rogner(vue.substr(0, vue.size() - n));

@@ -24,7 +24,7 @@ std::filesystem::path fichier_de_projet(const std::filesystem::path& configurati
                                         std::string_view projet, std::string_view suffixe);
 
 /// What a file of Configuration describes: its name is the project's, a blank, and one of these.
-enum class GenreFichier { table, robot };
+enum class GenreFichier { table, robot, trajet };
 
 /// Why an editor cannot save as `nom` + ".ini": no project can bear the name, or the team's other
 /// systems could not read the file; "" when it can.
@@ -34,7 +34,7 @@ std::string raison_nom_impossible(std::string_view nom);
 std::filesystem::path fichier_d_editeur(const std::filesystem::path& configuration,
                                         std::string_view nom);
 /// The project whose file `nom` + ".ini" is, "" when it belongs to none: "Essai Table" is a table
-/// of "Essai", "Essai Robot2" a robot.
+/// of "Essai", "Essai Robot2" a robot, "Essai Trajet1" a trajectory.
 std::string projet_du_nom(std::string_view nom, GenreFichier genre);
 /// The nearest name that is possible and belongs to a project.
 std::string proposer_nom(std::string_view nom, GenreFichier genre);

@@ -44,7 +44,9 @@ bool RepriseDessin::en_attente(const fs::path& configuration) {
 }
 
 fs::path RepriseDessin::chemin(int rang, const char* fin) const {
-    const std::string genre = genre_ == GenreFichier::table ? "table" : "robot";
+    const std::string genre = genre_ == GenreFichier::table   ? "table"
+                              : genre_ == GenreFichier::robot ? "robot"
+                                                              : "trajet";
     return configuration_ / ("Dessin " + genre + " " + std::to_string(rang) + fin);
 }
 

@@ -33,9 +33,10 @@ public:
 
     /// What tells one editor's window from another's.
     struct Description {
-        GenreFichier genre; ///< of its file
-        QString titre;      ///< behind the file's name
-        QString filtre;     ///< of the file dialog
+        GenreFichier genre;           ///< of its file
+        QString titre;                ///< behind the file's name
+        QString filtre;               ///< of the file dialog
+        std::string sujet = "dessin"; ///< what messages call it: "le dessin"
     };
 
     FenetreEditeur(QWidget* parent, Foutil& outils, Programme programme, Description description);
@@ -76,6 +77,7 @@ protected:
     virtual QString en_suspens() const { return {}; }
 
     virtual void fichier_change() {} ///< another file, or under another name
+    virtual void apres_ecriture() {} ///< the file was written at the user's wish
 
     virtual void retirer() = 0; ///< what is chosen, and likewise:
     virtual void dupliquer() = 0;
@@ -90,8 +92,12 @@ protected:
     QMenu& menu_edition() { return *menu_edition_; }
     void montrer_titre();
     /// Takes what is being typed. @returns false when it is no number, which is told
-    bool prendre_la_saisie();
+    virtual bool prendre_la_saisie();
+    void proposer_de_charger();
     const std::filesystem::path& chemin() const { return chemin_; }
+    /// The file's bytes as they were read or written last.
+    const std::string& sur_le_disque() const { return sur_le_disque_; }
+    const Programme& programme() const { return programme_; }
     void closeEvent(QCloseEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
 
@@ -119,15 +125,14 @@ private:
     void verifier_disque();
     bool peut_remplacer(const std::filesystem::path& chemin);
     void ecrire(const std::filesystem::path& chemin, const std::string& octets);
-    void proposer_de_charger();
 
     Programme programme_;
     Description description_;
     std::optional<Contenu> contenu_;
     QMenu* menu_edition_ = nullptr;
     std::filesystem::path chemin_; ///< empty: never saved
-    std::string sur_le_disque_;    ///< the file's bytes as they were read or written last
-    std::string refuses_;          ///< another program's bytes that the user did not want
+    std::string sur_le_disque_;
+    std::string refuses_; ///< another program's bytes that the user did not want
     bool remplacement_accepte_ = false;
     RepriseDessin reprise_;
     QTimer attente_reprise_{this}; ///< gathers the changes of half a second

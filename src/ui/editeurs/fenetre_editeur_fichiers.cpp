@@ -83,13 +83,15 @@ void FenetreEditeur::verifier_disque() {
         if (!pile().isClean() &&
             !boites_.question("Le fichier " + nom +
                               " a été modifié par un autre programme. Doit-on le relire et perdre "
-                              "les changements du dessin ?")) {
+                              "les changements du " +
+                              description_.sujet + " ?")) {
             refuses_ = std::move(lus);
             return;
         }
         ouvert().lire(lus);
         sur_le_disque_ = std::move(lus);
         montrer_titre();
+        fichier_change();
         statusBar()->showMessage("Relu après un changement : " + texte_qt(nom), 10000);
     } catch (const ErreurExecution& erreur) {
         boites_.message(erreur.what());
@@ -124,9 +126,10 @@ bool FenetreEditeur::genererFic(const std::filesystem::path& chemin) {
             return false;
         ecrire(chemin, texte);
     } catch (const std::exception& erreur) { // the drawing stays, whatever the disk says
-        boites_.message(std::string("Le dessin n'a pas été enregistré : ") + erreur.what());
+        boites_.message("Le " + description_.sujet + " n'a pas été enregistré : " + erreur.what());
         return false;
     }
+    apres_ecriture();
     proposer_de_charger();
     return true;
 }
@@ -187,9 +190,9 @@ FenetreEditeur::Depart FenetreEditeur::demander_depart() {
         return Depart::annuler;
     if (pile().isClean() && en_suspens().isEmpty())
         return Depart::rien_a_perdre;
-    switch (
-        boites_.demander_sauvegarde("Le dessin a été modifié. Doit-on l'enregistrer ?",
-                                    chemin_.empty() ? "Sans nom" : chemin_.filename().string())) {
+    switch (boites_.demander_sauvegarde(
+        "Le " + description_.sujet + " a été modifié. Doit-on l'enregistrer ?",
+        chemin_.empty() ? "Sans nom" : chemin_.filename().string())) {
     case Sauvegarde::enregistrer:
         return Depart::enregistrer;
     case Sauvegarde::ne_pas_enregistrer:
@@ -222,8 +225,8 @@ void FenetreEditeur::ecrire_reprise() {
             reprise_.ecrire({chemin_, sur_le_disque_, ouvert().figer()});
     } catch (const ErreurExecution& erreur) { // no box: the user is drawing
         statusBar()->showMessage(
-            QString("Le dessin n'est pas gardé pour le prochain démarrage : ") +
-            texte_qt(erreur.what()));
+            texte_qt("Le " + description_.sujet +
+                     " n'est pas gardé pour le prochain démarrage : " + erreur.what()));
     }
 }
 
@@ -244,8 +247,9 @@ bool FenetreEditeur::proposer_reprise(Fenetres& f) {
             const DessinGarde garde = reprise_.lire();
             const QDateTime date = QFileInfo(*fichier).lastModified();
             const QString question =
-                QString("Un dessin n'a pas été enregistré :\n%1, le %2\nFaut-il le reprendre ?")
-                    .arg(garde.fichier.empty() ? "sans nom" : nom_court(garde.fichier),
+                QString("Un %1 n'a pas été enregistré :\n%2, le %3\nFaut-il le reprendre ?")
+                    .arg(texte_qt(description_.sujet),
+                         garde.fichier.empty() ? "sans nom" : nom_court(garde.fichier),
                          QLocale(QLocale::French).toString(date, "dd/MM/yyyy à HH:mm"));
             if (f.question(
                     question.toStdString(),
@@ -256,7 +260,7 @@ bool FenetreEditeur::proposer_reprise(Fenetres& f) {
             reprise_.ranger();
         } catch (const ErreurExecution& erreur) {
             reprise_.mettre_de_cote();
-            f.message("Un dessin ne peut pas être repris : " + std::string(erreur.what()),
+            f.message("Un " + description_.sujet + " ne peut pas être repris : " + erreur.what(),
                       fichier->string() + ".illisible");
         }
     }

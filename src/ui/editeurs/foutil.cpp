@@ -273,6 +273,8 @@ void Foutil::connecter() {
 }
 
 void Foutil::suivre(GenreFichier genre) {
+    if (genre == GenreFichier::trajet) // no tool draws it
+        return;
     suit_ = true;
     (genre == GenreFichier::robot ? chx_dessinRobot : chx_dessinTable).setChecked(true);
     suit_ = false;

@@ -62,6 +62,10 @@ void nouveauProjet::nomProjet_Change() {
         texte = "« " + nom +
                 ".ini » ne sera la table d'aucun projet : « Charger » ne propose que "
                 "les noms qui finissent par « Table » après un blanc.";
+    else if (genre_ == GenreFichier::trajet)
+        texte = "« " + nom +
+                ".ini » ne sera le trajet d'aucun robot : le nom doit finir par un "
+                "blanc, « Trajet » et le numéro du robot, de 1 à 9.";
     else
         texte = "« " + nom +
                 ".ini » ne sera le robot d'aucun projet : le nom doit finir par un "

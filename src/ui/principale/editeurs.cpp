@@ -37,7 +37,8 @@ Editeurs::Editeurs(QWidget* principale, Seance& seance, Bureau& bureau)
       seance_(seance),
       outils_(*new Foutil(principale)),
       table_(*new dessinTable(principale, outils_, programme(seance, bureau))),
-      robot_(*new dessinRobot(principale, outils_, programme(seance, bureau))) {
+      robot_(*new dessinRobot(principale, outils_, programme(seance, bureau))),
+      trajet_(*new dessinTrajet(principale, outils_, programme(seance, bureau), seance)) {
     outils_.au_choix_d_outil = [this] { table_.outil_change(); };
     outils_.au_choix_du_dessin = [this] { montrer_dessin(); };
     outils_.a_l_annulation = [this](const char* commande) {
@@ -81,21 +82,44 @@ void Editeurs::placer() {
     retenir_place(outils_);
 }
 
+void Editeurs::montrer_trajet(int robot) {
+    montrer_trajet();
+    trajet_.montrer_robot(robot);
+}
+
+void Editeurs::montrer_trajet() {
+    if (!std::exchange(trajet_place_, true)) {
+        const QRect ecran = principale_.screen()->availableGeometry();
+        trajet_.resize(trajet_.size().boundedTo(ecran.size() - QSize(40, 60)));
+        trajet_.move(ecran.right() - trajet_.width() - 20, ecran.top() + 8);
+        retenir_place(trajet_);
+    }
+    trajet_.show();
+    trajet_.raise();
+    trajet_.activateWindow();
+}
+
 bool Editeurs::peut_partir() {
-    const auto table = table_.demander_depart();
-    if (table == FenetreEditeur::Depart::annuler)
-        return false;
-    const auto robot = robot_.demander_depart();
-    return robot != FenetreEditeur::Depart::annuler && table_.preparer_depart(table) &&
-           robot_.preparer_depart(robot);
+    std::array<FenetreEditeur::Depart, 3> reponses{};
+    for (std::size_t i = 0; i < reponses.size(); ++i) {
+        reponses.at(i) = dessins().at(i)->demander_depart();
+        if (reponses.at(i) == FenetreEditeur::Depart::annuler)
+            return false;
+    }
+    for (std::size_t i = 0; i < reponses.size(); ++i)
+        if (!dessins().at(i)->preparer_depart(reponses.at(i)))
+            return false;
+    return true;
 }
 
 void Editeurs::partir() {
-    table_.partir();
-    robot_.partir();
+    for (FenetreEditeur* dessin : dessins())
+        dessin->partir();
 }
 
 void Editeurs::proposer_reprises() {
+    if (trajet_.proposer_reprise(seance_.fenetres()))
+        montrer_trajet();
     for (const bool robot : {false, true}) {
         FenetreEditeur& dessin = robot ? static_cast<FenetreEditeur&>(robot_) : table_;
         if (!dessin.proposer_reprise(seance_.fenetres()))
@@ -106,6 +130,6 @@ void Editeurs::proposer_reprises() {
 }
 
 void Editeurs::ecrire_reprises() {
-    table_.ecrire_reprise();
-    robot_.ecrire_reprise();
+    for (FenetreEditeur* dessin : dessins())
+        dessin->ecrire_reprise();
 }

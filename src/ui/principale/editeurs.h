@@ -2,7 +2,10 @@
 
 #include "ui/editeurs/dessin_robot.h"
 #include "ui/editeurs/dessin_table.h"
+#include "ui/editeurs/dessin_trajet.h"
 #include "ui/editeurs/foutil.h"
+
+#include <array>
 
 class Bureau;
 class Seance;
@@ -14,6 +17,8 @@ public:
 
     /// "Créer un projet...": the palette and the editor of what it draws.
     void montrer();
+    /// "Modifier le trajet…": the present project's trajectory of a robot, 1..9.
+    void montrer_trajet(int robot);
     /// Asks about all unsaved changes, then saves what is to be saved; discards nothing yet.
     /// @returns false when the user does not want to leave
     bool peut_partir();
@@ -26,7 +31,9 @@ public:
 
 private:
     void montrer_dessin();
+    void montrer_trajet();
     void placer();
+    std::array<FenetreEditeur*, 3> dessins() const { return {&table_, &robot_, &trajet_}; }
 
     QWidget& principale_;
     Seance& seance_;
@@ -34,5 +41,7 @@ private:
     Foutil& outils_;
     dessinTable& table_;
     dessinRobot& robot_;
+    dessinTrajet& trajet_;
     bool places_ = false; ///< the windows have got their first place
+    bool trajet_place_ = false;
 };

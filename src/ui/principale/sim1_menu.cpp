@@ -1,5 +1,7 @@
 // The table's context menu.
+#include "config/projet.h"
 #include "ui/commun/vitesses.h"
+#include "ui/principale/editeurs.h"
 #include "ui/principale/sim1.h"
 #include "ui/verdict/verdict.h"
 
@@ -30,6 +32,10 @@ void Sim1::composer_menu() {
     pause_->setCheckable(true);
     pas_ = &entree("menu_pas", "Un pas", Qt::Key_Period, [this] { avancer_d_un_pas(); });
     entree("menu_constats", "Constats du match…\tF7", {}, [this] { verdict_->montrer_liste(); });
+    entree("menu_trajet", "Modifier le trajet…", QKeySequence("Ctrl+T"), [this] {
+        const int conduit = e->RobotTele;
+        editeurs().montrer_trajet(conduit >= 1 && conduit <= robots_des_fichiers ? conduit : 1);
+    });
     entree("menu_restaurer", "Restaurer une version…", {}, [this] { montrer_restauration(); });
     commandes_de_vitesse_ = {
         &commande("menu_plus_vite", "Plus vite", Qt::Key_Plus,
