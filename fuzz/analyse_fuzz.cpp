@@ -1,13 +1,12 @@
 #include "analyse/verdict.h"
-#include "base/texte.h"
 #include "config/lecteur_robot.h"
 #include "config/lecteur_table.h"
 #include "config/lecteur_trajet.h"
+#include "outils.h"
 #include "sim/damier.h"
 #include "sim/orientation.h"
 #include "sim/secours.h"
 
-#include <cstdlib>
 #include <memory>
 
 namespace {
@@ -21,15 +20,6 @@ std::string_view fichier_suivant(std::string_view& reste) {
     return fichier;
 }
 
-template <typename Lire>
-void lire(Lire lecture) {
-    try {
-        lecture();
-    } catch (const ErreurExecution&) { // NOLINT(bugprone-empty-catch)
-        // What was read before the error is played all the same.
-    }
-}
-
 void lire_projet(std::string_view reste, Etat& e) {
     constexpr int robots = 3;
     const std::string_view reglages = fichier_suivant(reste);
@@ -39,7 +29,7 @@ void lire_projet(std::string_view reste, Etat& e) {
     e.utiliDamier = coche('d');
     initDamier(e);
     Entier16 ligne;
-    lire([&] {
+    tenter([&] {
         lire_table(
             fichier_suivant(reste), e, [](std::string_view) {}, ligne);
     });
@@ -48,25 +38,23 @@ void lire_projet(std::string_view reste, Etat& e) {
     Init_Robot_Old(e);
     LecteurRobot lecteur_robot(e);
     for (int i = 1; i <= robots; ++i)
-        lire([&] { lecteur_robot.lire(fichier_suivant(reste), i, ligne); });
+        tenter([&] { lecteur_robot.lire(fichier_suivant(reste), i, ligne); });
     LecteurTrajet lecteur_trajet(e);
     for (int i = 1; i <= robots; ++i)
-        lire([&] { lecteur_trajet.lire(fichier_suivant(reste), i, ligne); });
+        tenter([&] { lecteur_trajet.lire(fichier_suivant(reste), i, ligne); });
     if (coche('h'))
-        lire([&] { horizontal(e); });
+        tenter([&] { horizontal(e); });
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
     const auto e = std::make_unique<Etat>();
-    lire_projet(en_utf8(std::string(octets, octets + taille)), *e);
+    lire_projet(texte_lu(octets, taille), *e);
     const Analyse a = analyser(*e, {});
-    if (en_json(a).empty() || verdict(a).empty())
-        std::abort();
-    for (const Constat& c : a.constats) {
-        if (c.texte.empty() || (c.temps && (*c.temps < 0 || *c.temps > dernier_tick(e->PasTemps))))
-            std::abort();
-    }
+    exiger(!en_json(a).empty() && !verdict(a).empty());
+    for (const Constat& c : a.constats)
+        exiger(!c.texte.empty() &&
+               (!c.temps || (*c.temps >= 0 && *c.temps <= dernier_tick(e->PasTemps))));
     return 0;
 }

@@ -1,17 +1,15 @@
 // Any bytes as the commands of "piloter": each line is a command, nothing or a refusal; what is
 // driven is recorded, and the recording reads back.
 
-#include "base/texte.h"
 #include "cli/commande.h"
 #include "cli/fenetres_terminal.h"
 #include "config/lecteur_trajet.h"
+#include "outils.h"
 #include "record/console.h"
 #include "record/trajet.h"
 #include "sim/damier.h"
 #include "sim/secours.h"
 
-#include <cstdint>
-#include <cstdlib>
 #include <memory>
 #include <sstream>
 
@@ -51,13 +49,10 @@ Etat etat_de_depart() {
 // @returns false when the program would have ended
 bool conduire(Console& console, Moteur& moteur, const FenetresEssai& f, std::string_view ligne,
               int& ticks) {
-    try {
-        const auto commande = lire_commande(ligne);
-        if (commande)
+    tenter([&] {
+        if (const auto commande = lire_commande(ligne))
             console.Command4_Click(commande->legende, commande->Text1, commande->Text4);
-    } catch (const ErreurExecution&) { // NOLINT(bugprone-empty-catch)
-        // Refused; the next line is read.
-    }
+    });
     while (f.en_marche() && ++ticks < ticks_max) {
         if (!moteur.Timer_Timer())
             return false;
@@ -69,8 +64,7 @@ void relire(const Etat& e) {
     const auto relu = std::make_unique<Etat>();
     Entier16 NoLigne;
     LecteurTrajet(*relu).lire(texte_trajet(e, 1, "essai"), 1, NoLigne);
-    if (relu->TrajNbActions(1) > e.TrajNbActions(1) + 1)
-        std::abort();
+    exiger(relu->TrajNbActions(1) <= e.TrajNbActions(1) + 1);
 }
 
 } // namespace

@@ -1,8 +1,6 @@
 #include "config/document_robot.h"
 #include "config/document_table.h"
-
-#include <cstdint>
-#include <cstdlib>
+#include "outils.h"
 
 namespace {
 
@@ -11,19 +9,15 @@ template <typename Doc>
 void essayer(std::string_view octets) {
     Doc d = Doc::depuis(octets);
     const std::vector<int> incomprises = d.incomprises();
-    try {
-        if (d.ecrire() != octets)
-            std::abort();
+    tenter([&] { // a file that the simulator's reader would refuse is not written
+        exiger(d.ecrire() == octets);
         if (d.nombre() == 0)
             return;
         d.remplacer(0, d[d.nombre() / 2]);
         const std::string ecrit = d.ecrire();
         const Doc relu = Doc::depuis(ecrit);
-        if (relu.nombre() != d.nombre() || relu.incomprises().size() != incomprises.size())
-            std::abort();
-    } catch (const ErreurExecution&) { // NOLINT(bugprone-empty-catch)
-        // A file that the simulator's reader would refuse is not written.
-    }
+        exiger(relu.nombre() == d.nombre() && relu.incomprises().size() == incomprises.size());
+    });
 }
 
 } // namespace

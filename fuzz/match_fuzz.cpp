@@ -3,7 +3,6 @@
 // drawn and played: a fault shows its message and asks for the end of the program, and nothing
 // else gets out.
 
-#include "base/texte.h"
 #include "cli/fenetres_terminal.h"
 #include "config/lecteur_robot.h"
 #include "config/lecteur_table.h"
@@ -12,35 +11,18 @@
 #include "draw/robot.h"
 #include "draw/surface_vide.h"
 #include "draw/table.h"
+#include "outils.h"
 #include "sim/damier.h"
 #include "sim/moteur.h"
 #include "sim/orientation.h"
 #include "sim/secours.h"
 
-#include <cstdint>
-#include <cstdlib>
 #include <memory>
 #include <sstream>
 
 namespace {
 
 constexpr int ticks_max = 300;
-
-void exiger(bool condition) {
-    if (!condition)
-        std::abort();
-}
-
-// @returns false after a refusal
-template <typename Action>
-bool essayer(Action action) {
-    try {
-        action();
-        return true;
-    } catch (const ErreurExecution&) {
-        return false;
-    }
-}
 
 void lire(Etat& e, std::string_view texte) {
     const auto morceau = [&texte] {
@@ -50,7 +32,7 @@ void lire(Etat& e, std::string_view texte) {
         return m;
     };
     Entier16 NoLigne;
-    if (!essayer([&] {
+    if (!tenter([&] {
             lire_table(
                 morceau(), e, [](std::string_view) {}, NoLigne);
         }))
@@ -58,9 +40,9 @@ void lire(Etat& e, std::string_view texte) {
     LecteurRobot robots(e);
     LecteurTrajet trajets(e);
     for (const int n : {1, 2}) {
-        if (!essayer([&] { robots.lire(morceau(), n, NoLigne = 0); }))
+        if (!tenter([&] { robots.lire(morceau(), n, NoLigne = 0); }))
             Init_Robot_Old(e, n);
-        essayer([&] { trajets.lire(morceau(), n, NoLigne = 0); });
+        tenter([&] { trajets.lire(morceau(), n, NoLigne = 0); });
         e.XRobot(n) = e.XInit(n);
         e.YRobot(n) = e.YInit(n);
         e.CapRobot(n) = e.CapInit(n);
@@ -80,7 +62,7 @@ void jouer(Etat& e) {
     exiger(f.terminee() == (messages.str().find("Erreur majeure") != std::string::npos));
     // What the unseen drawing skips must be what could be drawn.
     SurfaceVide vide;
-    exiger(f.terminee() || essayer([&] {
+    exiger(f.terminee() || tenter([&] {
                peindre_table(e, vide);
                peindre_robots(e, vide);
            }));
@@ -103,7 +85,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     e->NbRobot = (octets[0] & 1U) != 0 ? 2 : 1;
     e->PasTemps = (octets[0] & 2U) != 0 ? 5 : 1;
     lire(*e, {reinterpret_cast<const char*>(octets) + 1, taille - 1});
-    const bool prete = essayer([&] {
+    const bool prete = tenter([&] {
         Init_Table(*e, {.largeur_ecran = 19200, .hauteur_ecran = 10800});
         if ((octets[0] & 4U) != 0)
             horizontal(*e);

@@ -1,23 +1,19 @@
+#include "outils.h"
 #include "record/enregistrement.h"
 
-#include <cstdlib>
 #include <memory>
 
 // The recovery file's reader takes any bytes; what it takes can be put back and written again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
-    try {
+    tenter([&] {
         int ligne = 0;
-        const Enregistrement lu =
-            lire_enregistrement(en_utf8(std::string(octets, octets + taille)), ligne);
+        const Enregistrement lu = lire_enregistrement(texte_lu(octets, taille), ligne);
         const auto etat = std::make_unique<Etat>();
         etat->XMax = 200;
         etat->YMax = 320;
         restaurer_enregistrement(*etat, lu);
         const std::string ecrit = texte_enregistrement(lu);
-        if (texte_enregistrement(lire_enregistrement(ecrit, ligne)) != ecrit)
-            std::abort();
-    } catch (const ErreurExecution&) {
-        // refused with a reason
-    }
+        exiger(texte_enregistrement(lire_enregistrement(ecrit, ligne)) == ecrit);
+    });
     return 0;
 }

@@ -2,22 +2,15 @@
 // Its lines keep their bytes, the new subroutine ends the target, and generating again with Oui
 // changes nothing.
 
-#include "base/erreurs.h"
 #include "codegen/apercu.h"
 #include "codegen/composition.h"
+#include "outils.h"
 
-#include <cstdint>
-#include <cstdlib>
 #include <vector>
 
 namespace {
 
 constexpr std::string_view entree = "#\nAVANCE:1\nx\n";
-
-void verifier(bool condition) {
-    if (!condition)
-        std::abort();
-}
 
 // Lines with their ends.
 std::vector<std::string_view> decouper(std::string_view octets) {
@@ -73,8 +66,8 @@ void verifier_apercu(const Demande& demande, const Programme& depart, bool repon
     std::size_t avant = 0;
     std::size_t apres = 0;
     for (const LigneApercu& ligne : preparer_apercu(demande, depart, entree, reponse).lignes) {
-        verifier(ligne.avant == 0 || ligne.avant > avant);
-        verifier(ligne.apres == 0 || ligne.apres > apres);
+        exiger(ligne.avant == 0 || ligne.avant > avant);
+        exiger(ligne.apres == 0 || ligne.apres > apres);
         avant = ligne.avant == 0 ? avant : ligne.avant;
         apres = ligne.apres == 0 ? apres : ligne.apres;
     }
@@ -83,20 +76,20 @@ void verifier_apercu(const Demande& demande, const Programme& depart, bool repon
 void essayer(const Demande& demande, const Programme& depart, bool reponse) {
     const auto repondre = [reponse](std::string_view) { return reponse; };
     const Composition c = composer(demande, depart, entree, repondre);
-    verifier(c.cible.starts_with(c.depart));
-    verifier(c.cible.ends_with(encoder(c.ajout, depart.encodage())));
-    verifier(reponse || !c.retrait.remplacee);
+    exiger(c.cible.starts_with(c.depart));
+    exiger(c.cible.ends_with(encoder(c.ajout, depart.encodage())));
+    exiger(reponse || !c.retrait.remplacee);
     verifier_apercu(demande, depart, reponse);
     if (se_lit_autrement_en_morceaux(depart.octets()))
         return;
     if (c.retrait.remplacee)
-        verifier(lignes_conservees(c.depart, depart.octets()));
+        exiger(lignes_conservees(c.depart, depart.octets()));
     else
-        verifier(lignes_conservees(depart.octets(), c.depart));
+        exiger(lignes_conservees(depart.octets(), c.depart));
     if (!reponse)
         return;
     const Composition encore = composer(demande, Programme(c.cible), entree, repondre);
-    verifier(encore.cible == c.cible);
+    exiger(encore.cible == c.cible);
 }
 
 } // namespace
@@ -112,7 +105,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     try {
         essayer(demande, depart, reponse);
     } catch (const ErreurExecution&) {
-        verifier(demande.menu); // an unreadable constant
+        exiger(demande.menu); // an unreadable constant
     }
     return 0;
 }

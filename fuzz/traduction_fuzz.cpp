@@ -1,26 +1,18 @@
 // Any bytes as a generation input file: statements or a refusal that names the line, and the moves
 // come back from both.
 
-#include "base/erreurs.h"
 #include "codegen/relecture.h"
 #include "codegen/traduction.h"
-
-#include <cstdint>
-#include <cstdlib>
+#include "outils.h"
 
 namespace {
-
-void verifier(bool condition) {
-    if (!condition)
-        std::abort();
-}
 
 std::size_t nombre_de_lignes(std::string_view texte) {
     std::size_t n = 0;
     for (Lignes lignes(texte); const auto ligne = lignes.suivante(); ++n)
-        verifier(ligne->starts_with("\t'*** ") || ligne->starts_with("\tGosub ") ||
-                 ligne->starts_with("\tDelay ") || ligne->starts_with("\tVal_Action=") ||
-                 ligne->starts_with("\tNBRE_CARREAUX ="));
+        exiger(ligne->starts_with("\t'*** ") || ligne->starts_with("\tGosub ") ||
+               ligne->starts_with("\tDelay ") || ligne->starts_with("\tVal_Action=") ||
+               ligne->starts_with("\tNBRE_CARREAUX ="));
     return n;
 }
 
@@ -35,12 +27,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
         for (; const auto mouvement = lecteur.suivant(); ++mouvements)
             traduire(*mouvement, "\r\n", sortie);
     } catch (const ErreurExecution& erreur) {
-        verifier(std::string_view(erreur.what()).starts_with("entree.ini Ligne "));
+        exiger(std::string_view(erreur.what()).starts_with("entree.ini Ligne "));
     }
     const std::size_t lignes = nombre_de_lignes(sortie);
-    verifier(lignes >= mouvements && lignes <= 2 * mouvements);
+    exiger(lignes >= mouvements && lignes <= 2 * mouvements);
     const std::size_t relus = relire_entree(entree, "entree.ini").mouvements.size();
     const Programme programme("F:\r\n" + sortie + "\tReturn\r\n");
-    verifier(relire_fonction(programme, "f").mouvements.size() == relus && relus <= mouvements);
+    exiger(relire_fonction(programme, "f").mouvements.size() == relus && relus <= mouvements);
     return 0;
 }

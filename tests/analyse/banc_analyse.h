@@ -2,6 +2,8 @@
 
 #include "analyse/analyse.h"
 #include "analyse/geometrie.h"
+#include "outils/textes.h"
+#include "outils/trajet_essai.h"
 #include "sim/actions.h"
 #include "sim/damier.h"
 
@@ -17,30 +19,47 @@ struct BancAnalyse {
     Etat& e = *etat;
 
     BancAnalyse() {
-        e.XMax = 200;
-        e.YMax = 320;
+        preparer_essai(e);
         initDamier(e);
-        for (int i = 1; i <= robots_des_fichiers; ++i) {
-            e.VitesseLin(i) = 1;
-            e.VitesseRot(i) = 1;
-            e.Entraxe(i) = 10;
-        }
     }
 
-    void ajouter(int i, Nom10 action, int p1 = 0, int p2 = 0) {
-        const Entier16 n = e.TrajNbActions(i) + 1;
-        e.TrajNbActions(i) = n;
-        e.TrajAction(i, n) = action;
-        e.TrajParam1(i, n) = p1;
-        e.TrajParam2(i, n) = p2;
+    // Each returns itself: a scene is one sentence.
+    BancAnalyse& ajouter(int i, Nom10 action, int p1 = 0, int p2 = 0) {
+        ajouter_action(e, i, action, p1, p2);
+        return *this;
     }
-    void poser(int i, double x, double y, double cap = 0) {
+    BancAnalyse& poser(int i, double x, double y, double cap = 0) {
         e.XInit(i) = simple(x);
         e.YInit(i) = simple(y);
         e.CapInit(i) = simple(cap);
+        return *this;
+    }
+    /// One field of the state.
+    template <typename Champ, typename Valeur>
+    BancAnalyse& regler(Champ champ, Valeur valeur) {
+        e.*champ = valeur;
+        return *this;
+    }
+    BancAnalyse& vitesse(int i, double lineaire, double rotation = 1) {
+        e.VitesseLin(i) = simple(lineaire);
+        e.VitesseRot(i) = simple(rotation);
+        return *this;
+    }
+    /// The right beacon and the middle of robot i's sensor line.
+    BancAnalyse& balise(int i, PointBalise droite, double xm, double ym, double ligne = 0) {
+        e.PointY = droite;
+        e.XmInit(i) = simple(xm);
+        e.YmInit(i) = simple(ym);
+        e.DistExtr(i) = simple(ligne);
+        return *this;
+    }
+    BancAnalyse& bloc(Quatre q) {
+        e.NbBlocs = e.NbBlocs + 1;
+        e.Blocs(e.NbBlocs) = q;
+        return *this;
     }
     /// The outline in the robot's frame: x ahead, y to the left, the reference point at (0, 0).
-    void contour(int i, std::initializer_list<Segment> segments) {
+    BancAnalyse& contour(int i, std::initializer_list<Segment> segments) {
         e.NbPoints(i) = 0;
         for (const Segment& s : segments) {
             for (const Point p : {s.a, s.b}) {
@@ -49,12 +68,13 @@ struct BancAnalyse {
                 e.RobotAngle(i, e.NbPoints(i)) = simple(std::atan2(p.y, p.x));
             }
         }
+        return *this;
     }
-    void carre(int i, double demi) {
-        contour(i, {{{-demi, -demi}, {demi, -demi}},
-                    {{demi, -demi}, {demi, demi}},
-                    {{demi, demi}, {-demi, demi}},
-                    {{-demi, demi}, {-demi, -demi}}});
+    BancAnalyse& carre(int i, double demi) {
+        return contour(i, {{{-demi, -demi}, {demi, -demi}},
+                           {{demi, -demi}, {demi, demi}},
+                           {{demi, demi}, {-demi, demi}},
+                           {{-demi, demi}, {-demi, -demi}}});
     }
     Analyse analyser() const { return ::analyser(e, {}); }
     const Constat* constat(const Analyse& a, Genre genre, int robot = 0) const {

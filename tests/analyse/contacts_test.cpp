@@ -25,146 +25,75 @@ struct Scene {
     }
 };
 
-// Two squares of 20 cm, the first one at (50, 50) unless it is moved.
-void deux_carres(BancAnalyse& b, double x, double y) {
-    b.carre(1, 10);
-    b.carre(2, 10);
-    b.poser(1, 50, 50);
-    b.poser(2, x, y);
+// Two squares of 20 cm, the first one at (50, 50).
+BancAnalyse& deux_carres(BancAnalyse& b, double x, double y) {
+    return b.carre(1, 10).carre(2, 10).poser(1, 50, 50).poser(2, x, y);
+}
+
+// Two bars across the way; the first one moves 150 cm in one tick.
+BancAnalyse& deux_barres(BancAnalyse& b, double y) {
+    b.contour(1, {{{0, -5}, {0, 5}}}).contour(2, {{{0, -5}, {0, 5}}});
+    return b.poser(1, 10, 50).poser(2, 100, y).vitesse(1, 150).ajouter(1, actions::AVANCE, 150);
+}
+
+// An arm of 30 cm sweeps 90 degrees in one tick; the other robot stands at 45 degrees.
+BancAnalyse& bras(BancAnalyse& b, Nom10 tour) {
+    b.contour(1, {{{0, 0}, {30, 0}}}).carre(2, 1).poser(1, 100, 100).poser(2, 114, 114);
+    return b.vitesse(1, 1, 90).ajouter(1, tour, 90);
+}
+
+// A half turn of radius 40 in one tick (its outer wheel: 40 + 10 / 2).
+BancAnalyse& demi_tour(BancAnalyse& b, double x, double y) {
+    b.carre(1, 1).carre(2, 1).poser(1, 100, 100).poser(2, x, y);
+    return b.vitesse(1, 45 * Pi).ajouter(1, actions::VIRAVGA, 180, 40);
 }
 
 constexpr int jamais = -1;
 
 TEST(Rencontre, de_deux_robots_sur_des_figures_faites_a_la_main) {
+    using B = BancAnalyse;
+    using actions::AVANCE;
     struct Cas {
         const char* nom;
-        std::function<void(BancAnalyse&)> monter;
+        std::function<void(B&)> monter;
         int contact;  ///< tick
         double ecart; ///< cm, without a contact
     };
     const Cas cas[] = {
-        {"immobiles a 7 cm", [](BancAnalyse& b) { deux_carres(b, 77, 50); }, jamais, 7},
-        {"poses l'un contre l'autre", [](BancAnalyse& b) { deux_carres(b, 70, 50); }, 1, 0},
+        {"immobiles a 7 cm", [](B& b) { deux_carres(b, 77, 50); }, jamais, 7},
+        {"poses l'un contre l'autre", [](B& b) { deux_carres(b, 70, 50); }, 1, 0},
         // 30 cm between them, loaded at tick 1: face meets face on the 30th moving tick.
-        {"touche au dernier pas",
-         [](BancAnalyse& b) {
-             deux_carres(b, 100, 50);
-             b.ajouter(1, actions::AVANCE, 30);
-         },
-         31, 0},
-        {"s'arrete un centimetre avant",
-         [](BancAnalyse& b) {
-             deux_carres(b, 100, 50);
-             b.ajouter(1, actions::AVANCE, 29);
-         },
-         jamais, 1},
-        {"frole a un demi centimetre et repart",
-         [](BancAnalyse& b) {
-             deux_carres(b, 100, 70.5);
-             b.ajouter(1, actions::AVANCE, 120);
-         },
-         jamais, 0.5},
-        {"accroche d'un demi centimetre",
-         [](BancAnalyse& b) {
-             deux_carres(b, 100, 69.5);
-             b.ajouter(1, actions::AVANCE, 120);
-         },
-         31, 0},
-        // Two bars across the way, 300 cm a tick: at no tick do they touch.
-        {"traverse entre deux ticks",
-         [](BancAnalyse& b) {
-             b.contour(1, {{{0, -5}, {0, 5}}});
-             b.contour(2, {{{0, -5}, {0, 5}}});
-             b.poser(1, 10, 50);
-             b.poser(2, 100, 52);
-             b.e.VitesseLin(1) = 150;
-             b.ajouter(1, actions::AVANCE, 150);
-         },
-         2, 0},
-        {"passe a cote entre deux ticks",
-         [](BancAnalyse& b) {
-             b.contour(1, {{{0, -5}, {0, 5}}});
-             b.contour(2, {{{0, -5}, {0, 5}}});
-             b.poser(1, 10, 50);
-             b.poser(2, 100, 62);
-             b.e.VitesseLin(1) = 150;
-             b.ajouter(1, actions::AVANCE, 150);
-         },
-         // The nearest tick counts: 60 cm beyond it, 2 cm aside.
-         jamais, std::hypot(60, 2)},
-        // An arm of 30 cm sweeps 90 degrees in one tick; the other robot stands at 45 degrees.
-        {"un bras fauche entre deux ticks",
-         [](BancAnalyse& b) {
-             b.contour(1, {{{0, 0}, {30, 0}}});
-             b.carre(2, 1);
-             b.poser(1, 100, 100);
-             b.poser(2, 114, 114);
-             b.e.VitesseRot(1) = 90;
-             b.ajouter(1, actions::GAUCHE, 90);
-         },
-         2, 0},
-        {"le meme bras dans l'autre sens",
-         [](BancAnalyse& b) {
-             b.contour(1, {{{0, 0}, {30, 0}}});
-             b.carre(2, 1);
-             b.poser(1, 100, 100);
-             b.poser(2, 114, 114);
-             b.e.VitesseRot(1) = 90;
-             b.ajouter(1, actions::DROITE, 90);
-         },
-         jamais, 13},
-        // A half turn of radius 40 in one tick runs around by (140, 140), not along the chord.
-        {"un arc entre deux ticks passe par son sommet",
-         [](BancAnalyse& b) {
-             b.carre(1, 1);
-             b.carre(2, 1);
-             b.poser(1, 100, 100);
-             b.poser(2, 140, 140);
-             b.e.VitesseLin(1) = simple(45 * Pi); // outer wheel: 40 + 10 / 2
-             b.ajouter(1, actions::VIRAVGA, 180, 40);
-         },
-         2, 0},
-        {"et non par sa corde",
-         [](BancAnalyse& b) {
-             b.carre(1, 1);
-             b.carre(2, 1);
-             b.poser(1, 100, 100);
-             b.poser(2, 100, 140);
-             b.e.VitesseLin(1) = simple(45 * Pi);
-             b.ajouter(1, actions::VIRAVGA, 180, 40);
-         },
-         jamais, 38},
-        {"l'un dans l'autre des le depart",
-         [](BancAnalyse& b) {
-             deux_carres(b, 52, 51);
-             b.carre(2, 3);
-         },
-         1, 0},
+        {"au dernier pas", [](B& b) { deux_carres(b, 100, 50).ajouter(1, AVANCE, 30); }, 31, 0},
+        {"1 cm avant", [](B& b) { deux_carres(b, 100, 50).ajouter(1, AVANCE, 29); }, jamais, 1},
+        {"frole", [](B& b) { deux_carres(b, 100, 70.5).ajouter(1, AVANCE, 120); }, jamais, 0.5},
+        {"accroche", [](B& b) { deux_carres(b, 100, 69.5).ajouter(1, AVANCE, 120); }, 31, 0},
+        {"traverse entre deux ticks", [](B& b) { deux_barres(b, 52); }, 2, 0},
+        // The nearest tick counts: 60 cm beyond it, 2 cm aside.
+        {"passe a cote", [](B& b) { deux_barres(b, 62); }, jamais, std::hypot(60, 2)},
+        {"un bras fauche entre deux ticks", [](B& b) { bras(b, actions::GAUCHE); }, 2, 0},
+        {"dans l'autre sens", [](B& b) { bras(b, actions::DROITE); }, jamais, 13},
+        {"un arc passe par son sommet", [](B& b) { demi_tour(b, 140, 140); }, 2, 0},
+        {"et non par sa corde", [](B& b) { demi_tour(b, 100, 140); }, jamais, 38},
+        {"l'un dans l'autre des le depart", [](B& b) { deux_carres(b, 52, 51).carre(2, 3); }, 1, 0},
         {"dans un contour ouvert : rien ne se touche",
-         [](BancAnalyse& b) {
-             b.contour(1, {{{-10, -10}, {10, -10}}, {{10, -10}, {10, 10}}, {{10, 10}, {-10, 10}}});
-             b.carre(2, 3);
-             b.poser(1, 50, 50);
-             b.poser(2, 50, 50);
+         [](B& b) {
+             b.contour(1, {{{-10, -10}, {10, -10}}, {{10, -10}, {10, 10}}, {{10, 10}, {-10, 10}}})
+                 .carre(2, 3);
          },
          jamais, 7},
-        {"deux qui se croisent en roulant l'un vers l'autre",
-         [](BancAnalyse& b) {
-             deux_carres(b, 111, 55);
-             b.e.CapInit(2) = 180;
-             b.ajouter(1, actions::AVANCE, 100);
-             b.ajouter(2, actions::AVANCE, 100);
+        // 41 cm apart, 2 cm a tick: in the 21st, between two ticks.
+        {"deux qui se croisent",
+         [](B& b) {
+             deux_carres(b, 111, 55)
+                 .poser(2, 111, 55, 180)
+                 .ajouter(1, AVANCE, 100)
+                 .ajouter(2, AVANCE, 100);
          },
-         // 41 cm apart, 2 cm a tick: in the 21st, between two ticks.
          22, 0},
         {"suivi a vitesse egale",
-         [](BancAnalyse& b) {
-             deux_carres(b, 75, 50);
-             b.ajouter(1, actions::AVANCE, 100);
-             b.ajouter(2, actions::AVANCE, 100);
-         },
+         [](B& b) { deux_carres(b, 75, 50).ajouter(1, AVANCE, 100).ajouter(2, AVANCE, 100); },
          jamais, 5},
-        {"sans contour", [](BancAnalyse& b) { b.carre(1, 10); }, jamais, INFINITY},
+        {"sans contour", [](B& b) { b.carre(1, 10); }, jamais, INFINITY},
     };
     for (const Cas& c : cas) {
         const Rencontre r = Scene(c.monter).robots();
@@ -177,14 +106,10 @@ TEST(Rencontre, de_deux_robots_sur_des_figures_faites_a_la_main) {
 
 TEST(Rencontre, d_un_robot_et_d_un_bloc_plein) {
     const auto tourner = [](BancAnalyse& b) {
-        b.carre(1, 10);
-        b.poser(1, 50, 50);
-        b.ajouter(1, actions::GAUCHE, 45);
+        b.carre(1, 10).poser(1, 50, 50).ajouter(1, actions::GAUCHE, 45);
     };
     const auto avancer = [](BancAnalyse& b) {
-        b.carre(1, 10);
-        b.poser(1, 50, 50);
-        b.ajouter(1, actions::AVANCE, 60);
+        b.carre(1, 10).poser(1, 50, 50).ajouter(1, actions::AVANCE, 60);
     };
     struct Cas {
         const char* nom;

@@ -64,28 +64,6 @@ TEST(CalculerMatch, donne_au_bit_pres_ce_que_joue_la_fenetre) {
     EXPECT_GT(arretes, 0);
 }
 
-TEST(CalculerMatch, chaque_action_a_son_debut_sa_fin_et_ses_poses) {
-    BancAnalyse b;
-    b.poser(1, 50, 60, 0);
-    b.ajouter(1, actions::PAUSE, 0);
-    b.ajouter(1, actions::AVANCE, 20);
-    b.ajouter(1, actions::FIN);
-    b.ajouter(1, actions::AVANCE, 5);
-    const MatchCalcule m = calculer_match(b.e);
-    ASSERT_EQ(m.actions(1).size(), 2U) << "FIN is no action, and nothing behind it is loaded";
-    const ActionJouee& pause = m.actions(1)[0];
-    EXPECT_EQ(pause.debut, 1);
-    EXPECT_EQ(pause.fin, 2);
-    const ActionJouee& avance = m.actions(1)[1];
-    EXPECT_EQ(avance.debut, 3);
-    EXPECT_EQ(avance.fin, 23);
-    EXPECT_EQ(avance.avant.x, 50);
-    EXPECT_EQ(avance.apres.x, 70);
-    EXPECT_EQ(m.duree, 9001);
-    EXPECT_EQ(m.pose(1, 23).x, 70);
-    EXPECT_EQ(m.pose(1, 22).x, 69);
-}
-
 TEST(CalculerMatch, une_erreur_garde_le_dernier_tick_entier_et_nomme_le_robot) {
     BancAnalyse b;
     b.e.NbRobot = 2;

@@ -5,64 +5,30 @@
 #include <cmath>
 #include <vector>
 
+using namespace std::string_literals;
 using namespace std::string_view_literals;
 
 TEST(LireEntier16, formes_acceptees) {
-    const std::pair<std::string_view, int> cas[] = {{"0", 0},
-                                                    {"  42\t", 42},
-                                                    {"-7", -7},
-                                                    {"+7", 7},
-                                                    {"007", 7},
-                                                    {"-32768", -32768},
-                                                    {"32767.4", 32767},
-                                                    {"2.5", 2},
-                                                    {"3.5", 4},
-                                                    {"-2.5", -2},
-                                                    {"1e3", 1000},
-                                                    {"12E-1", 1},
-                                                    {"-32768.5", -32768},
-                                                    {"1e-999999", 0},
-                                                    {"0e99999999999999999999", 0},
-                                                    {"0.0000000000000000001e19", 1}};
+    const std::pair<const char*, int> cas[] = {
+        {"0", 0},           {"  42\t", 42},     {"-7", -7},           {"+7", 7},       {"007", 7},
+        {"-32768", -32768}, {"32767.4", 32767}, {"2.5", 2},           {"3.5", 4},      {"-2.5", -2},
+        {"1e3", 1000},      {"12E-1", 1},       {"-32768.5", -32768}, {"1e-999999", 0}};
     for (const auto& [texte, attendu] : cas)
         EXPECT_EQ(lire_entier16(texte), attendu) << texte;
+    EXPECT_EQ(lire_entier16("0e99999999999999999999"), 0);
+    EXPECT_EQ(lire_entier16("0.0000000000000000001e19"), 1);
     EXPECT_EQ(lire_entier16("0." + std::string(500, '0') + "1"), 0);
     EXPECT_EQ(lire_entier16("1" + std::string(500, '0') + "e-500"), 1);
 }
 
 TEST(LireEntier16, formes_refusees) {
-    for (const std::string_view texte : {""sv,
-                                         " "sv,
-                                         "+"sv,
-                                         "-"sv,
-                                         "- 5"sv,
-                                         "--5"sv,
-                                         "5-"sv,
-                                         "1 2"sv,
-                                         "1,5"sv,
-                                         "5."sv,
-                                         ".5"sv,
-                                         "1e"sv,
-                                         "1e+"sv,
-                                         "e5"sv,
-                                         "0x10"sv,
-                                         "&H10"sv,
-                                         "nan"sv,
-                                         "inf"sv,
-                                         "x"sv,
-                                         "32768"sv,
-                                         "-32769"sv,
-                                         "32767.5"sv,
-                                         "1e5"sv,
-                                         "1e999999"sv,
-                                         "4294967296"sv,
-                                         "99999999999999999999"sv,
-                                         "1e99999999999999999999"sv,
-                                         "\xC2\xA0"
-                                         "5"sv,
-                                         "5\0"sv,
-                                         "5\v"sv,
-                                         "٣"sv})
+    for (const char* texte :
+         {"",        " ",    "+",        "-",          "- 5",     "--5",   "5-",
+          "1 2",     "1,5",  "5.",       ".5",         "1e",      "1e+",   "e5",
+          "0x10",    "&H10", "nan",      "inf",        "x",       "32768", "-32769",
+          "32767.5", "1e5",  "1e999999", "4294967296", "\u00A05", "5\v",   "٣"})
+        EXPECT_THROW(lire_entier16(texte), ErreurConversion) << texte;
+    for (const std::string& texte : {"99999999999999999999"s, "1e99999999999999999999"s, "5\0"s})
         EXPECT_THROW(lire_entier16(texte), ErreurConversion) << texte;
     EXPECT_THROW(lire_entier16("0" + std::string(500, '9')), ErreurConversion) << "leading zero";
     EXPECT_THROW(lire_entier16("1" + std::string(500, '0') + "e-100"), ErreurConversion);

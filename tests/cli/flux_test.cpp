@@ -1,5 +1,6 @@
 // The program behind a shell: closed, full and unreadable streams.
 #include "outils/dossier_temporaire.h"
+#include "outils/textes.h"
 
 #include <gtest/gtest.h>
 
@@ -36,14 +37,11 @@ TEST(Flux, une_sortie_perdue_ne_finit_jamais_par_0) {
         for (const std::string perdue : {" >/dev/full", " >&-"}) {
             const Fin fin = shell(d, std::string("tcli ").append(verbe).append(perdue));
             EXPECT_EQ(fin.code, 1) << verbe << perdue;
-            EXPECT_NE(fin.erreurs.find("Erreur d'exécution : sortie standard : "),
-                      std::string::npos)
-                << verbe << perdue << "\n"
-                << fin.erreurs;
+            EXPECT_TRUE(contient(fin.erreurs, "Erreur d'exécution : sortie standard : "))
+                << verbe << perdue;
         }
     }
-    EXPECT_NE(shell(d, "tcli --help >/dev/full").erreurs.find("le disque est plein"),
-              std::string::npos);
+    EXPECT_TRUE(contient(shell(d, "tcli --help >/dev/full").erreurs, "le disque est plein"));
     EXPECT_EQ(shell(d, "tcli --vite >/dev/full").code, 2) << "the first fault counts";
 }
 
@@ -51,7 +49,7 @@ TEST(Flux, un_fichier_ne_prend_pas_la_place_d_un_flux_ferme) {
     const DossierTemporaire d;
     EXPECT_EQ(shell(d, "tcli simuler --duree 2 --trace t.csv --etat - <&- >&-").code, 1);
     EXPECT_TRUE(d.lire("t.csv").starts_with("temps,robot,"));
-    EXPECT_EQ(d.lire("t.csv").find("Action"), std::string::npos);
+    EXPECT_FALSE(contient(d.lire("t.csv"), "Action"));
     EXPECT_EQ(shell(d, "tcli simuler --duree 2 --trace t.csv <&- >&-").code, 0);
 }
 
@@ -60,8 +58,8 @@ TEST(Flux, une_entree_illisible_n_est_pas_un_trajet_vide) {
     for (const std::string entree : {" </", " <&-"}) {
         const Fin fin = shell(d, "tcli piloter --sauver oui" + entree);
         EXPECT_EQ(fin.code, 1) << entree;
-        EXPECT_NE(fin.erreurs.find("entrée standard : "), std::string::npos) << fin.erreurs;
-        EXPECT_NE(fin.erreurs.find("rien n'a été enregistré"), std::string::npos);
+        EXPECT_TRUE(contient(fin.erreurs, "entrée standard : "));
+        EXPECT_TRUE(contient(fin.erreurs, "rien n'a été enregistré"));
     }
     EXPECT_EQ(shell(d, "tcli piloter </dev/null").code, 0);
     EXPECT_FALSE(std::filesystem::exists(d / "Configuration/Defaut PourGenerer10.ini"));
@@ -72,9 +70,8 @@ TEST(Flux, une_ligne_sans_fin_est_refusee_ou_elle_commence) {
     const Fin fin = shell(d, "{ echo Avance 5; head -c 9000000 /dev/zero | tr '\\0' x; } | "
                              "tcli piloter --sauver oui");
     EXPECT_EQ(fin.code, 2);
-    EXPECT_NE(fin.erreurs.find("Ligne 2 : la ligne dépasse 4096 octets"), std::string::npos)
-        << fin.erreurs;
-    EXPECT_NE(d.lire("Configuration/Defaut Trajet1.ini").find("AVANCE    ,5"), std::string::npos);
+    EXPECT_TRUE(contient(fin.erreurs, "Ligne 2 : la ligne dépasse 4096 octets"));
+    EXPECT_TRUE(contient(d.lire("Configuration/Defaut Trajet1.ini"), "AVANCE    ,5"));
 }
 
 TEST(Flux, deux_resultats_ne_vont_pas_dans_un_fichier) {
@@ -86,7 +83,7 @@ TEST(Flux, deux_resultats_ne_vont_pas_dans_un_fichier) {
                                    "--trace - --etat -", "--trace neuf --etat sous/../neuf"}) {
         const Fin fin = shell(d, "tcli simuler --duree 1 " + meme);
         EXPECT_EQ(fin.code, 2) << meme;
-        EXPECT_NE(fin.erreurs.find("le même fichier"), std::string::npos) << fin.erreurs;
+        EXPECT_TRUE(contient(fin.erreurs, "le même fichier"));
     }
     EXPECT_EQ(d.lire("a"), "avant");
     EXPECT_EQ(shell(d, "tcli simuler --duree 1 --trace /dev/null --etat /dev/null").code, 0);
@@ -99,7 +96,7 @@ TEST(Flux, une_limite_de_taille_est_une_erreur_et_pas_la_fin) {
     const DossierTemporaire d;
     const Fin fin = shell(d, "ulimit -f 1; tcli installer");
     EXPECT_EQ(fin.code, 1);
-    EXPECT_NE(fin.erreurs.find("Defaut Trajet1.ini n'a pas pu être écrit"), std::string::npos);
+    EXPECT_TRUE(contient(fin.erreurs, "Defaut Trajet1.ini n'a pas pu être écrit"));
     for (const auto& entree : std::filesystem::directory_iterator(d / "Configuration"))
         EXPECT_EQ(entree.path().extension(), ".ini") << entree.path();
 }

@@ -40,7 +40,7 @@ TEST(Francais, aucun_mot_de_l_analyseur_ne_reste_en_anglais_dans_l_aide) {
                               "rejouer", "etiquettes", "--help"}) {
         const Resultat r = lancer({verbe, "--help"});
         EXPECT_EQ(r.code, 0);
-        EXPECT_NE(r.sortie.find("Options :"), std::string::npos) << r.sortie;
+        EXPECT_TRUE(contient(r.sortie, "Options :"));
         std::smatch trouve;
         EXPECT_FALSE(std::regex_search(r.sortie, trouve, anglais)) << trouve.str() << r.sortie;
     }
@@ -58,7 +58,7 @@ TEST(Francais, ce_que_le_systeme_refuse_est_dit_en_francais) {
         const Resultat r = lancer(arguments);
         EXPECT_EQ(r.code, 1);
         EXPECT_TRUE(r.erreurs.starts_with("Erreur d'exécution : ")) << r.erreurs;
-        EXPECT_NE(r.erreurs.find(raison), std::string::npos) << r.erreurs;
+        EXPECT_TRUE(contient(r.erreurs, raison));
     }
 }
 

@@ -40,7 +40,7 @@ TEST(Verifier, ce_qui_arreterait_le_programme_est_dit_avec_son_fichier_et_son_ro
         const Resultat r = lancer({"verifier", "--dossier", d.chemin()});
         EXPECT_EQ(r.code, 1) << c.contenu;
         for (const std::string& attendu : c.attendus)
-            EXPECT_NE(r.erreurs.find(attendu), std::string::npos) << attendu << "\n" << r.erreurs;
+            EXPECT_TRUE(contient(r.erreurs, attendu));
     }
 }
 

@@ -42,7 +42,7 @@ TEST(Apercu, montre_les_insertions_du_menu_a_leur_place) {
         "-1,0 Const NUM_MENU_MAX = 1\n+0,1 Const NUM_MENU_MAX = 2\n 2,2 action_selectionnee: "
         "i_menu = 1\n 3,3 CHGT_AFFICHAGE\n+0,4 \t'Généré automatiquement par le simulateur\n"))
         << texte;
-    EXPECT_NE(texte.find(" 5,11 fin\n+0,12 \t'Généré"), std::string::npos) << texte;
+    EXPECT_TRUE(contient(texte, " 5,11 fin\n+0,12 \t'Généré"));
 }
 
 TEST(Apercu, avertit_de_ce_qui_ne_compilera_pas) {
@@ -136,7 +136,7 @@ TEST(Apercu, un_nom_qui_n_en_est_pas_un_est_signale) {
         atelier.demande.fonction = nom;
         const auto phrases = preparer_apercu(atelier.demande, true).avertissements;
         ASSERT_EQ(phrases.size(), 1U) << nom;
-        EXPECT_NE(phrases.front().find("il faut une lettre"), std::string::npos) << phrases.front();
+        EXPECT_TRUE(contient(phrases.front(), "il faut une lettre"));
     }
 }
 

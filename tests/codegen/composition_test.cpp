@@ -53,15 +53,6 @@ std::vector<std::string> dossiers_de_cas() {
     return noms;
 }
 
-std::string message_de(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const ErreurExecution& erreur) {
-        return erreur.what();
-    }
-    return "";
-}
-
 class GenerationExemplaire : public testing::TestWithParam<std::string> {};
 
 } // namespace

@@ -24,7 +24,7 @@ TEST(VerbeGenerer, ecrit_la_cible_sous_le_nom_demande_et_annonce_les_copies) {
     EXPECT_TRUE(atelier.dossier.lire("cible.bas")
                     .ends_with("TOUR:\n\tGosub position_balise_g\n\tReturn\n"));
     ASSERT_EQ(atelier.copies("depart.bas.").size(), 1U);
-    EXPECT_NE(s.sortie.find(atelier.copies("depart.bas.").front()), std::string::npos) << s.sortie;
+    EXPECT_TRUE(contient(s.sortie, atelier.copies("depart.bas.").front()));
 }
 
 TEST(VerbeGenerer, refuse_avec_le_message_et_le_code_1) {
@@ -60,7 +60,7 @@ TEST(VerbeGenerer, l_apercu_n_ecrit_rien) {
     const Resultat s = lancer(generer(atelier, {"--apercu", "--ecraser", "oui"}));
     EXPECT_EQ(s.code, 0);
     EXPECT_TRUE(s.sortie.starts_with("-TRAJECTOIRE:\n-Return\n+'***")) << s.sortie;
-    EXPECT_NE(s.erreurs.find("Avertissement : entree.ini, ligne 2"), std::string::npos);
+    EXPECT_TRUE(contient(s.erreurs, "Avertissement : entree.ini, ligne 2"));
     EXPECT_FALSE(std::filesystem::exists(atelier.demande.cible));
 }
 

@@ -3,6 +3,7 @@
 #include "base/texte.h"
 #include "codegen/generateur.h"
 #include "outils/dossier_temporaire.h"
+#include "outils/textes.h"
 
 #include <algorithm>
 #include <deque>

@@ -4,6 +4,7 @@
 
 #include "outils/dossier_temporaire.h"
 #include "outils/fausses_fenetres.h"
+#include "outils/textes.h"
 
 #include <gtest/gtest.h>
 

@@ -2,10 +2,7 @@
 
 #include "banc_projet.h"
 
-#include "outils/pannes.h"
-
 namespace fs = std::filesystem;
-using namespace std::string_view_literals;
 
 namespace {
 
@@ -68,17 +65,6 @@ TEST_F(Installation, ne_recree_que_ce_qui_manque) {
     EXPECT_EQ(e.TrajNbActions(1), 1) << "a trajectory was missing";
 }
 
-TEST_F(Installation, un_nom_de_projet_ne_sort_pas_de_la_configuration) {
-    for (const auto nom : {"../x"sv, "a/../../x"sv, "/x"sv, "x\0y"sv}) {
-        e.NomProjet = nom;
-        projet.Installe();
-        EXPECT_FALSE(fs::exists(d / "x Table.ini")) << nom;
-        EXPECT_FALSE(fs::exists("/x Table.ini")) << nom;
-        EXPECT_FALSE(fs::exists(d / "Configuration/x")) << nom;
-        EXPECT_EQ(fichiers(), 1) << "the settings alone";
-    }
-}
-
 TEST_F(Installation, seul_le_nom_est_juge_pas_le_dossier_devant_lui) {
     fs::create_directory(d / "a");
     Projet par_un_detour(e, f, d / "a" / "..");
@@ -95,16 +81,4 @@ TEST_F(Installation, dossier_relatif_au_dossier_courant_fichiers_sous_l_applicat
     fs::create_directory(d / "Configuration");
     projet.Installe();
     EXPECT_EQ(fichiers(), 20);
-}
-
-// Files may not grow past 600 bytes: the shorter ones are written, no other is left half-written.
-TEST_F(Installation, disque_plein_pas_de_fichier_a_moitie_ecrit) {
-    {
-        const DisquePlein plein(600);
-        projet.Installe();
-    }
-    EXPECT_EQ(lire("Tavolmex.ini"), attendu("Tavolmex.ini"));
-    EXPECT_FALSE(fs::exists(d / "Configuration/Defaut Trajet1.ini"));
-    for (const auto& entree : fs::directory_iterator(d / "Configuration"))
-        EXPECT_EQ(entree.path().extension(), ".ini") << entree.path();
 }

@@ -63,11 +63,3 @@ TEST(LireGeneral, refuse_a_la_ligne_fautive) {
         EXPECT_EQ(lire(e, r.texte), r.ligne) << r.texte.substr(0, 80);
     }
 }
-
-TEST(LireGeneral, garde_ce_qui_precede_la_ligne_fautive) {
-    Etat e;
-    EXPECT_EQ(lire(e, "Défaut, Essai\nAllege, 1\nVitesse, 3\nHorizontale, 1"), "3");
-    EXPECT_EQ(e.NomProjet, "Essai");
-    EXPECT_EQ(e.Options(2), 1);
-    EXPECT_EQ(e.Options(4), 0);
-}

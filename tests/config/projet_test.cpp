@@ -21,7 +21,7 @@ TEST_F(LireProjet, un_autre_projet_est_installe_un_seul_nom_apres_l_autre) {
     ecrire("Tavolmex.ini", "Défaut, Essai\nRapide, 1\nFaute, 1\nAllege, 1");
     projet.LoadGeneral();
     EXPECT_EQ(f.messages, std::vector{message("Tavolmex.ini", 3)});
-    EXPECT_NE(f.explications[0].find("FAUTE"), std::string::npos) << f.explications[0];
+    EXPECT_TRUE(contient(f.explications[0], "FAUTE"));
     EXPECT_EQ(e.NomProjet, "Essai");
     EXPECT_EQ(e.Options(1), 1);
     EXPECT_EQ(e.Options(2), 0);
@@ -92,7 +92,7 @@ TEST_F(LireProjet, trajet_refuse_la_ligne_compte_depuis_le_premier_fichier) {
     ecrire("Defaut Trajet2.ini", "Init,4,5,6\nAvance,5\nBD\n");
     projet.Init_Jeu();
     EXPECT_EQ(f.messages, std::vector{message("Defaut Trajet2.ini", 43)});
-    EXPECT_NE(f.explications.at(0).find("Tous les robots restent immobiles"), std::string::npos);
+    EXPECT_TRUE(contient(f.explications.at(0), "Tous les robots restent immobiles"));
     for (const int n : {1, 2, 9}) {
         EXPECT_EQ(e.TrajNbActions(n), 1) << n;
         EXPECT_EQ(e.TrajAction(n, 1), Nom10("FIN")) << n;

@@ -6,9 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 namespace {
 
 TEST(DessinFige, rend_le_document_tel_quel_meme_ce_qui_ne_peut_pas_s_ecrire) {
@@ -56,34 +53,6 @@ TEST(DessinFige, un_fichier_abime_est_refuse) {
     }
     for (const char* autre : {"", "x", "99999999999999999999:", "5:abc", "-1:", "3:abc"})
         EXPECT_THROW(lire_dessin(autre), ErreurExecution) << autre;
-}
-
-TEST(RepriseDessin, un_programme_tue_rend_son_dessin) {
-    const DossierTemporaire dossier;
-    int tuyau[2];
-    ASSERT_EQ(::pipe(tuyau), 0);
-    const pid_t autre = ::fork();
-    if (autre == 0) { // draws, and never comes to an end by itself
-        RepriseDessin sienne(dossier.chemin(), GenreFichier::table);
-        sienne.ecrire({"f", "", "d"});
-        const auto ecrits = ::write(tuyau[1], "x", 1);
-        for (;;)
-            ::usleep(ecrits > 0 ? 100000 : 1);
-    }
-    char signe = 0;
-    ASSERT_EQ(::read(tuyau[0], &signe, 1), 1);
-    RepriseDessin notre(dossier.chemin(), GenreFichier::table);
-    EXPECT_TRUE(RepriseDessin::en_attente(dossier.chemin()));
-    EXPECT_FALSE(notre.prendre_la_suivante()) << "its owner still runs";
-    ::kill(autre, SIGKILL);
-    ::waitpid(autre, nullptr, 0);
-    RepriseDessin suivante(dossier.chemin(), GenreFichier::table);
-    ASSERT_TRUE(suivante.prendre_la_suivante());
-    EXPECT_EQ(suivante.lire().document, "d");
-    suivante.effacer();
-    EXPECT_TRUE(std::filesystem::is_empty(dossier.chemin())) << "nor does its lock stay";
-    ::close(tuyau[0]);
-    ::close(tuyau[1]);
 }
 
 } // namespace

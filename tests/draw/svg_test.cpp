@@ -1,5 +1,7 @@
 #include "draw/svg.h"
 
+#include "outils/textes.h"
+
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -23,7 +25,7 @@ TEST(SurfaceSvg, retourne_l_axe_des_y_et_garde_les_epaisseurs_en_pixels) {
          R"(<circle cx="1" cy="-2" r="3" fill="#ffff00" stroke="#ff0000" stroke-width="1")",
          R"(<line x1="0" y1="0" x2="1.5" y2="2" fill="none" stroke="#000000" stroke-width="1" stroke-dasharray="1 2")",
          "<title>a &lt; b &amp; c</title>"})
-        EXPECT_NE(svg.find(attendu), std::string::npos) << attendu << "\n" << svg;
+        EXPECT_TRUE(contient(svg, attendu));
 }
 
 TEST(SurfaceSvg, ecrit_chemins_surfaces_reperes_et_textes_avec_leur_opacite) {
@@ -44,18 +46,16 @@ TEST(SurfaceSvg, ecrit_chemins_surfaces_reperes_et_textes_avec_leur_opacite) {
          R"(<circle cx="7" cy="-8" r="2" fill="#000000" stroke="none" opacity="0.25"><title>a &lt; b)",
          R"(<text x="10" y="-20" font-size="6" text-anchor="middle")",
          R"(fill="#000000" stroke="none">12 &amp; 13</text>)"})
-        EXPECT_NE(svg.find(attendu), std::string::npos) << attendu << "\n" << svg;
+        EXPECT_TRUE(contient(svg, attendu));
 }
 
 TEST(SurfaceSvg, un_arc_suit_l_ellipse_de_sa_boite) {
     SurfaceSvg s(1, 1);
     s.arc(20, 50, 30, {255, 255, 255}, 0, 6.28, 3); // 20 wide, 60 high
-    EXPECT_NE(s.document("").find(R"(<path d="M30 -50 A10 30 0 1 0 )"), std::string::npos)
-        << s.document("");
+    EXPECT_TRUE(contient(s.document(""), R"(<path d="M30 -50 A10 30 0 1 0 )"));
     SurfaceSvg plate(1, 1);
     plate.arc(5, 5, 5, {255, 255, 255}, 0, 6.28, 0);
-    EXPECT_NE(plate.document("").find(R"(<line x1="0" y1="-5" x2="10" y2="-5")"),
-              std::string::npos);
+    EXPECT_TRUE(contient(plate.document(""), R"(<line x1="0" y1="-5" x2="10" y2="-5")"));
 }
 
 } // namespace

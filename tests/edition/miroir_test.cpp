@@ -1,6 +1,7 @@
 #include "edition/miroir.h"
 
 #include "outils/fausses_fenetres.h"
+#include "outils/textes.h"
 #include "sim/actions.h"
 #include "sim/moteur.h"
 #include "sim/secours.h"
@@ -133,12 +134,8 @@ TEST(Miroir, ce_qui_ne_peut_pas_etre_retourne_dit_sa_ligne) {
         {"Avance,5\nFIN", Retournement::vertical, "il n'y a pas de ligne « Init »"},
     };
     for (const Cas& c : cas) {
-        try {
-            retourne(c.fichier, c.axe);
-            ADD_FAILURE() << c.fichier;
-        } catch (const ErreurExecution& erreur) {
-            EXPECT_TRUE(std::string_view(erreur.what()).starts_with(c.message)) << erreur.what();
-        }
+        const std::string dit = message_de([&] { retourne(c.fichier, c.axe); });
+        EXPECT_TRUE(dit.starts_with(c.message)) << dit;
     }
     EXPECT_EQ(retourne("Init,1.0,2,90.00", Retournement::vertical), "Init,199.0,2,90.00");
     EXPECT_EQ(retourne("Init,0100,2,90", Retournement::vertical),

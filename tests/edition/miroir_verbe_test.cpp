@@ -59,7 +59,7 @@ TEST(MiroirVerbe, un_refus_nomme_fichier_et_ligne_et_n_ecrit_rien) {
         const std::string avant = d.lire("Configuration/Defaut Trajet1.ini");
         const Resultat r = miroir(d, {"--robot", "1", "--axe", "vertical"});
         EXPECT_EQ(r.code, 1);
-        EXPECT_NE(r.erreurs.find(message), std::string::npos) << r.erreurs;
+        EXPECT_TRUE(contient(r.erreurs, message));
         EXPECT_EQ(d.lire("Configuration/Defaut Trajet1.ini"), avant);
         EXPECT_EQ(sauvegardes(d), 0U);
     }

@@ -156,27 +156,4 @@ TEST(Match, suit_le_temoin_independant_et_garde_son_empreinte) {
     }
 }
 
-TEST(Match, dix_simulateurs_vivent_dans_un_processus) {
-    const DossierTemporaire dossier;
-    std::ostringstream erreurs;
-    std::vector<std::unique_ptr<Etat>> etats;
-    std::vector<std::unique_ptr<FenetresTerminal>> fenetres;
-    std::vector<std::unique_ptr<Simulation>> simulations;
-    for (int n = 0; n < 10; ++n) {
-        etats.push_back(std::make_unique<Etat>());
-        fenetres.push_back(std::make_unique<FenetresTerminal>(*etats.back(), erreurs));
-        simulations.push_back(std::make_unique<Simulation>(
-            *etats.back(), *fenetres.back(),
-            ChoixDeLigne{.dossier = dossier.chemin(), .projet = {}, .robots = 1 + n % 9}));
-        simulations.back()->moteur().Run_Jeu();
-    }
-    for (int tick = 0; tick < 6000; ++tick) {
-        for (auto& s : simulations)
-            s->moteur().Timer_Timer();
-    }
-    for (int n = 1; n < 10; ++n)
-        EXPECT_EQ(etats[static_cast<std::size_t>(n)]->XRobot(1), etats[0]->XRobot(1));
-    EXPECT_EQ(etats[8]->TempsEcoule, 6000);
-}
-
 } // namespace

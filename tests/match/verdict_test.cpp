@@ -116,7 +116,7 @@ TEST(VerifierMatch, ses_options_demandent_match) {
         ligne.insert(ligne.end(), option.begin(), option.end());
         const Resultat r = lancer(ligne);
         EXPECT_EQ(r.code, 2);
-        EXPECT_NE(r.erreurs.find(option[0] + " demande --match"), std::string::npos) << r.erreurs;
+        EXPECT_TRUE(contient(r.erreurs, option[0] + " demande --match"));
     }
 }
 
@@ -140,8 +140,8 @@ TEST(VerifierMatch, ce_que_les_lecteurs_refusent_est_message_et_constat) {
     std::filesystem::remove(d / "Configuration/Defaut Robot4.ini");
     const Resultat r = lancer({"verifier", "--match", "--json", "--dossier", d.chemin()});
     EXPECT_EQ(r.code, 1);
-    EXPECT_NE(r.erreurs.find("Tavolmex.ini Ligne 2"), std::string::npos) << r.erreurs;
-    EXPECT_NE(r.erreurs.find("Trajet2.ini Ligne 44"), std::string::npos) << r.erreurs;
+    EXPECT_TRUE(contient(r.erreurs, "Tavolmex.ini Ligne 2"));
+    EXPECT_TRUE(contient(r.erreurs, "Trajet2.ini Ligne 44"));
     const Json tout = Json::parse(r.sortie);
     std::set<std::string> lus;
     for (const Json& c : tout["constats"]) {
@@ -167,7 +167,7 @@ TEST(VerifierMatch, le_texte_a_une_ligne_par_constat_puis_les_ecarts) {
     for (std::string ligne; std::getline(flux, ligne);)
         lignes.push_back(ligne);
     ASSERT_GE(lignes.size(), 7U) << r.sortie;
-    EXPECT_NE(lignes[0].find("dernière action finie à 10,70 s"), std::string::npos) << lignes[0];
+    EXPECT_TRUE(contient(lignes[0], "dernière action finie à 10,70 s"));
     EXPECT_EQ(lignes[1].substr(0, 18), "4,56 s, robot 1, e") << lignes[1];
     EXPECT_EQ(lignes.back(), "Robots 1 et 2 : se touchent à 4,56 s");
 }

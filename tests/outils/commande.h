@@ -2,6 +2,7 @@
 
 #include "cli/ligne_de_commande.h"
 #include "outils/dossier_temporaire.h"
+#include "outils/textes.h"
 
 #include <gtest/gtest.h>
 
@@ -29,11 +30,16 @@ inline Resultat lancer(std::vector<std::string> arguments) {
     return {code, testing::internal::GetCapturedStdout(), testing::internal::GetCapturedStderr()};
 }
 
-/// The same with a text on standard input; `d` keeps it meanwhile.
-inline Resultat lancer_avec_entree(const DossierTemporaire& d, std::vector<std::string> arguments,
-                                   std::string_view entree) {
-    const std::filesystem::path fichier = d.ecrire("entree.txt", entree);
-    EXPECT_NE(std::freopen(fichier.c_str(), "r", stdin), nullptr);
+/// The same with a file on standard input.
+inline Resultat lancer_depuis(const std::filesystem::path& entree,
+                              std::vector<std::string> arguments) {
+    EXPECT_NE(std::freopen(entree.c_str(), "r", stdin), nullptr);
     std::cin.clear();
     return lancer(std::move(arguments));
+}
+
+/// The same with a text; `d` keeps it meanwhile.
+inline Resultat lancer_avec_entree(const DossierTemporaire& d, std::vector<std::string> arguments,
+                                   std::string_view entree) {
+    return lancer_depuis(d.ecrire("entree.txt", entree), std::move(arguments));
 }

@@ -103,7 +103,7 @@ TEST(Annulation, le_debut_sur_un_trajet_non_sauve_se_reprend) {
         b.c.Command9_Click({});
         const std::string avant = photo(b);
         b.debuter(1, {"100", "50", "0"});
-        EXPECT_NE(b.c.annonce_du_precedent().find("Sauvegardes"), std::string::npos);
+        EXPECT_TRUE(contient(b.c.annonce_du_precedent(), "Sauvegardes"));
         ASSERT_EQ(b.reprise.gardes().size(), 1U);
         EXPECT_EQ(b.reprise.gardes()[0].contenu.nb_actions(), 2U);
         if (actions_depuis) {

@@ -7,9 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <functional>
-#include <iostream>
 #include <map>
 #include <memory>
 
@@ -72,10 +70,8 @@ protected:
         EXPECT_FALSE(fs::exists("/tmp/tavolmex-evade Table.ini")) << apres;
     }
     Resultat verbe(std::vector<std::string> mots) const {
-        EXPECT_NE(std::freopen((app / "commandes.txt").c_str(), "r", stdin), nullptr);
-        std::cin.clear();
         mots.insert(mots.end(), {"--dossier", app.string()});
-        return lancer(std::move(mots));
+        return lancer_depuis(app / "commandes.txt", std::move(mots));
     }
 
     DossierTemporaire d;
@@ -106,7 +102,7 @@ TEST_F(NomsHostiles, aucun_verbe_n_ecrit_hors_de_la_configuration) {
             impose.insert(impose.end(), {"--projet", nom});
             const Resultat refuse = verbe(impose);
             EXPECT_EQ(refuse.code, 2) << refuse.erreurs;
-            EXPECT_NE(refuse.erreurs.find("--projet"), std::string::npos) << refuse.erreurs;
+            EXPECT_TRUE(contient(refuse.erreurs, "--projet"));
             EXPECT_EQ(refuse.erreurs.find('\x1B'), std::string::npos);
             rien_n_a_bouge(mots[0] + " --projet " + nom);
         }
@@ -149,7 +145,7 @@ TEST_F(NomsHostiles, aucune_procedure_n_ecrit_hors_de_la_configuration) {
             try {
                 procedure(*e, projet, reprise, f);
             } catch (const ErreurExecution& erreur) {
-                EXPECT_NE(std::string(erreur.what()).find("projet"), std::string::npos);
+                EXPECT_TRUE(contient(std::string(erreur.what()), "projet"));
             }
             rien_n_a_bouge(nom);
             EXPECT_TRUE(e->TrajetModifie(1)) << "what could not be saved is still there to be";

@@ -8,8 +8,6 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <cstdio>
-#include <iostream>
 #include <set>
 
 namespace {
@@ -143,17 +141,13 @@ TEST(Partage, piloter_le_dit_et_garde_a_part_ce_qu_il_n_a_pas_pu_sauver) {
     fs::create_directory(d / "Configuration/Defaut Trajet1.ini"); // cannot be written
     const fs::path commandes = d.ecrire("commandes.txt", "Avance 5\n");
     const auto piloter = [&] {
-        EXPECT_NE(std::freopen(commandes.c_str(), "r", stdin), nullptr);
-        std::cin.clear();
-        return lancer({"piloter", "--dossier", d.chemin(), "--sauver", "oui"});
+        return lancer_depuis(commandes, {"piloter", "--dossier", d.chemin(), "--sauver", "oui"});
     };
     auto etat = std::make_unique<Etat>();
     Reprise fenetre(*etat, d / "Configuration");
     fenetre.prendre_projet();
     const Resultat partage = piloter();
-    EXPECT_NE(partage.erreurs.find("« Defaut » est déjà ouvert dans un autre programme"),
-              std::string::npos)
-        << partage.erreurs;
+    EXPECT_TRUE(contient(partage.erreurs, "« Defaut » est déjà ouvert dans un autre programme"));
     EXPECT_FALSE(fs::exists(fenetre.chemin()));
     EXPECT_TRUE(fs::exists(d / "Configuration/Defaut Reprise2.ini"));
     piloter();

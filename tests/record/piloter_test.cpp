@@ -1,3 +1,4 @@
+#include "base/fichiers.h"
 #include "outils/commande.h"
 #include "outils/dossier_temporaire.h"
 
@@ -6,18 +7,11 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cstdio>
-#include <iostream>
 #include <vector>
 
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string lire(const fs::path& fichier) {
-    std::ifstream flux(fichier, std::ios::binary);
-    return {std::istreambuf_iterator<char>(flux), {}};
-}
 
 // The deployment's values in place of the two words that stand for them.
 std::string deploye(std::string texte) {
@@ -33,9 +27,7 @@ Resultat piloter(const DossierTemporaire& d, std::vector<std::string> options,
                  const fs::path& entree) {
     std::vector<std::string> arguments = {"piloter", "--dossier", d.chemin()};
     arguments.insert(arguments.end(), options.begin(), options.end());
-    EXPECT_NE(std::freopen(entree.c_str(), "r", stdin), nullptr);
-    std::cin.clear();
-    return lancer(std::move(arguments));
+    return lancer_depuis(entree, std::move(arguments));
 }
 
 Resultat piloter_texte(const DossierTemporaire& d, std::vector<std::string> options,
@@ -55,8 +47,8 @@ TEST(Piloter, chaque_enregistrement_garde_donne_ses_deux_fichiers) {
             options.push_back(mot);
         piloter(d, options, dossier.path() / "commandes.txt");
         for (const auto& attendu : fs::directory_iterator(dossier.path() / "attendu"))
-            EXPECT_EQ(lire(d / "Configuration" / attendu.path().filename()),
-                      deploye(lire(attendu.path())))
+            EXPECT_EQ(lire_octets(d / "Configuration" / attendu.path().filename()),
+                      deploye(lire_octets(attendu.path())))
                 << attendu;
         EXPECT_FALSE(fs::exists(d / "Configuration/Defaut Reprise.ini"));
         ++cas;
@@ -79,10 +71,10 @@ TEST(Piloter, une_commande_mal_comprise_dit_sa_ligne_et_laisse_sauver_ce_qui_pre
         const Resultat r = piloter_texte(
             d, {"--sauver", "oui"}, "# essai\nAvance 5\n" + std::string(commande) + "\nRecule 9\n");
         EXPECT_EQ(r.code, 2);
-        EXPECT_NE(r.erreurs.find("Ligne 3 : "), std::string::npos) << r.erreurs;
-        EXPECT_NE(r.erreurs.find(message), std::string::npos) << r.erreurs;
-        EXPECT_NE(lire(d / "Configuration/Defaut Trajet1.ini").find("AVANCE    ,5\r\nFIN\r\n"),
-                  std::string::npos);
+        EXPECT_TRUE(contient(r.erreurs, "Ligne 3 : "));
+        EXPECT_TRUE(contient(r.erreurs, message));
+        EXPECT_TRUE(contient(lire_octets(d / "Configuration/Defaut Trajet1.ini"),
+                             "AVANCE    ,5\r\nFIN\r\n"));
     }
     const DossierTemporaire d;
     EXPECT_EQ(piloter_texte(d, {"--position", "1,2"}, "").code, 2);
@@ -97,10 +89,9 @@ TEST(Piloter, sans_reponse_rien_n_est_sauve_et_la_reprise_d_un_autre_reste) {
     const fs::path reprise = d.ecrire("Configuration/Defaut Reprise.ini", "celle de la fenêtre");
     const Resultat r = piloter_texte(d, {"--sauver", "oui"}, "Avance 5\nAvance 300\n");
     EXPECT_EQ(r.code, 1); // the table could not hold 300
-    EXPECT_NE(r.erreurs.find("Erreur d'exécution : ligne 2, champ"), std::string::npos);
-    EXPECT_EQ(lire(reprise), "celle de la fenêtre");
-    EXPECT_NE(lire(d / "Configuration/Defaut Trajet1.ini").find("AVANCE    ,300"),
-              std::string::npos);
+    EXPECT_TRUE(contient(r.erreurs, "Erreur d'exécution : ligne 2, champ"));
+    EXPECT_EQ(lire_octets(reprise), "celle de la fenêtre");
+    EXPECT_TRUE(contient(lire_octets(d / "Configuration/Defaut Trajet1.ini"), "AVANCE    ,300"));
 }
 
 // What somebody types at a terminal, "\x04" being the end-of-file key.
@@ -120,10 +111,9 @@ TEST(Piloter, sur_un_terminal_la_position_est_montree_et_la_question_posee) {
     const Resultat r =
         piloter_a_la_main(d, {"--position", "60,40,0"}, "Avance 10\nTourne\nDroite 90\n\x04oui\n");
     EXPECT_EQ(r.code, 0);
-    EXPECT_NE(r.erreurs.find("x 70 y 40 cap -90°"), std::string::npos) << r.erreurs;
-    EXPECT_NE(r.erreurs.find("Ligne 2 : « Tourne » est inconnue"), std::string::npos);
-    EXPECT_NE(lire(d / "Configuration/Defaut Trajet1.ini").find("DROITE    ,90"),
-              std::string::npos);
+    EXPECT_TRUE(contient(r.erreurs, "x 70 y 40 cap -90°"));
+    EXPECT_TRUE(contient(r.erreurs, "Ligne 2 : « Tourne » est inconnue"));
+    EXPECT_TRUE(contient(lire_octets(d / "Configuration/Defaut Trajet1.ini"), "DROITE    ,90"));
 }
 
 TEST(Piloter, une_question_sans_reponse_garde_l_enregistrement) {
@@ -131,8 +121,8 @@ TEST(Piloter, une_question_sans_reponse_garde_l_enregistrement) {
     const Resultat r = piloter_a_la_main(d, {}, "Avance 10\n\x04\x04");
     EXPECT_EQ(r.code, 1);
     const fs::path reprise = d / "Configuration/Defaut Reprise.ini";
-    EXPECT_NE(lire(reprise).find("AVANCE"), std::string::npos);
-    EXPECT_NE(r.erreurs.find("gardé dans " + reprise.string()), std::string::npos) << r.erreurs;
+    EXPECT_TRUE(contient(lire_octets(reprise), "AVANCE"));
+    EXPECT_TRUE(contient(r.erreurs, "gardé dans " + reprise.string()));
     const DossierTemporaire autre;
     piloter_a_la_main(autre, {}, "Avance 10\n\x04non\n");
     EXPECT_FALSE(fs::exists(autre / "Configuration/Defaut Reprise.ini"));

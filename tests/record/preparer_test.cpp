@@ -106,11 +106,10 @@ TEST(Preparer, un_fichier_ecrit_a_la_main_se_pilote_aussi) {
         EXPECT_EQ(r.code, 0) << r.erreurs;
         EXPECT_EQ(piloter_et_sauver(pilote, options, fichier).code, 0);
         EXPECT_EQ(d.lire(generation), pilote.lire(generation));
-        EXPECT_NE(d.lire(generation).find("AVANCE:80\r\n"), std::string::npos);
+        EXPECT_TRUE(contient(d.lire(generation), "AVANCE:80\r\n"));
         EXPECT_EQ(d.lire(generation).find("CARREAUX:") != std::string::npos, *damier != 0);
-        EXPECT_NE(pilote.lire(trajet(1)).find("Init,60,40,90\r\nAVANCE    ,80\r\n"
-                                              "VIRAVDR   ,90,10\r\nBALISE DRO\r\n"),
-                  std::string::npos);
+        EXPECT_TRUE(contient(pilote.lire(trajet(1)), "Init,60,40,90\r\nAVANCE    ,80\r\n"
+                                                     "VIRAVDR   ,90,10\r\nBALISE DRO\r\n"));
     }
 }
 
@@ -129,8 +128,7 @@ TEST(Preparer, un_refus_nomme_fichier_et_ligne_et_n_ecrit_rien) {
         d.ecrire(generation, "l'ancienne");
         const Resultat r = preparer(d, {"--robot", "1", "--damier"});
         EXPECT_EQ(r.code, 1);
-        EXPECT_NE(r.erreurs.find("Defaut Trajet1.ini " + std::string(message)), std::string::npos)
-            << r.erreurs;
+        EXPECT_TRUE(contient(r.erreurs, "Defaut Trajet1.ini " + std::string(message)));
         EXPECT_EQ(d.lire(generation), "l'ancienne");
         EXPECT_FALSE(fs::exists(d / "Configuration/Sauvegardes"));
     }
@@ -141,12 +139,11 @@ TEST(Preparer, un_refus_nomme_fichier_et_ligne_et_n_ecrit_rien) {
         long_trajet += "Droite,0\n";
     d.ecrire(trajet(1), long_trajet);
     EXPECT_EQ(preparer(d, {"--robot", "1"}).code, 0);
-    EXPECT_EQ(d.lire(generation).find("CARREAUX"), std::string::npos);
+    EXPECT_FALSE(contient(d.lire(generation), "CARREAUX"));
     const std::string avant = d.lire(generation);
     const Resultat r = preparer(d, {"--robot", "1", "--damier"});
     EXPECT_EQ(r.code, 1);
-    EXPECT_NE(r.erreurs.find("Ligne 501 : le tableau à générer est plein"), std::string::npos)
-        << r.erreurs;
+    EXPECT_TRUE(contient(r.erreurs, "Ligne 501 : le tableau à générer est plein"));
     EXPECT_EQ(d.lire(generation), avant);
     EXPECT_EQ(preparer(d, {}).code, 2);
     EXPECT_EQ(preparer(d, {"--robot", "0"}).code, 2);
@@ -159,8 +156,8 @@ TEST(Preparer, les_balises_courtes_sont_dites_et_l_ancienne_version_gardee) {
     d.ecrire(generation, "l'ancienne");
     const Resultat r = preparer(d, {"--robot", "1"});
     EXPECT_EQ(r.code, 0);
-    EXPECT_NE(r.erreurs.find("Defaut Trajet1.ini Ligne 3 : « BD » n'est pas lu par le simulateur"),
-              std::string::npos);
+    EXPECT_TRUE(
+        contient(r.erreurs, "Defaut Trajet1.ini Ligne 3 : « BD » n'est pas lu par le simulateur"));
     EXPECT_TRUE(d.lire(generation).ends_with("AVANCE:5\r\nBALDROITE\r\n"));
     const auto copie = fs::directory_iterator(d / "Configuration/Sauvegardes")->path();
     EXPECT_EQ(d.lire("Configuration/Sauvegardes/" + copie.filename().string()), "l'ancienne");
@@ -181,13 +178,13 @@ TEST(Piloter, apres_fin_ou_une_action_certaines_lignes_n_ont_plus_de_place) {
         d.ecrire("Configuration/Defaut Table.ini", "U,0,0,210,300\nY,190,30,3\nX,20,250,3\n");
         const Resultat r = piloter_et_sauver(d, {"--robot", "1"}, commandes);
         EXPECT_EQ(r.code, 2);
-        EXPECT_NE(r.erreurs.find(message), std::string::npos) << r.erreurs;
-        EXPECT_NE(d.lire(trajet(1)).find(ecrit), std::string::npos) << d.lire(trajet(1));
+        EXPECT_TRUE(contient(r.erreurs, message));
+        EXPECT_TRUE(contient(d.lire(trajet(1)), ecrit));
     }
     const DossierTemporaire d; // --position comes before the file's
     const Resultat r = piloter_et_sauver(d, {"--position", "7,8,9"}, "Init,1,2,3\nAvance,5\n");
-    EXPECT_NE(r.erreurs.find("Ligne 1 : --position remplace cette position"), std::string::npos);
-    EXPECT_NE(d.lire(trajet(1)).find("Init,7,8,9"), std::string::npos);
+    EXPECT_TRUE(contient(r.erreurs, "Ligne 1 : --position remplace cette position"));
+    EXPECT_TRUE(contient(d.lire(trajet(1)), "Init,7,8,9"));
 }
 
 } // namespace

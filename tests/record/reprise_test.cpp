@@ -21,7 +21,7 @@ TEST(Reprise, ce_qui_est_enregistre_revient_au_demarrage_suivant) {
     apres.d.ecrire("Defaut Reprise.ini", avant.d.lire("Defaut Reprise.ini"));
     apres.f.reponses = {true};
     EXPECT_TRUE(apres.reprise.proposer(apres.f));
-    EXPECT_NE(apres.f.appels.front().find("projet Defaut, robot 2 (3 actions)"), std::string::npos);
+    EXPECT_TRUE(contient(apres.f.appels.front(), "projet Defaut, robot 2 (3 actions)"));
     EXPECT_EQ(apres.trajet(2), "AVANCE    ,10,0;BALISE DRO,0,0;VIRARGA   ,90,255;");
     EXPECT_EQ(apres.table(), avant.table());
     EXPECT_EQ(apres.e.nb_a_generer, avant.e.nb_a_generer);
@@ -73,7 +73,7 @@ TEST(Reprise, un_refus_le_met_dans_les_sauvegardes) {
     EXPECT_EQ(b.table(), "1,10,0;");
     EXPECT_TRUE(b.e.TrajetModifie(1));
     EXPECT_EQ(b.reprise.gardes().size(), 2U);
-    EXPECT_NE(b.d.lire("Defaut Reprise.ini").find("Action,AVANCE    ,10,0"), std::string::npos);
+    EXPECT_TRUE(contient(b.d.lire("Defaut Reprise.ini"), "Action,AVANCE    ,10,0"));
 }
 
 // The loading failed, not the recording.
@@ -91,7 +91,7 @@ TEST(Reprise, un_projet_qui_ne_se_charge_pas_laisse_l_enregistrement_en_place) {
         throw Debordement(40000);
     }));
     EXPECT_EQ(suivant.d.lire("Finale Reprise.ini"), contenu);
-    EXPECT_NE(suivant.f.messages.at(0).find("proposé au prochain démarrage"), std::string::npos);
+    EXPECT_TRUE(contient(suivant.f.messages.at(0), "proposé au prochain démarrage"));
     // What is recorded then does not take its place without a copy.
     suivant.debuter();
     suivant.jouer("Recule", "3");
@@ -115,24 +115,6 @@ TEST(Reprise, ce_qui_est_abandonne_est_garde_et_plus_propose) {
     sans_place.reprise.abandonner(sans_place.f);
     EXPECT_EQ(sans_place.f.messages.size(), 1U);
     EXPECT_TRUE(std::filesystem::exists(sans_place.reprise.chemin()));
-}
-
-TEST(Reprise, un_autre_projet_est_charge_avant_si_l_appelant_le_peut) {
-    BancConsole b;
-    b.e.NomProjet = "Finale";
-    b.debuter();
-    b.jouer("Avance", "10");
-    b.e.NomProjet = "Defaut";
-    EXPECT_FALSE(b.reprise.proposer(b.f));
-    std::string charge;
-    b.f.reponses = {true};
-    EXPECT_TRUE(b.reprise.proposer(b.f, [&](const std::string& projet) {
-        charge = projet;
-        b.e.NomProjet = projet;
-        Init_Jeu_Old(b.e);
-    }));
-    EXPECT_EQ(charge, "Finale");
-    EXPECT_EQ(b.trajet(1), "AVANCE    ,10,0;");
 }
 
 TEST(Reprise, un_fichier_abime_est_dit_et_mis_de_cote) {
@@ -162,7 +144,7 @@ TEST(Reprise, un_fichier_abime_est_dit_et_mis_de_cote) {
         b.d.ecrire("Defaut Reprise.ini", c.contenu);
         EXPECT_FALSE(b.reprise.proposer(b.f));
         ASSERT_EQ(b.f.messages.size(), 1U);
-        EXPECT_NE(b.f.messages[0].find(c.raison), std::string::npos) << b.f.messages[0];
+        EXPECT_TRUE(contient(b.f.messages[0], c.raison));
         EXPECT_FALSE(std::filesystem::exists(b.reprise.chemin()));
         EXPECT_EQ(b.d.lire("Defaut Reprise.ini.illisible"), c.contenu);
         EXPECT_EQ(b.table(), "");
@@ -170,7 +152,7 @@ TEST(Reprise, un_fichier_abime_est_dit_et_mis_de_cote) {
     BancConsole b;
     std::filesystem::create_directory(b.reprise.chemin());
     EXPECT_FALSE(b.reprise.proposer(b.f));
-    EXPECT_NE(b.f.messages.at(0).find("c'est un dossier"), std::string::npos);
+    EXPECT_TRUE(contient(b.f.messages.at(0), "c'est un dossier"));
 }
 
 TEST(Reprise, les_tables_pleines_reviennent_et_pas_une_ligne_de_plus) {

@@ -2,6 +2,7 @@
 
 #include "outils/dossier_temporaire.h"
 #include "outils/fausses_fenetres.h"
+#include "outils/textes.h"
 
 #include <gtest/gtest.h>
 
@@ -168,7 +169,7 @@ TEST_F(SeanceTest, ce_qui_ne_peut_pas_etre_ecrit_va_ailleurs_ou_retient) {
     f.reponses = {true, true};
     EXPECT_TRUE(seance.SauvRobot());
     EXPECT_EQ(f.appels.back(), "information Le trajet est écrit dans " + ailleurs.string());
-    EXPECT_NE(d.lire("partie/Defaut Trajet1.ini").find("AVANCE    ,50"), std::string::npos);
+    EXPECT_TRUE(contient(d.lire("partie/Defaut Trajet1.ini"), "AVANCE    ,50"));
     f.reponses = {false, true}; // refused, and given up
     enregistrer();
     EXPECT_TRUE(seance.SauvRobot());

@@ -94,37 +94,6 @@ TEST(ActionTourne, l_incidence_suit_le_cap_du_tick_precedent) {
     }
 }
 
-TEST(ActionVirage, deplace_l_origine_de_tous_les_capteurs_et_laisse_leur_extremite) {
-    Banc b;
-    b.e.NbRobot = 2;
-    b.e.Xm(2) = 7;
-    b.e.Xextr(2) = 3;
-    b.jouer(1, actions::VIRAVGA, 90, 20);
-    EXPECT_NEAR(b.e.Xm(2), 27, 2e-3);
-    EXPECT_NEAR(b.e.Ym(2), 20, 2e-3);
-    EXPECT_FLOAT_EQ(b.e.Xextr(2), 3);
-    EXPECT_FLOAT_EQ(b.e.Incidence, 0);
-    EXPECT_EQ(b.f.Info, "");
-}
-
-TEST(ExecuterActions, charge_l_action_suivante_en_un_tick_de_repos) {
-    Banc b;
-    b.ajouter(1, actions::AVANCE, 2);
-    b.ajouter(1, actions::DROITE, 3);
-    b.e.Progression(1) = 99;
-    b.m.Executer_Actions();
-    EXPECT_EQ(b.e.ActionEnCours(1), actions::AVANCE);
-    EXPECT_FLOAT_EQ(b.e.XRobot(1), 0);
-    EXPECT_FLOAT_EQ(b.e.Progression(1), 0);
-    for (int i = 0; i < 3; ++i)
-        b.m.Executer_Actions();
-    EXPECT_EQ(b.e.ActionEnCours(1), actions::DROITE);
-    for (int i = 0; i < 4; ++i)
-        b.m.Executer_Actions();
-    EXPECT_EQ(b.e.ActionEnCours(1), actions::FIN);
-    EXPECT_EQ(b.e.NumAction(1), 2);
-}
-
 TEST(ExecuterActions, le_robot_de_la_console_arrete_l_horloge_au_lieu_de_charger) {
     Banc b;
     b.ajouter(1, actions::AVANCE, 2);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "outils/fausses_fenetres.h"
+#include "outils/trajet_essai.h"
 #include "sim/actions.h"
 #include "sim/moteur.h"
 
@@ -14,22 +15,10 @@ struct Banc {
     FaussesFenetres f;
     Moteur m{*etat, f};
 
-    Banc() {
-        e.XMax = 200;
-        e.YMax = 320;
-        for (int i = 1; i <= 9; ++i) {
-            e.VitesseLin(i) = 1;
-            e.VitesseRot(i) = 1;
-            e.Entraxe(i) = 10;
-        }
-    }
+    Banc() { preparer_essai(e); }
 
     void ajouter(int i, Nom10 action, int p1 = 0, int p2 = 0) {
-        const Entier16 n = e.TrajNbActions(i) + 1;
-        e.TrajNbActions(i) = n;
-        e.TrajAction(i, n) = action;
-        e.TrajParam1(i, n) = p1;
-        e.TrajParam2(i, n) = p2;
+        ajouter_action(e, i, action, p1, p2);
     }
 
     /// Gives robot i an action and plays it to its end. @returns the ticks it took (at most 2000)

@@ -1,3 +1,4 @@
+#include "outils/textes.h"
 #include "sim/actions.h"
 #include "sim/textes_etat.h"
 
@@ -34,9 +35,7 @@ TEST(LigneMess, arrondit_la_progression_sans_signe_et_donne_l_unite) {
         LigneMess mess;
         mess.ActionEnCours = mess.action_pour_l_unite = c.action;
         mess.Progression = c.progression;
-        EXPECT_NE(mess.texte().vue().find(std::string(c.action.vue()) + c.fin),
-                  std::string_view::npos)
-            << mess.texte().vue();
+        EXPECT_TRUE(contient(mess.texte().vue(), std::string(c.action.vue()) + c.fin));
     }
 }
 

@@ -1,7 +1,6 @@
 #include "ui/commun/application_sure.h"
 
 #include "ui/banc.h"
-#include "ui/principale/editeurs.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -122,41 +121,6 @@ TEST_F(PanneDansUnGestionnaire, ce_qui_revient_seul_n_est_redit_qu_apres_avoir_r
         QTest::mousePress(&f, Qt::LeftButton);
         attendre(n);
     }
-}
-
-TEST_F(PanneDansUnGestionnaire, un_robot_que_la_table_ne_peut_porter_laisse_l_editeur_ouvert) {
-    dossier.ecrire("Configuration/Tavolmex.ini", "Horizontale, 1\r\n");
-    dossier.ecrire("Configuration/Defaut Table.ini", "L,0,0,200,320\r\nLE,50,20,50,60\r\n");
-    demarrer();
-    messages.clear();
-    fins.clear();
-    cliquer("dessinAire");
-    trouver<QRadioButton>("chx_dessinRobot").click();
-    auto& onglets = trouver<QTabWidget>("onglets");
-    auto* barre = onglets.findChild<QTabBar*>();
-    QTest::mouseClick(barre, Qt::LeftButton, {}, barre->tabRect(2).center());
-    attendre(1);
-    EXPECT_TRUE(messages.front().starts_with(boite)) << messages.front();
-    EXPECT_TRUE(onglets.isVisible());
-    EXPECT_TRUE(fins.empty());
-}
-
-TEST_F(PanneDansUnGestionnaire, palette_et_proprietes_d_un_editeur) {
-    demarrer();
-    cliquer("dessinAire");
-    auto& palette = trouver<Foutil>("Foutil");
-    palette.au_choix_d_outil = [] { throw std::runtime_error("outil"); };
-    cliquer("outil_L");
-    attendre(1);
-    PanneauProprietes panneau(nullptr);
-    panneau.au_nombre = [](std::size_t, double) { throw std::runtime_error("nombre"); };
-    panneau.montrer("Essai", {{"X1", "X1", " cm", 0, 100, 5}});
-    panneau.show();
-    auto& nombre = *panneau.findChild<QDoubleSpinBox*>("X1");
-    nombre.selectAll();
-    QTest::keyClicks(&nombre, "35\r");
-    attendre(2);
-    EXPECT_EQ(messages, (std::vector{boite + "outil", boite + "nombre"}));
 }
 
 } // namespace

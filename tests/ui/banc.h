@@ -1,6 +1,7 @@
 #pragma once
 
 #include "outils/dossier_temporaire.h"
+#include "outils/textes.h"
 #include "ui/principale/sim1.h"
 #include "ui/script.h"
 

@@ -1,30 +1,21 @@
 #pragma once
 
-#include "ui/banc.h"
-#include "ui/principale/editeurs.h"
-
-#include <QAction>
-#include <QListWidget>
+#include "ui/banc_editeur.h"
 
 inline constexpr std::string_view fichier = "# essai\r\nM,,Table\r\nU,0,0,100,100 # sol\r\n"
                                             "\r\nPB,50,50,5\r\npas compris 1\r\nLN,10,80,90,80\r\n";
 
 /// The table editor on a file of its own, driven by the mouse. The name dialog is answered
 /// from `noms` ("Annuler" when it is empty).
-class EditeurTable : public Banc {
+class EditeurTable : public BancEditeur<dessinTable, VueTable> {
 protected:
-    EditeurTable() {
+    EditeurTable() : BancEditeur("dessinTable", "vueTable", "listeObjets") {
         dialogues["nouveauProjet"] = [this](QDialog& dialogue) {
             while (dialogue.isVisible()) // it stays after a refusal: the name may be changed
                 repondre_nom(dialogue);
         };
-        demarrer();
-        cliquer("dessinAire");
     }
 
-    dessinTable& editeur() { return trouver<dessinTable>("dessinTable"); }
-    VueTable& vue() { return trouver<VueTable>("vueTable"); }
-    const DocumentTable& doc() { return editeur().document(); }
     bool ouvrir(std::string_view octets = fichier) {
         const auto chemin = dossier.ecrire("Configuration/Essai Table.ini", octets);
         const bool ouvert = editeur().ouvrir(chemin);
@@ -33,23 +24,6 @@ protected:
         return ouvert;
     }
     std::string sur_le_disque() { return dossier.lire("Configuration/Essai Table.ini"); }
-    void commande(const char* nom) {
-        editeur().findChild<QAction*>(nom)->trigger();
-        QCoreApplication::sendPostedEvents(&editeur(), QEvent::MetaCall);
-    }
-    QPoint en(double x, double y) { return vue().en_pixels(QPointF(x, y)).toPoint(); }
-    void clic(double x, double y, Qt::KeyboardModifiers touches = {}) {
-        QTest::mouseClick(&vue(), Qt::LeftButton, touches, en(x, y));
-    }
-    void tirer(QPointF a, QPointF b, Qt::KeyboardModifiers touches = {}) {
-        QTest::mousePress(&vue(), Qt::LeftButton, touches, en(a.x(), a.y()));
-        for (const QPointF& p : {(a + b) / 2, b}) {
-            QMouseEvent e(QEvent::MouseMove, en(p.x(), p.y()), vue().mapToGlobal(en(p.x(), p.y())),
-                          Qt::NoButton, Qt::LeftButton, touches);
-            QApplication::sendEvent(&vue(), &e);
-        }
-        QTest::mouseRelease(&vue(), Qt::LeftButton, touches, en(b.x(), b.y()));
-    }
     /// Chooses what is there and moves it.
     void deplacer(QPointF a, QPointF b, Qt::KeyboardModifiers touches = {}) {
         clic(a.x(), a.y());

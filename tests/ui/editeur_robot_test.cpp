@@ -1,10 +1,6 @@
-#include "ui/principale/editeurs.h"
+#include "ui/banc_editeur.h"
 
-#include "ui/banc.h"
-
-#include <QAction>
 #include <QDropEvent>
-#include <QListWidget>
 #include <QMimeData>
 
 namespace {
@@ -14,38 +10,15 @@ constexpr std::string_view fichier_robot =
     "R,0,0,0,34 # gauche\r\nR,0,0,20,0\r\n";
 
 /// The robot editor on a file of its own, driven by the mouse.
-class EditeurRobot : public Banc {
+class EditeurRobot : public BancEditeur<dessinRobot, VueRobot> {
 protected:
-    EditeurRobot() {
-        demarrer();
-        cliquer("dessinAire");
+    EditeurRobot() : BancEditeur("dessinRobot", "vueRobot", "listeSegments") {
         trouver<QRadioButton>("chx_dessinRobot").setChecked(true);
         editeur().ouvrir(dossier.ecrire("Configuration/Essai Robot2.ini", fichier_robot));
         vue().resize(500, 500);
         vue().ajuster();
     }
 
-    dessinRobot& editeur() { return trouver<dessinRobot>("dessinRobot"); }
-    VueRobot& vue() { return trouver<VueRobot>("vueRobot"); }
-    const DocumentRobot& doc() { return editeur().document(); }
-    void commande(const char* nom) {
-        editeur().findChild<QAction*>(nom)->trigger();
-        QCoreApplication::sendPostedEvents(&editeur(), QEvent::MetaCall);
-    }
-    static void tirer(VueEchelle& vue, QPointF a, QPointF b, Qt::KeyboardModifiers touches = {}) {
-        const auto en = [&](QPointF cm) { return vue.en_pixels(cm).toPoint(); };
-        QTest::mousePress(&vue, Qt::LeftButton, touches, en(a));
-        for (const QPointF& p : {(a + b) / 2, b}) {
-            QMouseEvent e(QEvent::MouseMove, en(p), vue.mapToGlobal(en(p)), Qt::NoButton,
-                          Qt::LeftButton, touches);
-            QApplication::sendEvent(&vue, &e);
-        }
-        QTest::mouseRelease(&vue, Qt::LeftButton, touches, en(b));
-    }
-    void clic(double x, double y, Qt::KeyboardModifiers touches = {}) {
-        QTest::mouseClick(&vue(), Qt::LeftButton, touches,
-                          vue().en_pixels(QPointF(x, y)).toPoint());
-    }
     std::string nombres(std::string_view cle) {
         std::string t;
         for (std::size_t i = 0; i < champs_robot(cle); ++i)
@@ -62,7 +35,7 @@ TEST_F(EditeurRobot, les_outils_tracent_des_segments_et_tout_s_annule) {
     clic(5, 20);
     EXPECT_EQ(nombres("R"), "0 20 10 20");
     cliquer("outil_Ligne");
-    tirer(vue(), {-2, 3}, {12, 25});
+    tirer({-2, 3}, {12, 25});
     EXPECT_EQ(nombres("R"), "-2 3 12 25");
     QMimeData donnees;
     donnees.setData(BoutonOutil::format, "outil_Verticale");
@@ -73,7 +46,7 @@ TEST_F(EditeurRobot, les_outils_tracent_des_segments_et_tout_s_annule) {
     QApplication::sendEvent(&vue(), &lacher);
     EXPECT_EQ(nombres("R"), "15 15 15 25");
     clic(15, 22);
-    tirer(vue(), {15, 25}, {18, 29}); // one end
+    tirer({15, 25}, {18, 29}); // one end
     EXPECT_EQ(nombres("R"), "15 15 18 29");
     commande("pas_haut_1");
     EXPECT_EQ(nombres("R"), "15 16 18 30");
@@ -87,31 +60,31 @@ TEST_F(EditeurRobot, les_outils_tracent_des_segments_et_tout_s_annule) {
 }
 
 TEST_F(EditeurRobot, reperes_tires_a_la_souris_ou_donnes_en_nombres) {
-    tirer(vue(), {10, 14}, {12, 16});
+    tirer({10, 14}, {12, 16});
     EXPECT_EQ(nombres("A"), "12 16 10");
-    tirer(vue(), {10, 30}, {13, 28});
+    tirer({10, 30}, {13, 28});
     EXPECT_EQ(nombres("E"), "13 28 16");
-    tirer(vue(), {17, 16}, {20, 16}); // a wheel
+    tirer({17, 16}, {20, 16}); // a wheel
     EXPECT_EQ(nombres("A"), "12 16 16");
     auto& A1 = trouver<QDoubleSpinBox>("A1");
     EXPECT_EQ(A1.text(), "12 cm");
     A1.selectAll();
     QTest::keyClicks(&A1, "9.5\r"); // whatever the language's own sign
     EXPECT_EQ(A1.text(), "9,5 cm");
-    EXPECT_NE(doc().ecrire().find("A , 9.5, 16, 16\r\n"), std::string::npos);
+    EXPECT_TRUE(contient(doc().ecrire(), "A , 9.5, 16, 16\r\n"));
     trouver<QDoubleSpinBox>("V2").setValue(45);
     EXPECT_EQ(nombres("V"), "100 45");
     trouver<QTabWidget>("onglets").setCurrentIndex(2);
     auto& apercu = trouver<ApercuRobot>("apercuRobot");
     apercu.resize(300, 400);
     apercu.ajuster();
-    tirer(apercu, {100, 60}, {120, 90});
+    ::tirer(apercu, {100, 60}, {120, 90});
     EXPECT_EQ(nombres("I"), "120 90 0");
     const QPointF robot = apercu.en_pixels(QPointF(120, 90));
-    tirer(apercu, apercu.en_cm(robot + QPointF(56, 0)), {121, 140}); // its arrow
+    ::tirer(apercu, apercu.en_cm(robot + QPointF(56, 0)), {121, 140}); // its arrow
     EXPECT_EQ(nombres("I"), "120 90 90");
-    tirer(apercu, apercu.en_cm(robot - QPointF(0, 56)), apercu.en_cm(robot + QPointF(-150, -29.16)),
-          Qt::AltModifier);
+    ::tirer(apercu, apercu.en_cm(robot - QPointF(0, 56)),
+            apercu.en_cm(robot + QPointF(-150, -29.16)), Qt::AltModifier);
     EXPECT_EQ(nombres("I"), "120 90 169");
     for (int i = 0; i < 8; ++i)
         commande("annuler");
@@ -169,45 +142,32 @@ TEST_F(EditeurRobot, enregistre_et_charge_le_projet) {
 TEST_F(EditeurRobot, la_liste_montre_les_segments_et_se_parcourt_au_clavier) {
     commande("miroir"); // a third one
     auto& liste = trouver<QListWidget>("listeSegments");
-    const auto lignes = [&](const QList<QListWidgetItem*>& items) {
-        QStringList textes;
-        for (const QListWidgetItem* item : items)
-            textes += item->text();
-        return textes.join(" | ").toStdString();
-    };
-    EXPECT_EQ(lignes(liste.findItems("*", Qt::MatchWildcard)),
-              "0, 0 – 0, 34 | 0, 0 – 20, 0 | 20, 0 – 20, 34");
+    liste.selectAll();
+    EXPECT_EQ(choisis(), "0, 0 – 0, 34 | 0, 0 – 20, 0 | 20, 0 – 20, 34");
     liste.clearSelection();
     liste.setCurrentRow(0);
     EXPECT_EQ(trouver<QDoubleSpinBox>("Y2").value(), 34);
     for (const char* suivant : {"0, 0 – 20, 0", "20, 0 – 20, 34"}) {
         QTest::keyClick(&liste, Qt::Key_Down);
-        EXPECT_EQ(lignes(liste.selectedItems()), suivant);
+        EXPECT_EQ(choisis(), suivant);
     }
     QTest::keyClick(&liste, Qt::Key_Up, Qt::ShiftModifier);
     EXPECT_EQ(liste.selectedItems().size(), 2);
     clic(10, 0); // the keys go on from what the mouse has chosen
     QTest::keyClick(&liste, Qt::Key_Up);
-    EXPECT_EQ(lignes(liste.selectedItems()), "0, 0 – 0, 34");
+    EXPECT_EQ(choisis(), "0, 0 – 0, 34");
 }
 
 TEST_F(EditeurRobot, un_rectangle_choisit_les_segments_qu_il_contient) {
     commande("miroir");
-    auto& liste = trouver<QListWidget>("listeSegments");
-    const auto choisis = [&] {
-        QStringList textes;
-        for (const QListWidgetItem* item : liste.selectedItems())
-            textes += item->text();
-        return textes.join(" | ").toStdString();
-    };
-    tirer(vue(), {-3, -2}, {22, 3});
+    tirer({-3, -2}, {22, 3});
     EXPECT_EQ(choisis(), "0, 0 – 20, 0") << "not what only begins in it";
-    tirer(vue(), {-3, -2}, {3, 36}, Qt::ShiftModifier);
+    tirer({-3, -2}, {3, 36}, Qt::ShiftModifier);
     EXPECT_EQ(choisis(), "0, 0 – 0, 34 | 0, 0 – 20, 0");
     clic(0, 25); // a click on one of them
     EXPECT_EQ(choisis(), "0, 0 – 0, 34");
-    tirer(vue(), {-3, -2}, {24, 36});
-    EXPECT_EQ(liste.selectedItems().size(), 3);
+    tirer({-3, -2}, {24, 36});
+    EXPECT_EQ(choisis(), "0, 0 – 0, 34 | 0, 0 – 20, 0 | 20, 0 – 20, 34");
     clic(4, 25);
     EXPECT_EQ(choisis(), "") << "nothing lies there";
 }

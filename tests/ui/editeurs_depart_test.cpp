@@ -52,14 +52,14 @@ TEST_F(Depart, enregistrer_prend_d_abord_ce_qui_est_tape) {
     taper("X1", "35");
     reponses = {true, false};
     commande("enregistrer");
-    EXPECT_NE(sur_le_disque().find("O , 35, 10, 80, 80"), std::string::npos) << sur_le_disque();
+    EXPECT_TRUE(contient(sur_le_disque(), "O , 35, 10, 80, 80"));
     EXPECT_FALSE(editeur().isWindowModified());
     taper("X1", "12,5");
     messages.clear();
     commande("enregistrer");
     ASSERT_EQ(messages.size(), 1U);
     EXPECT_EQ(messages[0].find("message: X1 : « 12,5 » est refusé"), 0U) << messages[0];
-    EXPECT_NE(sur_le_disque().find("O , 35,"), std::string::npos);
+    EXPECT_TRUE(contient(sur_le_disque(), "O , 35,"));
     EXPECT_EQ(dernier("O"), "O 35 10 80 80");
 }
 
@@ -72,7 +72,7 @@ TEST_F(Depart, seul_ce_qui_est_ecrit_compte_comme_enregistre) {
     };
     reponses = {true, false};
     commande("enregistrer");
-    EXPECT_NE(sur_le_disque().find("O , 15, 10, 85, 80"), std::string::npos) << sur_le_disque();
+    EXPECT_TRUE(contient(sur_le_disque(), "O , 15, 10, 85, 80"));
     EXPECT_EQ(dernier("O"), "O 15 20 85 90");
     EXPECT_TRUE(editeur().isWindowModified());
 }
@@ -110,7 +110,7 @@ TEST_F(Depart, quitter_demande_tout_avant_de_toucher_a_rien) {
     reponses = {true, false};
     cliquer("Command4");
     EXPECT_EQ(fins, std::vector<int>{0});
-    EXPECT_NE(dossier.lire("Configuration/Essai Robot1.ini").find("V , 80, 90"), std::string::npos);
+    EXPECT_TRUE(contient(dossier.lire("Configuration/Essai Robot1.ini"), "V , 80, 90"));
     EXPECT_FALSE(RepriseDessin::en_attente(dossier / "Configuration"));
 }
 
@@ -130,7 +130,7 @@ TEST_F(Depart, un_dessin_coupe_en_plein_travail_est_propose_et_repris) {
     EXPECT_EQ(messages.size(), 1U);
     reponses = {true, true, false};
     commande("enregistrer");
-    EXPECT_NE(sur_le_disque().find("PB , 60, 60, 5"), std::string::npos) << sur_le_disque();
+    EXPECT_TRUE(contient(sur_le_disque(), "PB , 60, 60, 5"));
     EXPECT_FALSE(RepriseDessin::en_attente(dossier / "Configuration"));
     recommencer({});
     EXPECT_TRUE(messages.empty());
@@ -180,7 +180,7 @@ TEST_F(Depart, un_second_programme_ne_prend_pas_le_dessin_du_premier) {
     messages.clear();
     demarrer();
     ASSERT_EQ(messages.size(), 1U);
-    EXPECT_NE(messages[0].find("déjà ouvert"), std::string::npos) << messages[0];
+    EXPECT_TRUE(contient(messages[0], "déjà ouvert"));
     cliquer("dessinAire");
     cliquer("outil_L");
     clic(50, 50);
@@ -189,7 +189,7 @@ TEST_F(Depart, un_second_programme_ne_prend_pas_le_dessin_du_premier) {
     EXPECT_TRUE(fs::exists(reprise(2)));
     recommencer({true, true}); // the second's own is still offered, after the notice
     ASSERT_EQ(messages.size(), 2U);
-    EXPECT_NE(messages[1].find("sans nom"), std::string::npos) << messages[1];
+    EXPECT_TRUE(contient(messages[1], "sans nom"));
 }
 
 TEST_F(Depart, une_reprise_illisible_est_dite_et_mise_de_cote) {

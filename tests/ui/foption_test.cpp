@@ -71,26 +71,12 @@ TEST_F(Options, le_nombre_de_robots_ne_fait_que_descendre_sauf_par_le_menu) {
 }
 
 TEST_F(Options, vers_le_haut_c_est_plus) {
-    struct Geste {
-        const char* nom;
-        std::function<void(QWidget&)> faire;
-        int attendu;
-    };
-    for (const Geste& g :
-         {Geste{"key up", [](QWidget& b) { QTest::keyClick(&b, Qt::Key_Up); }, 2},
-          Geste{"upper arrow",
-                [](QWidget& b) {
-                    QTest::mouseClick(&b, Qt::LeftButton, {}, {b.width() / 2, 3});
-                },
-                2},
-          Geste{"lower arrow",
-                [](QWidget& b) {
-                    QTest::mouseClick(&b, Qt::LeftButton, {}, {b.width() / 2, b.height() - 3});
-                },
-                1}}) {
+    for (const bool en_haut : {true, false}) {
         demarrer();
-        g.faire(trouver<QScrollBar>("VScroll1"));
-        EXPECT_EQ(e().NbRobot, g.attendu) << g.nom;
+        auto& barre = trouver<QScrollBar>("VScroll1");
+        const QPoint fleche(barre.width() / 2, en_haut ? 3 : barre.height() - 3);
+        QTest::mouseClick(&barre, Qt::LeftButton, {}, fleche);
+        EXPECT_EQ(e().NbRobot, en_haut ? 2 : 1);
     }
 }
 

@@ -1,9 +1,11 @@
 #include "ui/commun/nombre.h"
 
+#include "outils/textes.h"
 #include <QApplication>
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QTest>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -32,7 +34,7 @@ void essayer(Champ& champ, const std::vector<Frappe>& frappes) {
         QTest::keyClick(&champ, Qt::Key_Return);
         EXPECT_EQ(champ.value(), f.valeur) << f.touches;
         const std::string dit = fenetre.statusBar()->currentMessage().toStdString();
-        EXPECT_NE(dit.find(f.dit), std::string::npos) << f.touches << ": " << dit;
+        EXPECT_TRUE(contient(dit, f.dit)) << f.touches << ": ";
         EXPECT_EQ(dit.empty(), f.valeur != 7) << dit;
     }
     fenetre.takeCentralWidget();

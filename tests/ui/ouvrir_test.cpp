@@ -62,9 +62,9 @@ TEST_F(Charger, le_projet_choisi_est_cree_lu_dessine_et_retenu) {
     EXPECT_TRUE(options().modifie);
     EXPECT_TRUE(messages.empty()) << messages[0];
     // The settings had not been modified when the choice was made: they are written on leaving.
-    EXPECT_EQ(general().find("Essai"), std::string::npos);
+    EXPECT_FALSE(contient(general(), "Essai"));
     cliquer("Command4");
-    EXPECT_NE(general().find("Défaut , Essai\r\n"), std::string::npos);
+    EXPECT_TRUE(contient(general(), "Défaut , Essai\r\n"));
 }
 
 TEST_F(Charger, annuler_ne_relit_rien_meme_apres_un_chargement) {
@@ -143,7 +143,7 @@ TEST_F(Charger, une_session_entiere) {
     cocher("utiliDamier", true);
     trouver<QScrollBar>("VScroll1").setValue(3);
     charger([](Ouvrir& o) { choisir(o, "Essai"); });
-    EXPECT_NE(general().find("Défaut , Essai\r\n"), std::string::npos); // already modified
+    EXPECT_TRUE(contient(general(), "Défaut , Essai\r\n")); // already modified
     cliquer("Command1");
     EXPECT_TRUE(seance().en_marche());
     cliquer("Command1");
@@ -153,9 +153,9 @@ TEST_F(Charger, une_session_entiere) {
     EXPECT_EQ(fins, (std::vector{0, 0}));
     const std::string attendu = "Défaut , Essai\r\nRapide,0\r\nAllege,1\r\nNbRobot,3\r\n"
                                 "Horizontale,0\r\n";
-    EXPECT_NE(general().find(attendu), std::string::npos) << general();
+    EXPECT_TRUE(contient(general(), attendu));
     ASSERT_EQ(messages.size(), 2U);
-    EXPECT_NE(messages[1].find("Essai PourGenerer10.ini"), std::string::npos);
+    EXPECT_TRUE(contient(messages[1], "Essai PourGenerer10.ini"));
 }
 
 } // namespace

@@ -9,17 +9,21 @@ namespace {
 
 class FichiersChanges : public Banc {
 protected:
-    static constexpr const char* table = "L,0,0,90,50\r\n";
-
     std::filesystem::path chemin(const std::string& nom) const {
         return dossier / ("Configuration/Defaut " + nom);
     }
     void ecrire(const std::string& nom, std::string_view octets) const {
         std::ofstream(chemin(nom), std::ios::binary) << octets;
     }
-    void attendre() {
-        QTest::qWait(2 * Veilleur::attente_ms);
-        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    /// What must not come is given the time to come.
+    static void laisser_passer() { QTest::qWait(2 * Veilleur::attente_ms); }
+    template <typename Condition>
+    void attendre(Condition condition) {
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return condition() && QApplication::activeModalWidget() == nullptr; }));
+    }
+    void attendre_relecture(const std::string& noms) {
+        attendre([&] { return etat() == "Relu après un changement : " + noms; });
     }
     std::string etat() { return trouver<LigneTexte>("Mess").texte().toStdString(); }
 };
@@ -32,29 +36,37 @@ TEST_F(FichiersChanges, ecrit_remplace_ou_recree_le_fichier_est_relu) {
         [this] { ecrire("Table.ini", "L,0,0,92,50\r\n"); }, // the replaced file is still watched
         [this] {
             std::filesystem::remove(chemin("Table.ini"));
-            QTest::qWait(2 * Veilleur::attente_ms);
+            laisser_passer();
             EXPECT_EQ(e().XMax, 92);
             ecrire("Table.ini", "L,0,0,93,50\r\n");
         }};
     int x = 90;
     for (const auto& maniere : manieres) {
+        fenetres().ecrire_texte_Mess("");
         maniere();
-        attendre();
+        attendre_relecture("Defaut Table.ini");
         EXPECT_EQ(e().XMax, x++);
-        EXPECT_EQ(etat(), "Relu après un changement : Defaut Table.ini");
     }
     EXPECT_TRUE(messages.empty());
 }
 
-TEST_F(FichiersChanges, une_table_relue_laisse_les_robots_ou_ils_sont) {
+TEST_F(FichiersChanges, une_relecture_laisse_robots_logo_et_banniere_a_leur_place) {
+    const std::string avec_nom = "L,0,0,200,320\r\nM,Finale de Troyes\r\n";
+    dossier.ecrire("Configuration/Defaut Table.ini", avec_nom);
     demarrer();
     cocher("Check3", true);
     e().XRobot(1) = 40;
     e().YRobot(1) = 60;
     e().TrajetModifie(1) = true; // a table takes nothing away from a recording
+    const auto places = [this] {
+        for (const char* nom : {"logo", "LNom"})
+            EXPECT_TRUE(trouver(nom).isVisible() && trouver(nom).width() > 50) << nom;
+        return std::pair(trouver("logo").geometry(), trouver("LNom").geometry());
+    };
+    const auto avant = places();
     const QSize taille = sim->size();
-    ecrire("Table.ini", "L,0,0,200,320\r\nO,1,2,3,4\r\n");
-    attendre();
+    ecrire("Table.ini", avec_nom + "O,1,2,3,4\r\n");
+    attendre_relecture("Defaut Table.ini");
     EXPECT_EQ(e().NbZones, 2);
     EXPECT_EQ(e().Zones(2).X1, 2); // turned
     EXPECT_EQ(e().XRobot(1), 40);
@@ -62,7 +74,11 @@ TEST_F(FichiersChanges, une_table_relue_laisse_les_robots_ou_ils_sont) {
     EXPECT_EQ(sim->size(), taille);
     EXPECT_TRUE(e().TrajetModifie(1));
     EXPECT_TRUE(messages.empty());
+    EXPECT_EQ(places(), avant);
     e().TrajetModifie(1) = false;
+    ecrire("Trajet1.ini", "Init,7,8,9\r\nFIN\r\n");
+    attendre_relecture("Defaut Trajet1.ini");
+    EXPECT_EQ(places(), avant);
 }
 
 TEST_F(FichiersChanges, robots_et_trajets_sont_relus_ensemble) {
@@ -70,11 +86,9 @@ TEST_F(FichiersChanges, robots_et_trajets_sont_relus_ensemble) {
     for (int n = 1; n <= 4; ++n)
         ecrire("Trajet" + std::to_string(n) + ".ini", "Init,7,8,9\r\nFIN\r\n");
     ecrire("Robot2.ini", "V,50,50\r\n");
-    attendre();
+    attendre_relecture("Defaut Robot2.ini, Defaut Trajet1.ini, Defaut Trajet2.ini et 2 de plus");
     EXPECT_EQ(e().XRobot(1), 7);
     EXPECT_EQ(e().VitesseLin(2), 0.5F);
-    EXPECT_EQ(etat(), "Relu après un changement : Defaut Robot2.ini, Defaut Trajet1.ini, "
-                      "Defaut Trajet2.ini et 2 de plus");
 }
 
 TEST_F(FichiersChanges, une_course_ou_un_enregistrement_fait_demander) {
@@ -88,16 +102,16 @@ TEST_F(FichiersChanges, une_course_ou_un_enregistrement_fait_demander) {
                 cliquer("Command1");
             reponses = {oui};
             ecrire("Trajet1.ini", "Init," + std::to_string(++x) + ",8,9\r\nFIN\r\n");
-            attendre();
-            ASSERT_EQ(messages.size(), 1U) << course << oui;
-            EXPECT_NE(messages[0].find("Modifié par un autre programme : Defaut Trajet1.ini\n"),
-                      std::string::npos);
-            EXPECT_NE(messages[0].find(course ? "arrêter la course" : "perdre"), std::string::npos);
+            attendre([this] { return !messages.empty(); });
+            QApplication::processEvents(); // what follows the answer
+            EXPECT_TRUE(
+                contient(messages[0], "Modifié par un autre programme : Defaut Trajet1.ini\n"));
+            EXPECT_TRUE(contient(messages[0], course ? "arrêter la course" : "perdre"));
             EXPECT_EQ(e().XInit(1) == float(x), oui);
             EXPECT_EQ(seance().en_marche(), course && !oui);
             EXPECT_EQ(e().TrajetModifie(1), !course && !oui);
-            attendre(); // asked once only
-            EXPECT_EQ(messages.size(), 1U);
+            laisser_passer();
+            EXPECT_EQ(messages.size(), 1U) << "asked once " << course << oui;
             e().TrajetModifie(1) = false;
         }
     }
@@ -111,14 +125,11 @@ TEST_F(FichiersChanges, repare_sous_sa_propre_boite_d_erreur_il_est_relu) {
     };
     dossier.ecrire("Configuration/Defaut Table.ini", "n'importe quoi");
     demarrer();
-    attendre();
-    EXPECT_EQ(e().XMax, 95);
+    attendre([this] { return e().XMax == 95; });
     EXPECT_EQ(messages.size(), 1U);
     repare = false; // and under the one of a later reading
     ecrire("Table.ini", "encore");
-    attendre();
-    attendre();
-    EXPECT_EQ(messages.size(), 2U);
+    attendre([this] { return messages.size() == 2 && e().XMax == 95; });
     EXPECT_EQ(e().XMax, 95);
 }
 
@@ -133,27 +144,8 @@ TEST_F(FichiersChanges, change_sous_une_question_de_sauvegarde_il_n_est_pas_pris
     e().TrajetModifie(2) = true;
     reponses = {true, true};
     seance().SauvRobot();
-    attendre();
-    EXPECT_EQ(e().XInit(1), 71);
+    attendre([this] { return e().XInit(1) == 71; });
     EXPECT_EQ(questions, 2);
-}
-
-TEST_F(FichiersChanges, une_relecture_laisse_logo_et_banniere_a_leur_place) {
-    const std::string avec_nom = "L,0,0,200,320\r\nM,Finale de Troyes\r\n";
-    dossier.ecrire("Configuration/Defaut Table.ini", avec_nom);
-    demarrer();
-    const QRect logo = trouver("logo").geometry(), LNom = trouver("LNom").geometry();
-    EXPECT_GT(logo.width(), 50);
-    for (const char* fichier : {"Table.ini", "Trajet1.ini"}) {
-        if (fichier == std::string("Table.ini"))
-            ecrire(fichier, avec_nom + "O,1,2,3,4\r\n");
-        else
-            ecrire(fichier, "Init,7,8,9\r\nFIN\r\n");
-        attendre();
-        EXPECT_EQ(trouver("logo").geometry(), logo) << fichier;
-        EXPECT_EQ(trouver("LNom").geometry(), LNom) << fichier;
-        EXPECT_TRUE(trouver("logo").isVisible() && trouver("LNom").isVisible()) << fichier;
-    }
 }
 
 TEST_F(FichiersChanges, ce_que_le_programme_ecrit_ou_qui_ne_change_rien_ne_dit_rien) {
@@ -165,8 +157,8 @@ TEST_F(FichiersChanges, ce_que_le_programme_ecrit_ou_qui_ne_change_rien_ne_dit_r
     const std::string question = etat();
     const std::string avant = dossier.lire("Configuration/Defaut Table.ini");
     ecrire("Table.ini", avant);
-    dossier.ecrire("Configuration/Autre Table.ini", table);
-    attendre();
+    dossier.ecrire("Configuration/Autre Table.ini", "L,0,0,90,50\r\n");
+    laisser_passer();
     EXPECT_EQ(etat(), question);
     EXPECT_EQ(e().XMax, 200);
     EXPECT_TRUE(messages.empty());

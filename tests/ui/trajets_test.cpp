@@ -86,15 +86,19 @@ TEST_F(Trajets, une_reprise_se_continue) {
     options().choisir_robots(3);
     ouvrir();
     dans_console<QScrollBar>("VScroll1").setValue(3);
+    saisir("TextX", "70");
     commencer();
     jouer("Avance");
     jouer("Recule");
     const float x = e().XRobot(3);
-    sim.reset();
+    sim.reset(); // killed: nothing was asked
+    EXPECT_TRUE(messages.empty());
     reponses = {true};
     demarrer();
+    EXPECT_EQ(messages.size(), 1U);
     EXPECT_EQ(e().NbRobot, 3);
     console = &trouver("Télécommande");
+    EXPECT_EQ(dans_console<QLineEdit>("TextX").text(), "70");
     EXPECT_TRUE(console->isVisible());
     EXPECT_EQ(lignes(), 2);
     EXPECT_EQ(Command9(), "Fin Enr.");
@@ -113,8 +117,8 @@ TEST_F(Trajets, un_trajet_refuse_revient_par_le_menu) {
     jouer("Avance");
     reponses = {false};
     EXPECT_TRUE(seance().SauvRobot());
-    EXPECT_NE(explications.back().find("ne sera plus proposé"), std::string::npos);
-    EXPECT_NE(explications.back().find("fichier de génération"), std::string::npos);
+    EXPECT_TRUE(contient(explications.back(), "ne sera plus proposé"));
+    EXPECT_TRUE(contient(explications.back(), "fichier de génération"));
     seance().recharger();
     e().TrajNbActions(1) = 0;
     QMenu& m = menu();
@@ -135,7 +139,7 @@ TEST_F(Trajets, quitter_reste_quand_rien_ne_peut_etre_ecrit) {
     cliquer("Command4");
     EXPECT_TRUE(fins.empty());
     ASSERT_EQ(messages.size(), 3U); // the saving, the path shown, the other directory
-    EXPECT_NE(messages[2].find("dans un autre dossier ?"), std::string::npos) << messages[2];
+    EXPECT_TRUE(contient(messages[2], "dans un autre dossier ?"));
 
     const auto ailleurs = dossier / "ailleurs";
     std::filesystem::create_directory(ailleurs);
@@ -183,17 +187,17 @@ TEST_F(Trajets, la_fin_du_match_s_annonce) {
     commencer();
     jouer("Avance");
     const QColor ordinaire = dans_console<QLabel>("total").palette().windowText().color();
-    EXPECT_EQ(dit("total").find("sur 90 s"), std::string::npos);
+    EXPECT_FALSE(contient(dit("total"), "sur 90 s"));
     e().TempsEcoule = 7990;
     jouer("Avance");
-    EXPECT_NE(dit("total").find("sur 90 s"), std::string::npos);
+    EXPECT_TRUE(contient(dit("total"), "sur 90 s"));
     EXPECT_NE(dans_console<QLabel>("total").palette().windowText().color(), ordinaire);
     e().TempsEcoule = 8995;
     saisir("Text1", "200");
     jouer("Avance");
-    EXPECT_NE(dit("total").find("recommence le trajet à l'action 1"), std::string::npos);
+    EXPECT_TRUE(contient(dit("total"), "recommence le trajet à l'action 1"));
     jouer("Avance");
-    EXPECT_EQ(dit("total").find("recommence"), std::string::npos);
+    EXPECT_FALSE(contient(dit("total"), "recommence"));
 }
 
 TEST_F(Trajets, la_position_dit_ce_que_la_table_tournee_en_fait) {
