@@ -47,7 +47,39 @@ void faire_place(Choix& choix, std::size_t place) {
         i += i >= place ? 1 : 0;
 }
 
+bool est_une_zone(const Fiche& f) {
+    const SorteTable* sorte = sorte_table(f.cle);
+    return sorte != nullptr && sorte->nom == "zones";
+}
+
 } // namespace
+
+Choix objets(const DocumentTable& table, bool sans_zones) {
+    Choix choix;
+    for (std::size_t i = 0; i < table.nombre(); ++i)
+        if (table[i].cle != "M" && !(sans_zones && est_une_zone(table[i])))
+            choix.push_back(i);
+    return choix;
+}
+
+Choix objets_dans(const DocumentTable& table, const Bornes& cadre, bool sans_zones) {
+    Choix choix = objets(table, sans_zones);
+    std::erase_if(choix,
+                  [&](std::size_t i) { return !cadre.contiennent(formes::bornes(table[i])); });
+    return choix;
+}
+
+std::optional<std::size_t> objet_sous(const DocumentTable& table, Vecteur cm, double tolerance,
+                                      bool sans_zones) {
+    const Choix choix = objets(table, sans_zones);
+    const auto& sortes = sortes_table();
+    for (std::size_t s = sortes.size(); s-- > 0;)
+        for (auto i = choix.rbegin(); i != choix.rend(); ++i)
+            if (sorte_table(table[*i].cle) == &sortes[s] &&
+                formes::touchee(table[*i], cm, tolerance))
+                return *i;
+    return std::nullopt;
+}
 
 std::size_t creer(DocumentTable& table, Fiche objet) {
     if (formes::sans_etendue(objet))

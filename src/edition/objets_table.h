@@ -4,12 +4,21 @@
 #include "edition/choix.h"
 #include "edition/formes.h"
 
+#include <optional>
 #include <string>
 
 // What the table editor does to a table. Undoing is keeping the document from before: it is a
 // value. A caption among the chosen records stays as it is.
 
 enum class Bord { gauche, droite, haut, bas, milieu_x, milieu_y };
+
+/// All but captions; without the zones when those are locked.
+Choix objets(const DocumentTable& table, bool sans_zones);
+/// Those of them that lie in a frame.
+Choix objets_dans(const DocumentTable& table, const Bornes& cadre, bool sans_zones);
+/// The topmost of them at a point: what is drawn last, first.
+std::optional<std::size_t> objet_sous(const DocumentTable& table, Vecteur cm, double tolerance,
+                                      bool sans_zones);
 
 /// Adds what was drawn, over those of its kind. @returns its index
 /// @throws ErreurExecution, a sentence for the user: it would not be seen, or its kind is full

@@ -54,6 +54,21 @@ Choix segments(const DocumentRobot& robot, const Choix& choix) {
     return restants;
 }
 
+Choix segments_dans(const DocumentRobot& robot, const Bornes& cadre) {
+    Choix choix = segments(robot);
+    std::erase_if(choix,
+                  [&](std::size_t i) { return !cadre.contiennent(formes::bornes(robot[i])); });
+    return choix;
+}
+
+std::optional<std::size_t> segment_sous(const DocumentRobot& robot, Vecteur cm, double tolerance) {
+    const Choix choix = segments(robot);
+    const auto trouve = std::find_if(choix.rbegin(), choix.rend(), [&](std::size_t i) {
+        return formes::touchee({"LN", robot[i].v, ""}, cm, tolerance);
+    });
+    return trouve == choix.rend() ? std::nullopt : std::optional(*trouve);
+}
+
 std::size_t creer(DocumentRobot& robot, Fiche ligne) {
     ligne.cle = std::string("R"); // g++ 12 misreads the assignment of a literal
     if (formes::sans_etendue(ligne))

@@ -10,6 +10,11 @@
 Choix segments(const DocumentRobot& robot);
 Choix segments(const DocumentRobot& robot, const Choix& choix);
 
+/// Those that lie in a frame with both ends.
+Choix segments_dans(const DocumentRobot& robot, const Bornes& cadre);
+/// The last one at a point.
+std::optional<std::size_t> segment_sous(const DocumentRobot& robot, Vecteur cm, double tolerance);
+
 /// Adds a line as a segment. @returns its index
 /// @throws ErreurExecution, a sentence for the user: it would not be seen, or there are 50 of them
 std::size_t creer(DocumentRobot& robot, Fiche ligne);

@@ -1,4 +1,5 @@
 // What the editors do to a table and a robot, without a window.
+#include "edition/mesures.h"
 #include "edition/objets_table.h"
 #include "edition/outils.h"
 #include "edition/segments_robot.h"
@@ -118,6 +119,50 @@ TEST(ObjetsTable, la_legende_qui_vaut_est_changee_ou_ajoutee) {
     EXPECT_EQ(apres("U,0,0,9,9\n", [&](auto& d) { choix = regler_legende(d, {0}, "c\nd"); }),
               "U,0,0,9,9\nM,c,d\n");
     EXPECT_EQ(choix, Choix{0});
+}
+
+TEST(Choix, un_clic_et_un_cadre_choisissent_seuls_ou_en_plus) {
+    const Choix avant{1, 4};
+    EXPECT_EQ(apres_clic(avant, 2, false), Choix{2});
+    EXPECT_EQ(apres_clic(avant, 4, false), Choix{4});
+    EXPECT_EQ(apres_clic(avant, std::nullopt, false), Choix{});
+    EXPECT_EQ(apres_clic(avant, 2, true), (Choix{1, 2, 4}));
+    EXPECT_EQ(apres_clic(avant, 4, true), Choix{1});
+    EXPECT_EQ(apres_clic(avant, std::nullopt, true), avant);
+    EXPECT_EQ(apres_cadre(avant, {2, 4}, false), (Choix{2, 4}));
+    EXPECT_EQ(apres_cadre(avant, {2, 4}, true), (Choix{1, 2, 4}));
+}
+
+TEST(Mesures, valent_comme_elles_sont_tapees_dans_n_importe_quel_ordre) {
+    constexpr std::size_t angle = 4;
+    struct Cas {
+        std::vector<std::pair<std::size_t, double>> frappes;
+        std::string_view attendu, ligne = "O,20,20,40,40\n";
+    };
+    constexpr std::string_view trait = "LN,100,100,130,140\n";
+    for (const Cas& c :
+         {Cas{{{0, 90}, {2, 120}}, "O , 90, 20, 120, 40\n"},
+          Cas{{{2, 120}, {0, 90}}, "O , 90, 20, 120, 40\n"},
+          Cas{{{0, 40}}, "O,20,20,40,40\n"}, // for a moment without width
+          Cas{{{0, 40}, {2, 70}}, "O , 40, 20, 70, 40\n"},
+          Cas{{{angle, 33}, {angle, 61}, {angle, 0}}, "LN , 100, 100, 150, 100\n", trait},
+          Cas{{{angle, -90}, {0, 90}, {angle, 0}}, "LN , 90, 100, 141, 100\n", trait},
+          Cas{{{angle, -135}}, "LN , 100, 100, 65, 65\n", trait},
+          Cas{{{angle, 180}}, "LN,10,80,90,80\n", "LN,10,80,90,80\n"}}) { // beyond x = 0
+        DocumentTable d = DocumentTable::depuis("L,0,0,200,200\n" + std::string(c.ligne));
+        std::optional<Mesures> m;
+        for (const auto& [champ, valeur] : c.frappes) {
+            Mesures essai = mesures_de(d, 1, m);
+            if (!taper(essai, champ, valeur))
+                continue;
+            if (!en_attente(essai))
+                prendre(d, essai);
+            m = essai;
+        }
+        EXPECT_EQ(d.ecrire(), "L,0,0,200,200\n" + std::string(c.attendu));
+    }
+    EXPECT_NEAR(incidence({"LN", {100, 100, 130, 140}, ""}), 53.13, 0.01);
+    EXPECT_NEAR(incidence({"LN", {100, 100, 70, 60}, ""}), -126.87, 0.01);
 }
 
 TEST(SegmentsRobot, chaque_geste_change_les_segments_choisis) {

@@ -14,7 +14,8 @@ constexpr std::string_view sol = "L,0,0,200,200\nO,20,20,40,40\nT,60,60,90,80\nP
 
 class GestesTable : public EditeurTable {
 protected:
-    std::string choisis() {
+    /// The keys of what is chosen.
+    std::string cles() {
         std::string textes;
         for (const QListWidgetItem* item : trouver<QListWidget>("listeObjets").selectedItems())
             textes += item->text().section(' ', 1, 1).toStdString() + " ";
@@ -32,13 +33,13 @@ protected:
 TEST_F(GestesTable, sur_un_sol_d_une_zone_un_rectangle_choisit_et_rien_ne_bouge) {
     ouvrir(sol);
     tirer({10, 10}, {100, 100});
-    EXPECT_EQ(choisis(), "O T ");
+    EXPECT_EQ(cles(), "O T ");
     tirer({30, 30}, {40, 35}); // what is chosen moves together
     EXPECT_EQ(dernier("O") + dernier("T"), "O 30 25 50 45T 70 65 100 85");
     clic(80, 70);
-    EXPECT_EQ(choisis(), "T ") << "a click on one of several";
+    EXPECT_EQ(cles(), "T ") << "a click on one of several";
     tirer({107, 107}, {135, 135}, Qt::ShiftModifier);
-    EXPECT_EQ(choisis(), "T PB ");
+    EXPECT_EQ(cles(), "T PB ");
     tirer({170, 170}, {180, 185});
     EXPECT_EQ(dernier("L"), "L 0 0 200 200") << "not chosen";
     clic(170, 170);
@@ -50,20 +51,20 @@ TEST_F(GestesTable, les_zones_verrouillees_laissent_passer_la_souris) {
     ouvrir(sol);
     clic(30, 30);
     commande("verrouiller");
-    EXPECT_EQ(choisis(), "");
+    EXPECT_EQ(cles(), "");
     clic(30, 30);
     tirer({5, 5}, {195, 195});
-    EXPECT_EQ(choisis(), "PB ");
+    EXPECT_EQ(cles(), "PB ");
     commande("tout");
-    EXPECT_EQ(choisis(), "PB ");
+    EXPECT_EQ(cles(), "PB ");
     trouver<QListWidget>("listeObjets").clearSelection();
     trouver<QListWidget>("listeObjets").setCurrentRow(1);
-    EXPECT_EQ(choisis(), "O ") << "the list still chooses";
+    EXPECT_EQ(cles(), "O ") << "the list still chooses";
     tirer({40, 40}, {50, 50}); // no handle there
     EXPECT_EQ(dernier("O"), "O 20 20 40 40");
     commande("verrouiller");
     clic(30, 30);
-    EXPECT_EQ(choisis(), "O ");
+    EXPECT_EQ(cles(), "O ");
 }
 
 TEST_F(GestesTable, un_objet_pose_passe_au_dessus_de_sa_famille) {
@@ -72,8 +73,8 @@ TEST_F(GestesTable, un_objet_pose_passe_au_dessus_de_sa_famille) {
     clic(100, 100);
     cliquer("outil_PB");
     clic(55, 55);
-    EXPECT_NE(doc().ecrire().find("O,20,20,180,180\nL , "), std::string::npos) << doc().ecrire();
-    EXPECT_NE(doc().ecrire().find("X,60,60,5\nPB , "), std::string::npos) << doc().ecrire();
+    EXPECT_TRUE(contient(doc().ecrire(), "O,20,20,180,180\nL , "));
+    EXPECT_TRUE(contient(doc().ecrire(), "X,60,60,5\nPB , "));
 }
 
 TEST_F(GestesTable, rien_sans_etendue_n_est_pose_ni_tire_ni_tape) {
@@ -95,34 +96,21 @@ TEST_F(GestesTable, rien_sans_etendue_n_est_pose_ni_tire_ni_tape) {
     EXPECT_EQ(dernier("PB"), "PB 120 120 10");
 }
 
-TEST_F(GestesTable, les_deux_bouts_d_une_boite_se_tapent_dans_n_importe_quel_ordre) {
-    for (const bool x1_d_abord : {true, false}) {
-        ouvrir(sol);
-        clic(30, 30);
-        taper(x1_d_abord ? "X1" : "X2", x1_d_abord ? "90" : "120");
-        taper(x1_d_abord ? "X2" : "X1", x1_d_abord ? "120" : "90");
-        EXPECT_EQ(dernier("O"), "O 90 20 120 40");
-    }
-    taper("X1", "120"); // for a moment without width
-    EXPECT_EQ(dernier("O"), "O 90 20 120 40");
+TEST_F(GestesTable, une_mesure_qui_ne_peut_pas_etre_prise_attend_ou_est_refusee) {
+    ouvrir("L,0,0,200,200\nLN,10,80,90,80\nLN,100,100,130,140\nO,20,20,40,40\n");
+    clic(30, 30);
+    taper("X1", "40"); // for a moment without width
+    EXPECT_EQ(dernier("O"), "O 20 20 40 40");
     messages.clear();
     commande("enregistrer");
     ASSERT_EQ(messages.size(), 1U);
-    EXPECT_NE(messages[0].find("n'a pas été enregistré"), std::string::npos) << messages[0];
+    EXPECT_TRUE(contient(messages[0], "n'a pas été enregistré"));
     taper("X2", "150");
-    EXPECT_EQ(dernier("O"), "O 120 20 150 40");
-}
-
-TEST_F(GestesTable, un_angle_garde_la_longueur_ou_est_refuse) {
-    ouvrir("L,0,0,200,200\nLN,10,80,90,80\nLN,100,100,130,140\n");
+    EXPECT_EQ(dernier("O"), "O 40 20 150 40");
     clic(115, 120);
     EXPECT_NEAR(trouver<QDoubleSpinBox>("Incidence").value(), 53.1, 0.01);
-    for (const char* angle : {"33", "61", "7", "0"}) // rounded each time
-        taper("Incidence", angle);
-    EXPECT_EQ(dernier("LN"), "LN 100 100 150 100");
     taper("Incidence", "-90");
     EXPECT_EQ(dernier("LN"), "LN 100 100 100 50");
-    commande("annuler");
     clic(30, 80);
     taper("Incidence", "180"); // would leave the table at x = 0
     EXPECT_EQ(texte(doc()[1]), "LN 10 80 90 80");
@@ -170,7 +158,7 @@ TEST_F(GestesTable, ctrl_suspend_la_grille_comme_alt) {
     clic(45, 40);
     tirer({45, 40}, {47, 41}, Qt::ControlModifier);
     EXPECT_EQ(dernier("O"), "O 37 31 57 51");
-    EXPECT_EQ(choisis(), "O ") << "moving does not drop it from what is chosen";
+    EXPECT_EQ(cles(), "O ") << "moving does not drop it from what is chosen";
 }
 
 TEST_F(GestesTable, la_legende_garde_son_curseur_ou_l_on_tape) {

@@ -173,8 +173,7 @@ void dessinTable::montrer_proprietes() {
                   {"Y", "Y", " cm", mini, maxi, e.v[1]},
                   {"Rayon", "Rayon", " cm", -32768, 32767, e.v[2]}};
     if (e.cle == "LN")
-        champs.push_back({"Incidence", "Incidence", "°", -180, 180,
-                          std::atan2(e.v[3] - e.v[1], e.v[2] - e.v[0]) * 180 / Pi, 1});
+        champs.push_back({"Incidence", "Incidence", "°", -180, 180, incidence(e), 1});
     std::vector<PanneauProprietes::Sorte> sortes;
     for (const std::string_view cle : sorte_table(e.cle)->cles)
         // A block's two kinds do not have the same numbers.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "edition/mesures.h"
 #include "edition/objets_table.h"
 #include "ui/commun/historique.h"
 #include "ui/commun/panneau_proprietes.h"
@@ -30,14 +31,6 @@ protected:
     void deplacer(double dx, double dy) override;
 
 private:
-    /// The measures of one record as they were typed: the document keeps its box the right way
-    /// round, a line its exact length while its angle is changed.
-    struct Mesures {
-        std::size_t indice;
-        Fiche typees, prises; ///< what stands in the fields, what the document made of it
-        double longueur;      ///< of a line, cm
-    };
-
     void placer();
     void connecter();
     void preparer_edition();
@@ -56,7 +49,6 @@ private:
     void changer_legende();
     Mesures mesures() const;
     void prendre_mesures(Mesures m);
-    static bool tourner(Mesures& m, double angle);
     void verrouiller_les_zones(bool oui);
 
     Historique<DocumentTable> historique_;

@@ -1,11 +1,7 @@
 // What the table editor's commands and fields do to the drawing.
 #include "ui/editeurs/dessin_table.h"
 
-#include "ui/editeurs/formes.h"
-
 #include <QStatusBar>
-
-#include <cmath>
 
 void dessinTable::refuser(const std::string& raison) {
     boites_.message(raison);
@@ -28,11 +24,7 @@ void dessinTable::dupliquer() {
 }
 
 void dessinTable::tout_choisir() {
-    Selection s;
-    for (std::size_t i = 0; i < historique_.doc().nombre(); ++i)
-        if (historique_.doc()[i].cle != "M" && !vue_.verrouille(historique_.doc()[i]))
-            s.push_back(i);
-    historique_.choisir(s);
+    historique_.choisir(vue_.prenables());
 }
 
 void dessinTable::deplacer(double dx, double dy) {
@@ -61,57 +53,37 @@ void dessinTable::aligner(Bord bord) {
     historique_.changer("Aligner", std::move(d), historique_.selection());
 }
 
-// What was typed counts as long as the document has it so.
-dessinTable::Mesures dessinTable::mesures() const {
-    const std::size_t i = historique_.selection().front();
-    const Fiche& e = historique_.doc()[i];
-    if (mesures_ && mesures_->indice == i && mesures_->prises == e)
-        return *mesures_;
-    return {i, e, e, std::hypot(e.v[2] - e.v[0], e.v[3] - e.v[1])};
+Mesures dessinTable::mesures() const {
+    return mesures_de(historique_.doc(), historique_.selection().front(), mesures_);
 }
 
 void dessinTable::changer_nombre(std::size_t champ, double valeur) {
     if (historique_.selection().size() != 1)
         return;
     Mesures m = mesures();
-    if (champ < 4 && champ < nombre_de_champs(m.typees.cle)) {
-        m.typees.v[champ] = static_cast<float>(valeur);
-        m.longueur = std::hypot(m.typees.v[2] - m.typees.v[0], m.typees.v[3] - m.typees.v[1]);
-    } else if (!tourner(m, valeur)) {
-        statusBar()->showMessage(
-            "Refusé : à cet angle, la ligne sortirait des coordonnées permises");
-        return montrer_proprietes();
-    }
-    prendre_mesures(std::move(m));
-}
-
-// The line turns about its first end and keeps its length. @returns false when it would not
-bool dessinTable::tourner(Mesures& m, double angle) {
-    m.typees = formes::tournee(m.typees, m.longueur, angle);
-    return DocumentTable::normaliser(m.typees) == m.typees;
+    if (taper(m, champ, valeur))
+        return prendre_mesures(std::move(m));
+    statusBar()->showMessage("Refusé : à cet angle, la ligne sortirait des coordonnées permises");
+    montrer_proprietes();
 }
 
 void dessinTable::prendre_mesures(Mesures m) {
-    DocumentTable d = historique_.doc();
-    if (formes::sans_etendue(m.typees) && !formes::sans_etendue(m.prises)) {
-        mesures_ = std::move(m); // the other number may follow
+    if (en_attente(m)) {
+        mesures_ = std::move(m);
         statusBar()->showMessage(en_suspens());
         return;
     }
-    m.prises = DocumentTable::normaliser(m.typees);
-    const bool pareil = m.prises == d[m.indice];
-    d.remplacer(m.indice, m.prises);
+    DocumentTable d = historique_.doc();
+    const bool change = prendre(d, m);
     mesures_ = std::move(m);
-    if (pareil)
-        return montrer_proprietes();
-    historique_.changer("Changer une mesure", std::move(d), historique_.selection());
+    if (change)
+        historique_.changer("Changer une mesure", std::move(d), historique_.selection());
+    else
+        montrer_proprietes();
 }
 
 QString dessinTable::en_suspens() const {
-    if (historique_.selection().size() != 1 || !mesures_)
-        return {};
-    const Mesures m = mesures();
-    if (!formes::sans_etendue(m.typees) || formes::sans_etendue(m.prises))
+    if (historique_.selection().size() != 1 || !mesures_ || !en_attente(mesures()))
         return {};
     return "Un objet sans étendue ne se verrait pas : cette mesure n'est pas encore prise";
 }
@@ -134,9 +106,9 @@ void dessinTable::changer_legende() {
 
 void dessinTable::verrouiller_les_zones(bool oui) {
     vue_.verrouiller_les_zones(oui);
-    Selection s;
-    for (const std::size_t i : historique_.selection())
-        if (!vue_.verrouille(historique_.doc()[i]))
-            s.push_back(i);
+    const DocumentTable& d = historique_.doc();
+    const Choix reste = vue_.prenables();
+    Selection s = historique_.selection();
+    std::erase_if(s, [&](std::size_t i) { return d[i].cle != "M" && !choisi(reste, i); });
     historique_.choisir(s);
 }

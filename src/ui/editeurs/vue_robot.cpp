@@ -3,12 +3,7 @@
 #include "edition/segments_robot.h"
 #include "ui/editeurs/formes.h"
 
-#include <QDragEnterEvent>
-#include <QDropEvent>
-#include <QMimeData>
 #include <QPainter>
-
-#include <algorithm>
 
 namespace {
 
@@ -21,25 +16,13 @@ QPointF bout(const Fiche& segment, std::size_t k) {
     return {segment.v[2 * k], segment.v[2 * k + 1]};
 }
 
-Fiche en_ligne(Fiche segment) {
-    segment.cle = "LN";
-    return segment;
-}
-
 } // namespace
 
 VueRobot::VueRobot(Historique<DocumentRobot>& historique, Foutil& outils, QWidget* parent)
-    : VueEchelle(parent), h_(historique), outils_(outils) {
+    : VueEdition(historique, outils, parent) {
     setObjectName("vueRobot");
     setAccessibleName("Robot à dessiner");
-    setAcceptDrops(true);
     regler_grille(1);
-}
-
-void VueRobot::rafraichir() {
-    provisoire_.reset();
-    geste_ = Geste::aucun;
-    update();
 }
 
 QPointF VueRobot::reference() const {
@@ -58,9 +41,8 @@ QPointF VueRobot::roue(int cote) const {
 
 QRectF VueRobot::etendue() const {
     QRectF tout(reference() - QPointF(5, 5), QSizeF(10, 10));
-    for (std::size_t i = 0; i < h_.doc().nombre(); ++i)
-        if (h_.doc()[i].cle == "R")
-            tout = tout.united(formes::cadre(en_ligne(h_.doc()[i])).adjusted(-1, -1, 1, 1));
+    for (const std::size_t i : segments(h_.doc()))
+        tout = tout.united(formes::cadre(h_.doc()[i]).adjusted(-1, -1, 1, 1));
     const auto contenir = [&](QPointF p) {
         tout = tout.united(QRectF(p - QPointF(1, 1), QSizeF(2, 2)));
     };
@@ -76,13 +58,7 @@ void VueRobot::peindre(QPainter& peintre) {
 void VueRobot::peindre_dessus(QPainter& peintre) {
     peindre_reperes(peintre);
     peindre_segments(peintre);
-    const QColor choix = palette().color(QPalette::Highlight);
-    peintre.setBrush(Qt::NoBrush);
-    peintre.setPen(QPen(choix, 1, Qt::DashLine));
-    if (ebauche_)
-        peintre.drawLine(en_pixels(bout(*ebauche_, 0)), en_pixels(bout(*ebauche_, 1)));
-    if (geste_ == Geste::cadre)
-        peintre.drawRect(QRectF(gestes().depart(), gestes().ici()).normalized());
+    peindre_ebauche(peintre);
 }
 
 void VueRobot::peindre_reperes(QPainter& peintre) const {
@@ -112,13 +88,11 @@ void VueRobot::peindre_segments(QPainter& peintre) const {
     const DocumentRobot& d = montre();
     const Selection& s = h_.selection();
     const QColor choix = palette().color(QPalette::Highlight);
-    for (std::size_t i = 0; i < d.nombre(); ++i) {
-        if (d[i].cle != "R")
-            continue;
-        const bool choisi = std::binary_search(s.begin(), s.end(), i);
-        peintre.setPen(QPen(choisi ? choix : QColor(Qt::black), choisi ? 3 : 2));
+    for (const std::size_t i : segments(d)) {
+        const bool pris = choisi(s, i);
+        peintre.setPen(QPen(pris ? choix : QColor(Qt::black), pris ? 3 : 2));
         peintre.drawLine(en_pixels(bout(d[i], 0)), en_pixels(bout(d[i], 1)));
-        if (!choisi || s.size() > 1)
+        if (!pris || s.size() > 1)
             continue;
         peintre.setPen(QPen(choix, 1));
         peintre.setBrush(Qt::white);
@@ -132,189 +106,104 @@ bool VueRobot::pres(QPointF pixels, QPointF cm) const {
 }
 
 // The chosen segment's ends first, then the marks, then the segments.
-VueRobot::Geste VueRobot::geste_sous(QPointF pixels) {
+VueRobot::Prise VueRobot::prise_sous(QPointF pixels) const {
     const DocumentRobot& d = h_.doc();
-    if (h_.selection().size() == 1 && d[h_.selection().front()].cle == "R") {
-        pris_ = h_.selection().front();
-        for (bout_ = 0; bout_ < 2; ++bout_)
-            if (pres(pixels, bout(d[pris_], bout_)))
-                return Geste::bout;
-    }
+    const Choix& s = h_.selection();
+    if (s.size() == 1 && d[s.front()].cle == "R")
+        for (const std::size_t k : {0U, 1U})
+            if (pres(pixels, bout(d[s.front()], k)))
+                return {Geste::poignee, s.front(), Poignee::bout, k};
     if (pres(pixels, reference()))
-        return Geste::reference;
+        return {Geste::poignee, 0, Poignee::reference};
     if (pres(pixels, extremite()))
-        return Geste::extremite;
-    for (std::size_t i = d.nombre(); i-- > 0;)
-        if (d[i].cle == "R" &&
-            formes::touchee(en_ligne(d[i]), en_vecteur(en_cm(pixels)), prise / pixels_par_cm())) {
-            pris_ = i;
-            return Geste::deplacer;
-        }
+        return {Geste::poignee, 0, Poignee::extremite};
+    if (const auto i = segment_sous(d, en_vecteur(en_cm(pixels)), prise / pixels_par_cm()))
+        return {Geste::deplacer, *i};
     if (pres(pixels, roue(-1)) || pres(pixels, roue(1)))
-        return Geste::roue;
-    return Geste::cadre;
+        return {Geste::poignee, 0, Poignee::roue};
+    return {};
 }
 
-void VueRobot::presser(QPointF pixels, Qt::KeyboardModifiers touches) {
-    const bool en_plus = (touches & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
-    Geste geste = Geste::placer;
-    if (outils_.en_main().forme == Outil::Forme::selection) {
-        geste = geste_sous(pixels);
-        if (geste == Geste::deplacer)
-            choisir_sous(en_plus);
-        else if (geste == Geste::cadre && !en_plus)
-            h_.choisir({});
+// A segment is chosen, and what is chosen forgotten, as soon as it is pressed.
+VueRobot::Geste VueRobot::saisir(QPointF pixels, bool en_plus) {
+    prise_ = prise_sous(pixels);
+    pris_ = prise_.segment;
+    sous_.reset();
+    if (prise_.geste == Geste::deplacer) {
+        sous_ = pris_;
+        if (en_plus || !choisi(h_.selection(), pris_))
+            h_.choisir(apres_clic(h_.selection(), pris_, en_plus));
+    } else if (prise_.geste == Geste::cadre && !en_plus) {
+        h_.choisir({});
     }
-    geste_ = geste; // choosing refreshes the view
-}
-
-void VueRobot::choisir_sous(bool en_plus) {
-    Selection s = h_.selection();
-    const auto place = std::lower_bound(s.begin(), s.end(), pris_);
-    const bool choisi = place != s.end() && *place == pris_;
-    if (!en_plus && choisi)
-        return;
-    if (!en_plus)
-        s = {pris_};
-    else if (choisi)
-        s.erase(place);
-    else
-        s.insert(place, pris_);
-    h_.choisir(s);
-}
-
-void VueRobot::glisser(QPointF pixels, Qt::KeyboardModifiers touches) {
-    if (!provisoire_ && !ebauche_ && !gestes().loin())
-        return;
-    const QPointF cm = aimanter(en_cm(pixels), touches);
-    if (geste_ == Geste::placer)
-        ebauche_ =
-            Foutil::tracer(outils_.en_main(), aimanter(en_cm(gestes().depart()), touches), cm);
-    else if (DocumentRobot d = h_.doc(); appliquer(d, pixels, touches))
-        provisoire_ = std::move(d);
-    if (provisoire_)
-        au_glissement();
-    update();
+    return prise_.geste;
 }
 
 // @returns false when the gesture leaves the robot as it is shown
-bool VueRobot::appliquer(DocumentRobot& d, QPointF pixels, Qt::KeyboardModifiers touches) const {
+bool VueRobot::tirer_poignee(DocumentRobot& d, QPointF pixels,
+                             Qt::KeyboardModifiers touches) const {
     const Vecteur cm = en_vecteur(aimanter(en_cm(pixels), touches));
-    switch (geste_) {
-    case Geste::deplacer: {
-        const QPointF repere = bout(d[pris_], 0);
-        const QPointF ecart =
-            aimanter(repere + en_cm(pixels) - en_cm(gestes().depart()), touches) - repere;
-        deplacer(d, h_.selection(), en_vecteur(ecart));
-        return true;
-    }
-    case Geste::bout:
-        return tirer_bout(d, pris_, bout_, cm); // pulled to nothing, it stays as it was before
-    case Geste::reference:
+    switch (prise_.poignee) {
+    case Poignee::bout:
+        return tirer_bout(d, pris_, prise_.bout,
+                          cm); // pulled to nothing, it stays as it was before
+    case Poignee::reference:
         placer_reference(d, cm);
         return true;
-    case Geste::extremite:
+    case Poignee::extremite:
         placer_extremite(d, cm);
         return true;
-    case Geste::roue:
+    case Poignee::roue:
         placer_roue(d, en_cm(pixels).x());
         return true;
-    case Geste::aucun:
-    case Geste::placer:
-    case Geste::cadre:
-        break;
     }
     return false;
 }
 
 QString VueRobot::nom_du_geste(Geste geste) const {
-    switch (geste) {
-    case Geste::reference:
-        return "Déplacer le point de référence";
-    case Geste::extremite:
-        return "Déplacer l'extrémité";
-    case Geste::roue:
-        return "Changer l'entraxe";
-    case Geste::bout:
-        return "Tirer un bout";
-    default:
+    if (geste != Geste::poignee)
         return "Déplacer";
+    switch (prise_.poignee) {
+    case Poignee::reference:
+        return "Déplacer le point de référence";
+    case Poignee::extremite:
+        return "Déplacer l'extrémité";
+    case Poignee::roue:
+        return "Changer l'entraxe";
+    case Poignee::bout:
+        break;
     }
+    return "Tirer un bout";
 }
 
-void VueRobot::relacher(QPointF pixels, Qt::KeyboardModifiers touches) {
-    const Geste geste = std::exchange(geste_, Geste::aucun);
-    const Outil& outil = outils_.en_main();
-    const bool en_plus = (touches & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
-    if (geste == Geste::placer) {
-        const auto ebauche = std::exchange(ebauche_, std::nullopt);
-        const QPointF fin = aimanter(en_cm(pixels), touches);
-        const bool trace = ebauche && fin != aimanter(en_cm(gestes().depart()), touches);
-        ajouter(trace ? *ebauche : outils_.creer(outil, fin));
-        if (!touches.testFlag(Qt::ShiftModifier))
-            outils_.reposer();
-    } else if (geste == Geste::cadre) {
-        const QRectF r = QRectF(en_cm(gestes().depart()), en_cm(pixels)).normalized();
-        Selection s = en_plus ? h_.selection() : Selection{};
-        for (const std::size_t i : segments(h_.doc()))
-            if (r.contains(bout(h_.doc()[i], 0)) && r.contains(bout(h_.doc()[i], 1)))
-                s.push_back(i);
-        std::sort(s.begin(), s.end());
-        s.erase(std::unique(s.begin(), s.end()), s.end());
-        h_.choisir(s);
-    } else if (provisoire_) {
-        DocumentRobot d = std::move(*provisoire_);
-        provisoire_.reset();
-        const bool ajoute = d.nombre() != h_.doc().nombre();
-        h_.changer(nom_du_geste(geste), std::move(d), ajoute ? Selection{} : h_.selection());
-    } else if (geste == Geste::deplacer && !en_plus) { // a click on one of several
-        h_.choisir({pris_});
-    }
+// With another key held, the press has done it all.
+void VueRobot::cliquer(Geste geste, bool en_plus) {
+    if (geste == Geste::deplacer && !en_plus) // of one of several
+        VueEdition::cliquer(geste, en_plus);
 }
 
-void VueRobot::ajouter(Fiche segment) {
-    DocumentRobot d = h_.doc();
-    try {
-        const std::size_t i = creer(d, std::move(segment));
-        h_.changer("Ajouter un segment", std::move(d), {i});
-    } catch (const ErreurExecution& erreur) {
-        update();
-        au_refus(erreur.what());
-    }
+Choix VueRobot::dans(const Bornes& cm) const {
+    return segments_dans(h_.doc(), cm);
 }
 
-void VueRobot::survoler(QPointF pixels) {
-    if (outils_.en_main().forme != Outil::Forme::selection)
-        return setCursor(Qt::CrossCursor);
-    switch (geste_sous(pixels)) {
-    case Geste::cadre:
-        return setCursor(Qt::ArrowCursor);
-    case Geste::deplacer:
-        return setCursor(Qt::PointingHandCursor);
-    case Geste::roue:
-        return setCursor(Qt::SizeHorCursor);
-    default:
-        return setCursor(Qt::SizeAllCursor);
-    }
+bool VueRobot::accepte(const Outil& outil) const {
+    return outil.cle == std::string_view("LN");
+}
+
+void VueRobot::poser(const Outil& outil, QPointF cm) {
+    ajouter(outils_.creer(outil, cm));
+}
+
+Qt::CursorShape VueRobot::curseur(QPointF pixels) const {
+    const Prise p = prise_sous(pixels);
+    if (p.geste == Geste::cadre)
+        return Qt::ArrowCursor;
+    if (p.geste == Geste::deplacer)
+        return Qt::PointingHandCursor;
+    return p.poignee == Poignee::roue ? Qt::SizeHorCursor : Qt::SizeAllCursor;
 }
 
 void VueRobot::abandonner() {
-    ebauche_.reset();
-    outils_.reposer();
-    rafraichir();
+    VueEdition::abandonner();
     au_glissement();
-}
-
-void VueRobot::dragEnterEvent(QDragEnterEvent* evenement) {
-    if (evenement->mimeData()->hasFormat(BoutonOutil::format))
-        evenement->acceptProposedAction();
-}
-
-void VueRobot::dropEvent(QDropEvent* evenement) {
-    const Outil* outil = Foutil::outil(evenement->mimeData()->data(BoutonOutil::format));
-    if (outil == nullptr || outil->cle != std::string_view("LN"))
-        return;
-    evenement->acceptProposedAction();
-    outils_.reposer();
-    ajouter(outils_.creer(*outil, aimanter(en_cm(evenement->position()), evenement->modifiers())));
 }

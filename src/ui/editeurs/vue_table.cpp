@@ -6,9 +6,6 @@
 #include "ui/commun/surface_qt.h"
 #include "ui/editeurs/formes.h"
 
-#include <QDragEnterEvent>
-#include <QDropEvent>
-#include <QMimeData>
 #include <QPainter>
 
 #include <algorithm>
@@ -20,17 +17,14 @@ constexpr QRectF table_vide{0, 0, 200, 320};
 } // namespace
 
 VueTable::VueTable(Historique<DocumentTable>& historique, Foutil& outils, QWidget* parent)
-    : VueEchelle(parent), h_(historique), outils_(outils), e_(std::make_unique<Etat>()) {
+    : VueEdition(historique, outils, parent), e_(std::make_unique<Etat>()) {
     setObjectName("vueTable");
     setAccessibleName("Table à dessiner");
-    setAcceptDrops(true);
 }
 
 void VueTable::rafraichir() {
-    provisoire_.reset();
-    geste_ = Geste::aucun;
+    VueEdition::rafraichir();
     h_.doc().remplir(*e_);
-    update();
 }
 
 QRectF VueTable::etendue() const {
@@ -48,8 +42,13 @@ void VueTable::peindre(QPainter& peintre) {
 }
 
 void VueTable::peindre_dessus(QPainter& peintre) {
-    const DocumentTable& d = montre();
     peindre_legende(peintre);
+    peindre_choix(peintre);
+    peindre_ebauche(peintre);
+}
+
+void VueTable::peindre_choix(QPainter& peintre) const {
+    const DocumentTable& d = montre();
     const QColor teinte = palette().color(QPalette::Highlight);
     peintre.setBrush(Qt::NoBrush);
     peintre.setPen(QPen(teinte, 2));
@@ -63,25 +62,12 @@ void VueTable::peindre_dessus(QPainter& peintre) {
             peintre.drawRect(en_pixels(formes::cadre(d[i])));
     }
     peintre.setRenderHint(QPainter::Antialiasing);
-    if (h_.selection().size() == 1) {
-        peintre.setPen(QPen(teinte, 1));
-        peintre.setBrush(Qt::white);
-        for (const Vecteur p : formes::poignees(d[h_.selection().front()]))
-            peintre.drawRect(QRectF(en_pixels(en_point(p)) - QPointF(3.5, 3.5), QSizeF(7, 7)));
-    }
-    peintre.setBrush(Qt::NoBrush);
-    peintre.setPen(QPen(teinte, 1, Qt::DashLine));
-    if (ebauche_) {
-        if (ebauche_->cle == "LN")
-            peintre.drawLine(en_pixels(QPointF(ebauche_->v[0], ebauche_->v[1])),
-                             en_pixels(QPointF(ebauche_->v[2], ebauche_->v[3])));
-        else if (nombre_de_champs(ebauche_->cle) == 3 || ebauche_->cle == "LE")
-            peintre.drawEllipse(en_pixels(formes::cadre(*ebauche_)));
-        else
-            peintre.drawRect(en_pixels(formes::cadre(*ebauche_)));
-    }
-    if (geste_ == Geste::cadre)
-        peintre.drawRect(QRectF(gestes().depart(), gestes().ici()).normalized());
+    if (h_.selection().size() != 1)
+        return;
+    peintre.setPen(QPen(teinte, 1));
+    peintre.setBrush(Qt::white);
+    for (const Vecteur p : formes::poignees(d[h_.selection().front()]))
+        peintre.drawRect(QRectF(en_pixels(en_point(p)) - QPointF(3.5, 3.5), QSizeF(7, 7)));
 }
 
 // Where the main window shows it, on a light ground: it stays readable on any floor.
@@ -101,188 +87,66 @@ void VueTable::peindre_legende(QPainter& peintre) const {
     peintre.drawText(table, Qt::AlignCenter, texte);
 }
 
-// The topmost shape: what is drawn last, first.
-std::optional<std::size_t> VueTable::objet_sous(QPointF cm) const {
-    const DocumentTable& d = h_.doc();
-    const auto& sortes = sortes_table();
-    for (std::size_t s = sortes.size(); s-- > 0;)
-        for (std::size_t i = d.nombre(); i-- > 0;)
-            if (sorte_table(d[i].cle) == &sortes[s] && !verrouille(d[i]) &&
-                formes::touchee(d[i], en_vecteur(cm), portee / pixels_par_cm()))
-                return i;
-    return std::nullopt;
+Choix VueTable::prenables() const {
+    return objets(h_.doc(), sans_zones_);
+}
+
+std::optional<std::size_t> VueTable::objet_sous(QPointF pixels) const {
+    return ::objet_sous(h_.doc(), en_vecteur(en_cm(pixels)), portee / pixels_par_cm(), sans_zones_);
 }
 
 std::optional<std::size_t> VueTable::poignee_sous(QPointF pixels) const {
-    if (h_.selection().size() != 1 || verrouille(h_.doc()[h_.selection().front()]))
+    const Choix& s = h_.selection();
+    if (s.size() != 1 || (sans_zones_ && !choisi(prenables(), s.front())))
         return std::nullopt;
-    const std::vector<Vecteur> points = formes::poignees(h_.doc()[h_.selection().front()]);
+    const std::vector<Vecteur> points = formes::poignees(h_.doc()[s.front()]);
     for (std::size_t k = 0; k < points.size(); ++k)
         if ((en_pixels(en_point(points[k])) - pixels).manhattanLength() <= portee + 2)
             return k;
     return std::nullopt;
 }
 
-bool VueTable::verrouille(const Fiche& e) const {
-    const SorteTable* sorte = sorte_table(e.cle);
-    return zones_verrouillees_ && sorte != nullptr && sorte->nom == "zones";
-}
-
-bool VueTable::choisi(std::size_t i) const {
-    return std::binary_search(h_.selection().begin(), h_.selection().end(), i);
-}
-
 // Only what is chosen is moved: a rectangle may begin anywhere, on a floor of one zone too.
-void VueTable::presser(QPointF pixels, Qt::KeyboardModifiers) {
-    sous_ = objet_sous(en_cm(pixels));
-    if (outils_.en_main().forme != Outil::Forme::selection) {
-        geste_ = Geste::placer;
-    } else if (const auto k = poignee_sous(pixels)) {
-        geste_ = Geste::tirer;
+VueTable::Geste VueTable::saisir(QPointF pixels, bool) {
+    sous_ = objet_sous(pixels);
+    if (const auto k = poignee_sous(pixels)) {
         poignee_ = *k;
         pris_ = h_.selection().front();
-    } else if (sous_ && choisi(*sous_)) {
-        geste_ = Geste::deplacer;
-        pris_ = *sous_;
-    } else {
-        geste_ = Geste::cadre;
+        return Geste::poignee;
     }
-}
-
-void VueTable::choisir_un(std::size_t i, bool en_plus) {
-    Selection s = en_plus ? h_.selection() : Selection{};
-    const auto place = std::lower_bound(s.begin(), s.end(), i);
-    if (place != s.end() && *place == i)
-        s.erase(place);
-    else
-        s.insert(place, i);
-    h_.choisir(s);
-}
-
-void VueTable::glisser(QPointF pixels, Qt::KeyboardModifiers touches) {
-    const Outil& outil = outils_.en_main();
-    if (!provisoire_ && !ebauche_ && !gestes().loin())
-        return;
-    if (geste_ == Geste::placer && outil.forme != Outil::Forme::legende) {
-        ebauche_ = Foutil::tracer(outil, aimanter(en_cm(gestes().depart()), touches),
-                                  aimanter(en_cm(pixels), touches));
-    } else if (geste_ == Geste::tirer) {
-        changer_forme(aimanter(en_cm(pixels), touches));
-    } else if (geste_ == Geste::deplacer) {
-        deplacer(en_cm(pixels), touches);
-    }
-    update();
+    if (!sous_ || !choisi(h_.selection(), *sous_))
+        return Geste::cadre;
+    pris_ = *sous_;
+    return Geste::deplacer;
 }
 
 // Pulled to nothing, it stays as it was before.
-void VueTable::changer_forme(QPointF cm) {
-    DocumentTable d = h_.doc();
-    if (redimensionner(d, pris_, poignee_, en_vecteur(cm)))
-        montrer(std::move(d));
+bool VueTable::tirer_poignee(DocumentTable& d, QPointF pixels,
+                             Qt::KeyboardModifiers touches) const {
+    return redimensionner(d, pris_, poignee_, en_vecteur(aimanter(en_cm(pixels), touches)));
 }
 
-void VueTable::deplacer(QPointF cm, Qt::KeyboardModifiers touches) {
-    DocumentTable d = h_.doc();
-    const QPointF repere(d[pris_].v[0], d[pris_].v[1]);
-    const QPointF ecart = aimanter(repere + cm - en_cm(gestes().depart()), touches) - repere;
-    ::deplacer(d, h_.selection(), en_vecteur(ecart));
-    montrer(std::move(d));
+Choix VueTable::dans(const Bornes& cm) const {
+    return objets_dans(h_.doc(), cm, sans_zones_);
 }
 
-void VueTable::montrer(DocumentTable d) {
-    provisoire_ = std::move(d);
-    provisoire_->remplir(*e_);
+QString VueTable::nom_du_geste(Geste geste) const {
+    return geste == Geste::poignee ? "Redimensionner" : "Déplacer";
 }
 
-void VueTable::relacher(QPointF pixels, Qt::KeyboardModifiers touches) {
-    const Geste geste = std::exchange(geste_, Geste::aucun);
-    const Outil outil = outils_.en_main();
-    if (geste == Geste::placer) {
-        const auto ebauche = std::exchange(ebauche_, std::nullopt);
-        const QPointF fin = aimanter(en_cm(pixels), touches);
-        if (ebauche &&
-            fin != aimanter(en_cm(gestes().depart()), touches)) // else a click that slipped
-            ajouter(*ebauche, QString("Ajouter : ") + formes::nom(outil.cle));
-        else
-            poser(outil, fin);
-        if (!touches.testFlag(Qt::ShiftModifier))
-            outils_.reposer();
-        return;
-    }
-    const bool en_plus = (touches & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
-    if (provisoire_) {
-        DocumentTable d = std::move(*provisoire_);
-        provisoire_.reset();
-        h_.changer(geste == Geste::tirer ? "Redimensionner" : "Déplacer", std::move(d),
-                   h_.selection());
-    } else if (geste == Geste::cadre && gestes().loin()) {
-        choisir_dans(QRectF(en_cm(gestes().depart()), en_cm(pixels)).normalized(), en_plus);
-    } else if (geste != Geste::tirer && !gestes().loin()) { // a click
-        if (sous_)
-            choisir_un(*sous_, en_plus);
-        else if (!en_plus)
-            h_.choisir({});
-    }
-    update();
-}
-
-void VueTable::choisir_dans(const QRectF& cm, bool en_plus) {
-    Selection s = en_plus ? h_.selection() : Selection{};
-    const DocumentTable& d = h_.doc();
-    for (std::size_t i = 0; i < d.nombre(); ++i) {
-        const QRectF r = formes::cadre(d[i]);
-        if (d[i].cle != "M" && !verrouille(d[i]) && cm.left() <= r.left() &&
-            cm.right() >= r.right() && cm.top() <= r.top() && cm.bottom() >= r.bottom())
-            s.push_back(i);
-    }
-    std::sort(s.begin(), s.end());
-    s.erase(std::unique(s.begin(), s.end()), s.end());
-    h_.choisir(s);
+QString VueTable::nom_de_l_ajout(const Fiche& fiche) const {
+    return "Ajouter : " + formes::nom(fiche.cle);
 }
 
 void VueTable::poser(const Outil& outil, QPointF cm) {
     if (outil.forme == Outil::Forme::legende)
         a_la_legende();
     else if (outil.forme != Outil::Forme::selection)
-        ajouter(outils_.creer(outil, cm), QString("Ajouter : ") + formes::nom(outil.cle));
+        ajouter(outils_.creer(outil, cm));
 }
 
-void VueTable::ajouter(Fiche e, const QString& nom) {
-    DocumentTable d = h_.doc();
-    try {
-        const std::size_t i = creer(d, std::move(e));
-        h_.changer(nom, std::move(d), {i});
-    } catch (const ErreurExecution& erreur) {
-        update();
-        au_refus(erreur.what());
-    }
-}
-
-void VueTable::survoler(QPointF pixels) {
-    if (outils_.en_main().forme != Outil::Forme::selection)
-        setCursor(Qt::CrossCursor);
-    else if (poignee_sous(pixels))
-        setCursor(Qt::SizeAllCursor);
-    else
-        setCursor(objet_sous(en_cm(pixels)) ? Qt::PointingHandCursor : Qt::ArrowCursor);
-}
-
-void VueTable::abandonner() {
-    ebauche_.reset();
-    outils_.reposer();
-    rafraichir();
-}
-
-void VueTable::dragEnterEvent(QDragEnterEvent* evenement) {
-    if (evenement->mimeData()->hasFormat(BoutonOutil::format))
-        evenement->acceptProposedAction();
-}
-
-void VueTable::dropEvent(QDropEvent* evenement) {
-    const Outil* outil = Foutil::outil(evenement->mimeData()->data(BoutonOutil::format));
-    if (outil == nullptr)
-        return;
-    evenement->acceptProposedAction();
-    outils_.reposer();
-    poser(*outil, aimanter(en_cm(evenement->position()), evenement->modifiers()));
+Qt::CursorShape VueTable::curseur(QPointF pixels) const {
+    if (poignee_sous(pixels))
+        return Qt::SizeAllCursor;
+    return objet_sous(pixels) ? Qt::PointingHandCursor : Qt::ArrowCursor;
 }
