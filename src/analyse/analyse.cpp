@@ -71,10 +71,6 @@ Constat& Enquete::au_moment(Genre genre, int robot, std::int32_t temps) const {
     return c;
 }
 
-std::string compte(int n, std::string_view nom) {
-    return std::to_string(n) + " " + std::string(nom) + (n > 1 ? "s" : "");
-}
-
 Analyse analyser(const Etat& etat, const Provenance& provenance, std::vector<Constat> connus) {
     const auto copie = std::make_unique<Etat>(etat);
     Analyse a{.projet = etat.NomProjet,
@@ -96,4 +92,8 @@ Analyse analyser(const Etat& etat, const Provenance& provenance, std::vector<Con
     constater_pas(q, releve, autre, relever(etat, autre));
     ranger(a.constats);
     return a;
+}
+
+void mesurer_ecarts(const Etat& etat, Analyse& a) {
+    a.ecarts = ecarts_de(etat, a.match);
 }

@@ -1,8 +1,7 @@
 #include "analyse/code.h"
 
 #include "analyse/code_attendu.h"
-#include "analyse/releve.h"
-#include "analyse/verdict.h"
+#include "analyse/phrases.h"
 #include "sim/actions.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "analyse/code_attendu.h"
 
-#include "analyse/releve.h"
+#include "analyse/match.h"
 #include "sim/actions.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "analyse/code_attendu.h"
 #include "analyse/lecture.h"
+#include "analyse/phrases.h"
 #include "analyse/releve.h"
-#include "analyse/verdict.h"
 #include "base/fichiers.h"
 
 #include <algorithm>

@@ -148,3 +148,10 @@ std::size_t MatchCalcule::tick(std::int32_t t) const {
 MatchCalcule calculer_match(Etat& e) {
     return Joueur(e).jouer();
 }
+
+int actions_du_plan(const Trajectoires& t, int robot) {
+    int n = 0;
+    while (n < t.TrajNbActions(robot) && t.TrajAction(robot, n + 1) != actions::FIN)
+        ++n;
+    return n;
+}

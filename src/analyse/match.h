@@ -56,3 +56,5 @@ struct MatchCalcule {
 /// Plays the match that "Démarrer" would play from `e`, with its settings; `e` is the caller's to
 /// lose (a copy). Robot 1 keeps its action at the end: only the window turns it to "FIN".
 MatchCalcule calculer_match(Etat& e);
+/// Actions before the first "FIN".
+int actions_du_plan(const Trajectoires& t, int robot);

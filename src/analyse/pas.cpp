@@ -1,5 +1,5 @@
+#include "analyse/phrases.h"
 #include "analyse/releve.h"
-#include "analyse/verdict.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,5 @@
+#include "analyse/phrases.h"
 #include "analyse/releve.h"
-#include "analyse/verdict.h"
 #include "sim/actions.h"
 
 #include <algorithm>
@@ -118,13 +118,6 @@ void constater_predictions(const Enquete& q, const Bilan& b) {
 }
 
 } // namespace
-
-int actions_du_plan(const Trajectoires& t, int robot) {
-    int n = 0;
-    while (n < t.TrajNbActions(robot) && t.TrajAction(robot, n + 1) != actions::FIN)
-        ++n;
-    return n;
-}
 
 void constater_plan(const Enquete& q, const Bilan& bilan) {
     constater_duree(q, bilan);

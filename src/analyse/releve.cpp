@@ -1,6 +1,6 @@
 #include "analyse/releve.h"
 
-#include "analyse/verdict.h"
+#include "analyse/phrases.h"
 
 #include <algorithm>
 #include <cmath>
@@ -58,10 +58,10 @@ Releve relever(const Etat& e, const MatchCalcule& m) {
     return r;
 }
 
-void mesurer_ecarts(const Etat& etat, Analyse& a) {
-    a.ecarts.clear();
+std::vector<EcartDeRobots> ecarts_de(const Etat& e, const MatchCalcule& m) {
+    std::vector<EcartDeRobots> ecarts;
     // Where both stand still, the tick that brought them there.
-    const auto arrivee = [&m = a.match](std::size_t tick, int i, int j) {
+    const auto arrivee = [&m](std::size_t tick, int i, int j) {
         const auto immobile = [](const std::vector<PoseTick>& poses, std::size_t t) {
             return poses[t] == poses[t - 1];
         };
@@ -72,9 +72,10 @@ void mesurer_ecarts(const Etat& etat, Analyse& a) {
     const auto mesurer = [&](int i, int j, const Parcours& p, const Parcours& q) {
         const Rencontre vue = rencontre(p, q);
         if (std::isfinite(vue.ecart))
-            a.ecarts.push_back({i, j, vue.ecart, a.match.temps(arrivee(vue.tick_ecart, i, j))});
+            ecarts.push_back({i, j, vue.ecart, m.temps(arrivee(vue.tick_ecart, i, j))});
     };
-    pour_chaque_paire(parcours_de_tous(etat, a.match), mesurer);
+    pour_chaque_paire(parcours_de_tous(e, m), mesurer);
+    return ecarts;
 }
 
 void constater_terrain(const Enquete& q, const Releve& releve) {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "analyse/analyse.h"
 #include "analyse/contacts.h"
+#include "analyse/resultat.h"
 #include "analyse/sortie.h"
 
 #include <array>
@@ -21,6 +21,8 @@ struct Releve {
 std::vector<Obstacle> obstacles(const AireDeJeu& table);
 
 Releve relever(const Etat& e, const MatchCalcule& m);
+/// The smallest gap of every pair, in the order of robot, then autre.
+std::vector<EcartDeRobots> ecarts_de(const Etat& e, const MatchCalcule& m);
 
 /// All that finding something needs to see, and where it goes.
 struct Enquete {
@@ -40,11 +42,6 @@ struct Enquete {
     /// "l'action 3 (AVANCE)"
     std::string l_action(int robot, int numero) const;
 };
-
-/// Actions before the first "FIN".
-int actions_du_plan(const Trajectoires& t, int robot);
-/// "1 action", "3 actions"
-std::string compte(int n, std::string_view nom);
 
 void constater_plan(const Enquete& q, const Bilan& bilan);
 void constater_arret(const Enquete& q);

@@ -1,26 +1,11 @@
 #include "analyse/verdict.h"
 
-#include "analyse/releve.h"
 #include "base/texte.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
-
-/// A number with a decimal comma; `rang` decimals.
-std::string decimal(double valeur, int rang) {
-    const double echelle = std::pow(10, rang);
-    std::string texte(texte_double15(std::round(valeur * echelle) / echelle).vue());
-    std::size_t point = texte.find('.');
-    if (point == std::string::npos) {
-        point = texte.size();
-        texte += '.';
-    }
-    texte.resize(point + 1 + static_cast<std::size_t>(rang), '0');
-    texte[point] = ',';
-    return texte;
-}
 
 std::string place(double x, double y) {
     return "(" + dixiemes(x) + " ; " + dixiemes(y) + ")";
@@ -34,14 +19,6 @@ std::string fin_des_trajets(const Analyse& a) {
 }
 
 } // namespace
-
-std::string secondes(std::int32_t centiemes) {
-    return decimal(centiemes / 100.0, 2) + " s";
-}
-
-std::string dixiemes(double valeur) {
-    return decimal(valeur, 1);
-}
 
 std::optional<std::int32_t> fin_des_plans(const Analyse& a) {
     std::optional<std::int32_t> fin;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analyse/analyse.h"
+#include "analyse/phrases.h"
 
 /// One line: end of the last action and margin, arrival of robot 1, number of findings.
 std::string verdict(const Analyse& a);
@@ -14,8 +15,3 @@ std::string en_ligne(const Constat& constat);
 std::string en_ligne(const EcartDeRobots& ecart);
 /// The whole analysis as one JSON object.
 std::string en_json(const Analyse& a);
-
-/// "45,60 s"
-std::string secondes(std::int32_t centiemes);
-/// A length or an angle with one decimal: "12,3".
-std::string dixiemes(double valeur);

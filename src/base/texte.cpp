@@ -1,6 +1,6 @@
 #include "base/texte.h"
 
-#include "base/texte_brut.h"
+#include "base/marque.h"
 #include "base/visible.h"
 
 #include <iconv.h>

@@ -1,14 +1,12 @@
 #pragma once
 
+#include "base/marque.h"
 #include "base/texte.h"
 
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
-
-/// The UTF-8 byte-order mark, which a file may begin with.
-inline constexpr std::string_view marque_utf8 = "\xEF\xBB\xBF";
 
 /// One line of a text file: where its bytes lie and what they say.
 struct LigneBrute {

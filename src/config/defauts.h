@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/projet.h"
+#include "config/reglages.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/erreur_lecture.h"
+#include "config/reglages.h"
 #include "sim/etat.h"
 #include "sim/fenetres.h"
 
@@ -10,14 +11,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-/// The options window's values, as the general settings file keeps them.
-struct ReglagesGeneraux {
-    bool rapide = true;       ///< Check1
-    bool allege = false;      ///< Check2
-    std::string nb_robot;     ///< caption of NbRO
-    bool horizontale = false; ///< Check3
-};
 
 /// Reads and installs a project's files for one Etat. Every failing reader shows "Erreur lors de la
 /// lecture du fichier " + path + " Ligne " + line number through Fenetres, stops, and falls back on
