@@ -25,8 +25,9 @@ const actions::Action& action_de(const MouvementRelu& mouvement, bool croises) {
         return a.genere == mouvement.regle->mot && a.genre != actions::Genre::arc;
     };
     const actions::Action& action = *std::ranges::find_if(actions::boutons, meme_mot);
-    return croises || action.genre != actions::Genre::rotation ? action
-                                                               : *actions::trouver(action.miroir);
+    const actions::Action* const autre_cote = actions::trouver(action.miroir);
+    const bool inverse = !croises && action.genre == actions::Genre::rotation;
+    return inverse && autre_cote != nullptr ? *autre_cote : action;
 }
 
 void remplacer_trajet(Etat& e, int robot, std::span<const MouvementRelu> code, bool croises) {
@@ -60,7 +61,7 @@ public:
             const int k = debut->action;
             const auto fin = std::find_if(debut, attendus.end(),
                                           [k](const MouvementAttendu& m) { return m.action != k; });
-            if (const auto difference = comparer(k, {debut, fin}))
+            if (auto difference = comparer(k, {debut, fin}))
                 return difference;
             debut = fin;
         }
@@ -169,6 +170,22 @@ EcartDeCode comparer_au_code(const Etat& e, const MatchCalcule& ecran, int robot
     ecart.angle = angle_entre(ecart.ecran.cap, ecart.code.cap);
     ecart.premiere = Recherche(e, ecran, ecart, mouvements, code.virages_croises).premiere();
     return ecart;
+}
+
+std::vector<std::string> phrases(const EcartDeCode& ecart, const CodeRelu& relu) {
+    const auto fin = [](const PoseTick& p) {
+        return "fin en (" + dixiemes(p.x) + " ; " + dixiemes(p.y) + "), cap " + dixiemes(p.cap) +
+               "°";
+    };
+    const std::string robot = "robot " + std::to_string(ecart.robot);
+    std::vector<std::string> phrases{"Le code du " + robot + " finit " + a_distance(ecart),
+                                     ecart.premiere
+                                         ? "Première différence : " + ecart.premiere->texte
+                                         : "Aucune action ne diffère",
+                                     "Écran : " + fin(ecart.ecran), "Code : " + fin(ecart.code)};
+    for (const CodeRelu::Incomprise& i : relu.incomprises)
+        phrases.push_back("Ligne " + std::to_string(i.ligne) + " non comprise : " + i.raison);
+    return phrases;
 }
 
 std::string a_distance(const EcartDeCode& ecart) {

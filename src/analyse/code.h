@@ -41,3 +41,6 @@ EcartDeCode comparer_au_code(const Etat& e, const MatchCalcule& ecran, int robot
                              const CodeDuRobot& code);
 /// "à 12,3 cm et 4,5° de l'écran"
 std::string a_distance(const EcartDeCode& ecart);
+/// All that is to be said, in French sentences without their full stops: the distance, the first
+/// difference, both ends, each line that was not understood.
+std::vector<std::string> phrases(const EcartDeCode& ecart, const CodeRelu& relu);

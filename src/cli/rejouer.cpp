@@ -1,5 +1,4 @@
 #include "analyse/code.h"
-#include "analyse/verdict.h"
 #include "base/fichiers.h"
 #include "base/texte.h"
 #include "cli/choix.h"
@@ -27,22 +26,6 @@ CodeRelu relire(const std::filesystem::path& fichier, const std::optional<std::s
     return relire_fonction(programme, fonction.value_or("TRAJECTOIRE"));
 }
 
-void ecrire_fin(const SortieDeLignes& sortie, const char* qui, const PoseTick& p) {
-    sortie.ligne(std::string(qui) + " : fin en (" + dixiemes(p.x) + " ; " + dixiemes(p.y) +
-                 "), cap " + dixiemes(p.cap) + "°");
-}
-
-void ecrire(const EcartDeCode& ecart, const CodeRelu& relu) {
-    const SortieDeLignes sortie;
-    ecrire_fin(sortie, "Écran", ecart.ecran);
-    ecrire_fin(sortie, "Code", ecart.code);
-    sortie.ligne("Le code finit " + a_distance(ecart));
-    sortie.ligne(ecart.premiere ? "Première différence : " + ecart.premiere->texte
-                                : "Aucune action ne diffère");
-    for (const CodeRelu::Incomprise& i : relu.incomprises)
-        sortie.ligne("Non compris, ligne " + std::to_string(i.ligne) + " : " + i.raison);
-}
-
 int rejouer(const OptionsRejouer& options) {
     const CodeDuRobot code{relire(place_demandee(options.code), options.fonction), options.code,
                            !options.non_croises};
@@ -55,7 +38,9 @@ int rejouer(const OptionsRejouer& options) {
         etat->NbRobot = options.robot;
     const auto copie = std::make_unique<Etat>(*etat);
     const EcartDeCode ecart = comparer_au_code(*etat, calculer_match(*copie), options.robot, code);
-    ecrire(ecart, code.relu);
+    const SortieDeLignes sortie;
+    for (const std::string& phrase : phrases(ecart, code.relu))
+        sortie.ligne(phrase);
     return ecart.notable() || !code.relu.incomprises.empty() ? 1 : fenetres.code_de_sortie();
 }
 

@@ -1,6 +1,8 @@
 #include "ui/banc.h"
+#include "ui/commun/virages_croises.h"
 #include "ui/generation/dialog.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QPlainTextEdit>
 #include <QSettings>
@@ -260,6 +262,38 @@ TEST_F(FenetreGenerationRemplie, un_essai_refuse_ne_laisse_pas_l_ancien_succes_e
     const QString explication = QString::fromStdString(explications.back());
     EXPECT_TRUE(explication.contains("se terminer par « .bas »")) << "the advice stays";
     EXPECT_TRUE(explication.contains("« Fermer », dans la fenêtre de génération, la fait revenir"));
+}
+
+TEST_F(FenetreGeneration, ce_que_fera_le_code_se_voit_et_depend_du_sens_des_virages) {
+    dossier.ecrire("Configuration/Defaut PourGenerer10.ini",
+                   "# Fichier Defaut PourGenerer10.ini\r\nGAUCHE:90\r\nAVANCE:50\r\n");
+    dossier.ecrire("Configuration/Defaut Trajet1.ini",
+                   "Init,100,100,90\r\nDroite,90\r\nAvance,50\r\nFIN\r\n");
+    const auto finit_par_dire = [](auto& controle, auto lire, const QString& phrase) {
+        return QTest::qWaitFor([&] { return lire(controle).contains(phrase); });
+    };
+    auto& texte = dans<QPlainTextEdit>("texte_rejeu");
+    const auto lire_texte = [](const QPlainTextEdit& t) { return t.toPlainText(); };
+    EXPECT_TRUE(finit_par_dire(texte, lire_texte, "choisissez une trajectoire."));
+    selectionner("File", "Defaut PourGenerer10.ini");
+    EXPECT_TRUE(finit_par_dire(texte, lire_texte, "Aucune action ne diffère."));
+    EXPECT_TRUE(texte.toPlainText().contains("Code : fin en (150,0 ; 100,0), cap 0,0°."));
+
+    dans<QCheckBox>("virages_croises").setChecked(false);
+    EXPECT_TRUE(finit_par_dire(texte, lire_texte,
+                               "Première différence : l'action 1 (DROITE 90) : le code fait GAUCHE "
+                               "90, qui tourne à gauche (ligne 2)."));
+    auto& verdict = trouver<QAbstractButton>("verdict");
+    EXPECT_TRUE(finit_par_dire(
+        verdict, [](const QAbstractButton& b) { return b.text(); }, "· 1 constat"))
+        << verdict.text().toStdString();
+    // It is this project's setting, and comes back with it.
+    EXPECT_FALSE(virages_croises(dossier / "Configuration", "Defaut"));
+    EXPECT_TRUE(virages_croises(dossier / "Configuration", "Finale"));
+    e().NomProjet = "Finale";
+    seance().annonces().annoncer(&Ecouteur::projet_change, Lecture::projet);
+    EXPECT_TRUE(finit_par_dire(texte, lire_texte, "ce fichier est d'un autre projet"));
+    EXPECT_TRUE(dans<QCheckBox>("virages_croises").isChecked());
 }
 
 TEST_F(FenetreGeneration, la_liste_des_fichiers_suit_l_extension_sans_tenir_compte_de_la_casse) {

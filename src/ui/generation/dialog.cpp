@@ -58,7 +58,11 @@ Dialog::Dialog(QWidget* parent, Seance& seance, Bureau& bureau)
                "Extention de fichier où se trouve le code de génération interne au simulateur",
                "de la trajectoire enregistrée",
                {"*.ini", "*.*"}}),
-      coloration_(apercu_.document(), palette()) {
+      coloration_(apercu_.document(), palette()),
+      rejeu_(seance, [this] {
+          if (isVisible())
+              repos_.start();
+      }) {
     nommer();
     placer();
     connecter();
@@ -197,6 +201,7 @@ void Dialog::showEvent(QShowEvent* evenement) {
     QWidget::showEvent(evenement);
     if (entree_.fichier().empty() || projet_preselectionne_ != seance_.etat().NomProjet)
         preselectionner();
+    repos_.start(); // what the trajectories and settings became meanwhile
 }
 
 void Dialog::connecter() {

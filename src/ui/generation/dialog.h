@@ -3,6 +3,7 @@
 #include "codegen/generateur.h"
 #include "ui/commun/editeur_code.h"
 #include "ui/generation/choix_fichier.h"
+#include "ui/generation/panneau_rejeu.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -60,6 +61,7 @@ private:
     void nommer();
     void placer();
     QLayout* placer_cible();
+    QLayout* placer_apercu();
     QLayout* placer_boutons();
     void connecter();
 
@@ -77,6 +79,7 @@ private:
     ColorationDifference coloration_;
     QListWidget avertissements_;
     QTimer repos_;
+    PanneauRejeu rejeu_;
     std::string CheminCourant_; ///< of the directory list that changed last
     std::string projet_preselectionne_;
     std::unique_ptr<OuvGeneration> ouv_generation_;

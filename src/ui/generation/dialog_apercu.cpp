@@ -79,6 +79,7 @@ void Dialog::rafraichir_apercu() {
     avertissements_.clear();
     apercu_.setPlainText({});
     const Demande d = demande();
+    rejeu_.montrer(d.entree);
     try {
         if (!d.entree.empty())
             avertir_de_l_entree(d.entree);

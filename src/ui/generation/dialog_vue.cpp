@@ -85,7 +85,7 @@ void Dialog::placer() {
     colonne->addLayout(haut, 2);
     colonne->addLayout(placer_cible());
     colonne->addWidget(&titre_apercu_);
-    colonne->addWidget(&apercu_, 3);
+    colonne->addLayout(placer_apercu(), 3);
     colonne->addWidget(&avertissements_);
     colonne->addWidget(&compte_rendu_);
     colonne->addLayout(placer_boutons());
@@ -103,6 +103,14 @@ QLayout* Dialog::placer_cible() {
     grille->addWidget(&menu, 1, 2, 1, 2);
     grille->setColumnStretch(1, 1);
     return grille;
+}
+
+QLayout* Dialog::placer_apercu() {
+    auto* rangee = new QHBoxLayout;
+    rangee->addWidget(&apercu_, 1);
+    rangee->addSpacing(8);
+    rangee->addWidget(&rejeu_, 1);
+    return rangee;
 }
 
 QLayout* Dialog::placer_boutons() {

@@ -2,6 +2,7 @@
 
 #include "analyse/verdict.h"
 #include "ui/commun/boites.h"
+#include "ui/commun/virages_croises.h"
 #include "ui/verdict/liste_constats.h"
 
 #include <QShortcut>
@@ -67,7 +68,11 @@ void Verdict::calculer() {
 // A recorded path stands in a file only once it is saved, and which lines it has there nobody has
 // counted.
 Provenance Verdict::provenance() const {
-    Provenance p = provenance_de(seance_.projet());
+    const Projet& projet = seance_.projet();
+    Provenance p = provenance_de(projet);
+    if (p.code)
+        p.code->virages_croises =
+            virages_croises(projet.dossier_configuration(), seance_.etat().NomProjet);
     for (int i = 1; i <= robots_des_fichiers; ++i) {
         if (enregistres_.test(static_cast<std::size_t>(i)))
             p.lignes(i).clear();
