@@ -35,9 +35,9 @@ TEST(Poignees, nombre_place_et_effet) {
 TEST(Formes, la_zone_ou_la_souris_prend_un_objet) {
     struct Cas {
         Fiche objet;
-        Vecteur dedans, dehors; ///< within and beyond 2 cm
+        Vecteur dedans, dehors; ///< by a tolerance of 2 cm
     };
-    for (const Cas& c : {Cas{{"L", {10, 10, 50, 50}, ""}, {30, 30}, {52, 30}},
+    for (const Cas& c : {Cas{{"L", {10, 10, 50, 50}, ""}, {50.9, 30}, {51.1, 30}},
                          Cas{{"DC", {10, 10, 50, 50}, ""}, {51.5, 30}, {30, 30}},
                          Cas{{"LE", {10, 10, 50, 30}, ""}, {30, 11}, {30, 20}},
                          Cas{{"LE", {10, 10, 50, 30}, ""}, {11, 20}, {12, 12}},
@@ -133,6 +133,22 @@ TEST(Choix, un_clic_et_un_cadre_choisissent_seuls_ou_en_plus) {
     EXPECT_EQ(apres_cadre(avant, {2, 4}, true), (Choix{1, 2, 4}));
 }
 
+TEST(Cadre, prend_ce_qu_il_contient_et_la_souris_ce_qui_est_au_dessus) {
+    const DocumentTable t =
+        DocumentTable::depuis("L,0,0,200,200\nO,20,20,40,40\nM,x\nLN,30,30,90,30\n");
+    EXPECT_EQ(objets_dans(t, {10, 10, 50, 50}, false), Choix{1});
+    EXPECT_EQ(objets_dans(t, {0, 0, 200, 200}, false), (Choix{0, 1, 3}));
+    EXPECT_EQ(objets_dans(t, {0, 0, 200, 200}, true), Choix{3}) << "zones are locked";
+    EXPECT_EQ(objet_sous(t, {31, 30}, 1, false), 3U);
+    EXPECT_EQ(objet_sous(t, {31, 35}, 1, false), 1U);
+    EXPECT_EQ(objet_sous(t, {31, 35}, 1, true), std::nullopt);
+    const DocumentRobot r = DocumentRobot::depuis("A,10,5,8\nR,0,0,4,0\nR,0,0,0,34\n");
+    EXPECT_EQ(segments_dans(r, {-1, -1, 5, 5}), Choix{1}) << "not what only begins in it";
+    EXPECT_EQ(segment_sous(r, {0.1, 0.2}, 1), 2U);
+    EXPECT_EQ(segment_sous(r, {3, 0.2}, 1), 1U);
+    EXPECT_EQ(segment_sous(r, {10, 5}, 1), std::nullopt) << "the reference point is none";
+}
+
 TEST(Mesures, valent_comme_elles_sont_tapees_dans_n_importe_quel_ordre) {
     constexpr std::size_t angle = 4;
     struct Cas {
@@ -145,7 +161,7 @@ TEST(Mesures, valent_comme_elles_sont_tapees_dans_n_importe_quel_ordre) {
           Cas{{{2, 120}, {0, 90}}, "O , 90, 20, 120, 40\n"},
           Cas{{{0, 40}}, "O,20,20,40,40\n"}, // for a moment without width
           Cas{{{0, 40}, {2, 70}}, "O , 40, 20, 70, 40\n"},
-          Cas{{{angle, 33}, {angle, 61}, {angle, 0}}, "LN , 100, 100, 150, 100\n", trait},
+          Cas{{{angle, 45}, {angle, 0}}, "LN , 9, 9, 14, 9\n", "LN,9,9,12,13\n"}, // rounded once
           Cas{{{angle, -90}, {0, 90}, {angle, 0}}, "LN , 90, 100, 141, 100\n", trait},
           Cas{{{angle, -135}}, "LN , 100, 100, 65, 65\n", trait},
           Cas{{{angle, 180}}, "LN,10,80,90,80\n", "LN,10,80,90,80\n"}}) { // beyond x = 0

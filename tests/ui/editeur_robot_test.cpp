@@ -45,6 +45,11 @@ TEST_F(EditeurRobot, les_outils_tracent_des_segments_et_tout_s_annule) {
     QDropEvent lacher(ici, Qt::CopyAction, &donnees, Qt::LeftButton, {});
     QApplication::sendEvent(&vue(), &lacher);
     EXPECT_EQ(nombres("R"), "15 15 15 25");
+    donnees.setData(BoutonOutil::format, "outil_L");
+    QDropEvent une_zone(ici, Qt::CopyAction, &donnees, Qt::LeftButton, {});
+    QApplication::sendEvent(&vue(), &entree);
+    QApplication::sendEvent(&vue(), &une_zone);
+    EXPECT_EQ(nombres("R"), "15 15 15 25");
     clic(15, 22);
     tirer({15, 25}, {18, 29}); // one end
     EXPECT_EQ(nombres("R"), "15 15 18 29");
@@ -146,7 +151,7 @@ TEST_F(EditeurRobot, la_liste_montre_les_segments_et_se_parcourt_au_clavier) {
     EXPECT_EQ(choisis(), "0, 0 – 0, 34 | 0, 0 – 20, 0 | 20, 0 – 20, 34");
     liste.clearSelection();
     liste.setCurrentRow(0);
-    EXPECT_EQ(trouver<QDoubleSpinBox>("Y2").value(), 34);
+    EXPECT_EQ(trouver<QDoubleSpinBox>("X2").value(), 0);
     for (const char* suivant : {"0, 0 – 20, 0", "20, 0 – 20, 34"}) {
         QTest::keyClick(&liste, Qt::Key_Down);
         EXPECT_EQ(choisis(), suivant);
