@@ -43,10 +43,10 @@ void remplacer_trajet(Etat& e, int robot, std::span<const MouvementRelu> code, b
 }
 
 // Goes through both side by side, action by action, up to the first difference.
-class Recherche {
+class Divergence {
 public:
-    Recherche(const Etat& e, const MatchCalcule& ecran, const EcartDeCode& ecart,
-              std::span<const MouvementRelu> code, bool croises)
+    Divergence(const Etat& e, const MatchCalcule& ecran, const EcartDeCode& ecart,
+               std::span<const MouvementRelu> code, bool croises)
         : e_(e),
           robot_(ecart.robot),
           ecran_(ecran.actions(robot_)),
@@ -168,7 +168,7 @@ EcartDeCode comparer_au_code(const Etat& e, const MatchCalcule& ecran, int robot
     ecart.code = ecart.match.poses(robot).back();
     ecart.distance = distance_entre(ecart.ecran, ecart.code);
     ecart.angle = angle_entre(ecart.ecran.cap, ecart.code.cap);
-    ecart.premiere = Recherche(e, ecran, ecart, mouvements, code.virages_croises).premiere();
+    ecart.premiere = Divergence(e, ecran, ecart, mouvements, code.virages_croises).premiere();
     return ecart;
 }
 

@@ -3,10 +3,22 @@
 #include "analyse/phrases.h"
 #include "analyse/releve.h"
 #include "base/fichiers.h"
+#include "sim/actions.h"
 
 #include <algorithm>
 
 namespace {
+
+// Move for move the trajectory, of which nothing is translated: playing it would show nothing new.
+bool identique(const Etat& e, int robot, const CodeDuRobot& code) {
+    const std::vector<MouvementAttendu> attendus = mouvements_attendus(e, robot);
+    return code.virages_croises &&
+           attendus.size() == static_cast<std::size_t>(actions_du_plan(e, robot)) &&
+           std::ranges::equal(attendus, deplacements(code.relu), &MouvementAttendu::est) &&
+           std::ranges::none_of(attendus, [&](const MouvementAttendu& m) {
+               return actions::est(e.TrajAction(robot, m.action), actions::Genre::arc);
+           });
+}
 
 std::string conseil(const EcartDeCode& ecart) {
     if (ecart.premiere && ecart.premiere->par_un_arc)
@@ -30,7 +42,7 @@ void constater_code(const Enquete& q) {
     const auto& code = q.provenance.code;
     const int robot = code ? robot_du_code(q.e, code->relu) : 0;
     // A path that is being recorded gets its code when it is saved.
-    if (robot == 0 || q.e.TrajetModifie(robot))
+    if (robot == 0 || q.e.TrajetModifie(robot) || identique(q.e, robot, *code))
         return;
     const EcartDeCode ecart = comparer_au_code(q.e, q.m, robot, *code);
     if (!ecart.notable())

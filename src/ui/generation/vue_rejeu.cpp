@@ -21,7 +21,7 @@ constexpr std::array legendes{"écran", "code"};
 
 constexpr float pas_d_un_virage = 2; ///< degrees
 
-OptionsTrace chemin_de(int robot, Couleur couleur, bool pointille) {
+OptionsTrace trace_de(int robot, Couleur couleur, bool pointille) {
     OptionsTrace o;
     o.robot = robot;
     o.secondes = o.actions = false;
@@ -99,8 +99,8 @@ void VueRejeu::peindre_table_et_chemins(QPainter& peintre, const QRectF& place) 
         // The main window says what cannot be drawn.
     }
     const int robot = ecart_.robot;
-    dessiner_trace(*etat_, ecart_.match, chemin_de(robot, couleur_code, true), surface);
-    dessiner_trace(*etat_, ecran_, chemin_de(robot, couleur_ecran, false), surface);
+    dessiner_trace(*etat_, ecart_.match, trace_de(robot, couleur_code, true), surface);
+    dessiner_trace(*etat_, ecran_, trace_de(robot, couleur_ecran, false), surface);
     // Once more, so that both are seen where they go the same way.
     surface.epaisseur(2);
     surface.trait_pointille(true);
