@@ -4,6 +4,7 @@
 
 #include <QClipboard>
 #include <QTableView>
+#include <QTreeWidget>
 
 namespace {
 
@@ -180,6 +181,25 @@ TEST_F(EditeurTrajet, enregistrer_prepare_le_code_et_l_autre_robot) {
     faire("copier_vers");
     EXPECT_NE(sur_le_disque(2).find("GAUCHE,90\r\nVirAvDr,90,30\r\n"), std::string::npos);
     EXPECT_EQ(e().TrajParam1(2, 1), 30) << "chargé";
+}
+
+TEST_F(EditeurTrajet, la_difference_aligne_et_rend_une_version) {
+    taper(1, ModeleActions::valeur1, "30", Qt::Key_Return);
+    std::vector<std::string> lignes;
+    dialogues["differenceTrajet"] = [&](QDialog& d) {
+        auto* liste = d.findChild<QTreeWidget*>("listeDifferences");
+        for (int i = 0; i < liste->topLevelItemCount(); ++i)
+            lignes.push_back(
+                (liste->topLevelItem(i)->text(0) + liste->topLevelItem(i)->text(1)).toStdString());
+        d.findChild<QPushButton*>("reprendreVersion")->click();
+    };
+    faire("comparer");
+    ASSERT_EQ(lignes.size(), 5U);
+    EXPECT_EQ(lignes[0], "=Init,100,50,90");
+    EXPECT_EQ(lignes[1], "≠Avance, 80 # vers le haut");
+    EXPECT_EQ(texte(), depart);
+    faire("annuler");
+    EXPECT_NE(texte(), depart) << "en un pas qui s'annule";
 }
 
 // Ends without saving: the next start offers the changes again.

@@ -69,6 +69,7 @@ private:
     void monter(bool vers_le_haut);
     void chercher();
     void retourner(const QString& nom, Retournement r);
+    void comparer();
     void prendre_le_trajet_de_la_console();
     void copier_vers_un_robot();
     void ecrire_la_copie(const DocumentTrajet& copie, int vers, bool generation);

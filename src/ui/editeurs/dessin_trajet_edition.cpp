@@ -1,5 +1,6 @@
 // What the menus of the trajectory editor do.
 #include "base/fichiers.h"
+#include "config/versions.h"
 #include "edition/actions_trajet.h"
 #include "edition/miroir.h"
 #include "record/preparation.h"
@@ -8,6 +9,7 @@
 #include "sim/orientation.h"
 #include "ui/editeurs/copie_trajet.h"
 #include "ui/editeurs/dessin_trajet.h"
+#include "ui/editeurs/difference_trajet.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -89,6 +91,9 @@ void dessinTrajet::preparer_trajet() {
         menu, "generation", "Préparer l'&entrée du générateur", QKeySequence("Ctrl+E"),
         [this] { preparer_la_generation(historique_.doc(), robot()); }, Qt::QueuedConnection);
     menu.addSeparator();
+    action(
+        menu, "comparer", "C&omparer...", QKeySequence("Ctrl+K"), [this] { comparer(); },
+        Qt::QueuedConnection);
     action(
         menu, "console", "Prendre le trajet de la &console", {},
         [this] { prendre_le_trajet_de_la_console(); }, Qt::QueuedConnection);
@@ -211,6 +216,24 @@ void dessinTrajet::prendre_le_trajet_de_la_console() {
     const std::string nom = chemin().empty() ? "Trajet.ini" : chemin().filename().string();
     changer("Prendre le trajet de la console",
             DocumentTrajet::depuis(texte_trajet(*droit, robot(), nom)), {});
+}
+
+// The file as it was saved, its kept versions, the other robots' trajectories.
+void dessinTrajet::comparer() {
+    std::vector<DifferenceTrajet::Source> sources;
+    if (!chemin().empty())
+        sources.push_back({"Le fichier enregistré", [this] { return sur_le_disque(); }});
+    for (const Version& v : lister_versions(programme().configuration, projet(), {}))
+        if (v.fichier == chemin().filename().string())
+            sources.push_back({"Version gardée le " + texte_qt(v.date),
+                               [copie = v.copie] { return lire_octets(copie); }});
+    for (int n = 1; n <= robots_des_fichiers; ++n)
+        if (const auto autre = seance_.projet().chemin_trajet(n); autre != chemin())
+            sources.push_back({QString("Robot %1").arg(n), [autre] { return lire_octets(autre); }});
+    DifferenceTrajet dialogue(this, {*etat_, provenance_, robot(), historique_.doc()},
+                              std::move(sources));
+    if (dialogue.exec() == QDialog::Accepted)
+        changer("Reprendre : " + dialogue.nom_de_l_autre(), dialogue.autre(), {});
 }
 
 void dessinTrajet::apres_ecriture() {
