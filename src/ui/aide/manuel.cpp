@@ -17,6 +17,7 @@ constexpr PageManuel pages[] = {
     {"options", "Les options et les projets", " FOption Ouvrir "},
     {"telecommande", "La télécommande", " Télécommande "},
     {"editeurs", "Les éditeurs", " Foutil dessinTable dessinRobot nouveauProjet "},
+    {"trajets", "L'éditeur de trajets", " dessinTrajet copieTrajet differenceTrajet "},
     {"generation", "La génération PICBASIC", " Dialog OuvGeneration Visualiser "},
     {"fichiers", "Les fichiers de configuration", " Restauration "},
     {"messages", "Messages et dépannage", " message question "},
