@@ -125,10 +125,9 @@ void DifferenceTrajet::remplir() {
     }
     for (int colonne = 0; colonne < 2; ++colonne)
         liste_.resizeColumnToContents(colonne);
-    bilan_.setText(differences == 0
-                       ? QString("Les mêmes actions.")
-                       : QString("%1 ligne(s) diffèrent. Trait plein : ce trajet ; pointillé : "
-                                 "l'autre.")
-                             .arg(differences));
+    const QString nombre = differences == 1 ? QString("Une ligne diffère.")
+                                            : QString("%1 lignes diffèrent.").arg(differences);
+    bilan_.setText(differences == 0 ? QString("Les mêmes actions.")
+                                    : nombre + " Trait plein : ce trajet ; pointillé : l'autre.");
     reprendre_.setEnabled(autre_.ecrire() != sujet_.trajet.ecrire());
 }

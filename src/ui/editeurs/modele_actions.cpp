@@ -21,10 +21,11 @@ const actions::Action* sorte(const Fiche& fiche) {
     return actions::trouver(Nom10(fiche.cle));
 }
 
-/// Brought back to a turn: above -180, up to 180 degrees.
+/// Brought back to a turn: above -180, up to 180 degrees, as they are shown.
 double cap_ramene(double cap) {
+    constexpr double presque = -179.95;
     const double reste = std::remainder(cap, 360);
-    return reste == -180 ? 180 : reste;
+    return reste <= presque ? reste + 360 : reste;
 }
 
 /// What the number at place i of an action means: "rayon".
