@@ -67,6 +67,17 @@ public:
     /// there again, and not recording.
     void annuler();
 
+    /// The actions from `rang` on (0: the first one) can be replaced: recording, no robot moves,
+    /// the match goes on, and what they changed is known.
+    bool modification_possible(std::size_t rang) const;
+    /// Takes recorded action `rang` out; puts one in front of it; puts another one in its place.
+    /// What follows is driven again at once, and the robot stands where the path ends now.
+    /// @throws ErreurExecution when an action would not end within the match, or the trajectory or
+    ///         the generation table is full; all is as before then
+    void supprimer(std::size_t rang);
+    void inserer(std::size_t rang, const ActionConduite& action);
+    void changer(std::size_t rang, const ActionConduite& action);
+
     /// The path of robot `numero` can be continued: it was recorded last.
     bool continuation_possible(Entier16 numero) const;
     /// Records on at the end of the robot's path: plays it at once, lists its actions, and the next
@@ -107,7 +118,10 @@ private:
     void ceder_la_place();
     void lancer(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2);
     void inscrire(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2);
-    void rejouer(const Etape& etape, Entier16 robot, Entier16 parcouru);
+    bool rejouer(Entier16 robot, const ActionConduite& action);
+    void refaire(std::size_t rang, const std::vector<ActionConduite>& suite);
+    std::vector<ActionConduite> suite_depuis(std::size_t rang) const;
+    void conduire(const std::vector<ActionConduite>& suite);
     void rejouer_le_trajet(const struct LignesDuTrajet& lignes);
     void ecrire_reprise();
     void memoriser(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2);

@@ -70,7 +70,7 @@ bool Console::arreter_action() {
     arretee.avant.retablir(etat_, moteur_, fenetres_);
     std::string reste = "retirée du trajet : " + ligne_de_liste(arretee).action;
     if (parcouru != 0) {
-        rejouer(arretee, robot, parcouru);
+        rejouer(robot, {arretee.nom, parcouru, arretee.p2});
         reste = "le trajet en garde : " + ligne_de_liste(etapes_.back()).action;
     }
     ecrire_reprise();
@@ -78,24 +78,6 @@ bool Console::arreter_action() {
     fenetres_.Dessine_Robot();
     fenetres_.ecrire_texte_Mess("Action arrêtée, " + reste);
     return true;
-}
-
-// The action again, shorter and at once: the state is the one that driving it would have left.
-void Console::rejouer(const Etape& etape, Entier16 robot, Entier16 parcouru) {
-    const bool angle = actions::trouver_legende(etape.nom)->a_un_angle();
-    (angle ? saisie_.Text4 : saisie_.Text1) = std::to_string(parcouru);
-    lancer(robot, etape.nom, parcouru, etape.p2);
-    try {
-        inscrire(robot, etape.nom, parcouru, etape.p2);
-    } catch (const ErreurExecution&) { // NOLINT(bugprone-empty-catch)
-        // The list marks it; the message came when the action began.
-    }
-    fenetres_.regler_Timer(0);
-    joue_ = false;
-    Rejeu(etat_).finir_action();
-    etapes_.back().fin = etat_.TempsEcoule;
-    etat_.ZoneRedessin = {0, etat_.XMax, 0, etat_.YMax};
-    fenetres_.ecrire_nbre_carreaux(texte_entier(etat_.NbreCarreaux));
 }
 
 bool Console::continuation_possible(Entier16 numero) const {

@@ -17,6 +17,13 @@ struct Etape {
     bool annulable = true;   ///< its rows of the generation table are known
 };
 
+/// An action as the console drives it: its name in capitals, whole, and what the trajectory keeps
+/// of its fields (an arc's angle first).
+struct ActionConduite {
+    std::string nom;
+    Entier16 p1, p2;
+};
+
 /// What the list of recorded actions shows of one of them.
 struct LigneListe {
     std::string numero;   ///< "3"

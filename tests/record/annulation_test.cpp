@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace {
 
 // Everything that an action can have changed, as text.
@@ -184,6 +186,85 @@ TEST(Liste, montre_valeurs_durees_et_temps_du_match) {
     EXPECT_EQ(ligne_de_liste(b.c.etapes().at(3)).action, "Balise Gauche");
     EXPECT_EQ(texte_duree(b.e.TempsEcoule), ligne_de_liste(b.c.etapes().back()).total);
     EXPECT_EQ(texte_duree(9005), "90,05 s");
+}
+
+std::vector<ActionConduite> au_hasard(std::mt19937& hasard, std::size_t nombre) {
+    const auto n = [&](int limite) {
+        return Entier16(std::uniform_int_distribution(1, limite)(hasard));
+    };
+    std::vector<ActionConduite> actions;
+    while (actions.size() < nombre)
+        switch (hasard() % 4) {
+        case 0:
+            actions.push_back({"AVANCE", n(60), 0});
+            break;
+        case 1:
+            actions.push_back({"DROITE", n(200), 0});
+            break;
+        case 2:
+            actions.push_back({"VIRARGA", n(120), n(40)});
+            break;
+        default:
+            actions.push_back({"PAUSE", n(100), 0});
+        }
+    return actions;
+}
+
+void conduire(BancConsole& b, const std::vector<ActionConduite>& actions) {
+    b.debuter();
+    for (const ActionConduite& a : actions) {
+        const bool arc = a.nom == "VIRARGA";
+        b.jouer(actions::trouver_legende(a.nom)->legende.data(),
+                std::to_string(arc ? a.p2 : a.p1).c_str(), std::to_string(a.p1).c_str());
+    }
+}
+
+// A recording that was changed in the middle is the one that driving it so would have made.
+TEST(Annulation, changer_au_milieu_est_conduire_autrement) {
+    std::mt19937 hasard(5);
+    for (int essai = 0; essai < 12; ++essai) {
+        BancConsole b;
+        b.e.utiliDamier = essai % 2 == 0;
+        std::vector<ActionConduite> actions = au_hasard(hasard, 6);
+        conduire(b, actions);
+        for (int k = 0; k < 3; ++k) {
+            const std::size_t rang = hasard() % actions.size();
+            const auto la = actions.begin() + static_cast<std::ptrdiff_t>(rang);
+            const ActionConduite autre = au_hasard(hasard, 1).front();
+            ASSERT_TRUE(b.c.modification_possible(rang));
+            switch (hasard() % 3) {
+            case 0:
+                b.c.supprimer(rang);
+                actions.erase(la);
+                break;
+            case 1:
+                b.c.inserer(rang, autre);
+                actions.insert(la, autre);
+                break;
+            default:
+                b.c.changer(rang, autre);
+                *la = autre;
+            }
+        }
+        BancConsole conduit;
+        conduit.e.utiliDamier = b.e.utiliDamier;
+        conduire(conduit, actions);
+        EXPECT_EQ(photo(b), photo(conduit)) << essai;
+        b.c.annuler();
+        conduit.c.annuler();
+        EXPECT_EQ(photo(b), photo(conduit)) << essai;
+    }
+}
+
+TEST(Annulation, un_changement_qui_ne_tient_pas_dans_le_match_ne_change_rien) {
+    BancConsole b;
+    b.debuter();
+    b.jouer("Avance", "10");
+    b.jouer("Recule", "3");
+    const std::string avant = photo(b);
+    EXPECT_THROW(b.c.inserer(1, {"PAUSE", 9000, 0}), ErreurExecution);
+    EXPECT_EQ(photo(b), avant);
+    EXPECT_FALSE(b.c.modification_possible(2));
 }
 
 } // namespace
