@@ -4,6 +4,17 @@
 
 #include <utility>
 
+ActionConduite action_des_champs(std::string_view legende, const std::string& Text1,
+                                 const std::string& Text4) {
+    const std::string action = majuscules(legende);
+    const Entier16 a = lire_champ({nom_Text4, Text4});
+    const Entier16 b = lire_champ({nom_Text1, Text1});
+    const actions::Action* const connue = actions::trouver_legende(action);
+    const bool angle = connue != nullptr && connue->a_un_angle();
+    const Entier16 longueur = connue == nullptr || connue->a_une_longueur() ? b : Entier16();
+    return {action, angle ? a : longueur, angle ? longueur : Entier16()};
+}
+
 ChampsPose Console::VScroll1_Change(Entier16 numero) {
     if (phase_ == Phase::arret && numero != robot_) {
         robot_ = numero;
@@ -57,14 +68,9 @@ void Console::Command4_Click(std::string_view legende, const std::string& Text1,
     if (phase_ != Phase::repos)
         return;
     exiger_robot_sur_la_table();
-    const std::string action = majuscules(legende);
-    const Entier16 a = lire_champ({nom_Text4, Text4});
-    const Entier16 b = lire_champ({nom_Text1, Text1});
+    const ActionConduite action = action_des_champs(legende, Text1, Text4);
     saisie_ = {Text1, Text4};
-    const actions::Action* const connue = actions::trouver_legende(action);
-    const bool angle = connue != nullptr && connue->a_un_angle();
-    const Entier16 longueur = connue == nullptr || connue->a_une_longueur() ? b : Entier16();
-    tele_action(robot_, action, angle ? a : longueur, angle ? longueur : Entier16());
+    tele_action(robot_, action.nom, action.p1, action.p2);
 }
 
 void Console::tele_action(Entier16 I, const std::string& action, Entier16 p1, Entier16 p2) {

@@ -9,6 +9,11 @@
 #include <string_view>
 #include <vector>
 
+/// What the button of that caption drives. Both fields are read whatever the action.
+/// @throws ErreurExecution when one is refused
+ActionConduite action_des_champs(std::string_view legende, const std::string& Text1,
+                                 const std::string& Text4);
+
 /// The remote-control console without its window: drives one robot action by action and records
 /// what it does. Whoever shows it reads phase() after each call to enable its controls, and passes
 /// on what the engine asks of the console (Active_Desactive(True), montrer_course(false)) as

@@ -129,4 +129,37 @@ TEST_F(ConsoleFenetre, le_clavier_revient_apres_l_action_et_la_pose_tapee_reste)
     EXPECT_EQ(e().TableauAGenerer(n - 1, 1), 7);
 }
 
+// In the list an action goes, another one comes in front of the last; the robot follows.
+TEST_F(ConsoleFenetre, la_liste_change_l_enregistrement) {
+    ouvrir();
+    for (const auto& [champ, valeur] : {std::pair{"TextX", "60"}, {"TextY", "40"}, {"TextA", "90"}})
+        saisir(champ, valeur);
+    commencer();
+    saisir("Text1", "20");
+    jouer("Avance");
+    jouer("Recule");
+    jouer("Avance");
+    auto& liste = dans_console<QListWidget>("liste");
+    liste.setCurrentRow(1);
+    liste.setFocus();
+    QTest::keyClick(&liste, Qt::Key_Delete);
+    EXPECT_EQ(liste.count(), 2);
+    EXPECT_EQ(e().YRobot(1), 80);
+
+    saisir("Text4", "90");
+    liste.setCurrentRow(1);
+    QTimer::singleShot(0, console, [this] {
+        auto& actions = trouver<QMenu>("inserer_action");
+        for (QAction* action : actions.actions())
+            if (action->text() == "Droite")
+                action->trigger();
+        trouver<QMenu>("menu_liste").close();
+    });
+    emit liste.customContextMenuRequested({});
+    EXPECT_EQ(liste.count(), 3);
+    EXPECT_EQ(e().TrajAction(1, 2), actions::DROITE);
+    EXPECT_EQ(e().XRobot(1), 80);
+    EXPECT_EQ(liste.currentRow(), 1);
+}
+
 } // namespace

@@ -10,6 +10,9 @@ public:
     /// Shows the window of former versions.
     virtual void montrer_restauration() = 0;
 
+    /// Opens the editor on a robot's trajectory.
+    virtual void modifier_le_trajet(int robot) = 0;
+
     /// Loads the project that the user has just chosen, and offers its unsaved recording.
     virtual void charger_projet_choisi() = 0;
     /// A recording has come back: as many robots as it needs, and the console goes on with it.

@@ -145,6 +145,17 @@ void Télécommande::annuler() {
         VScroll1_Change();
 }
 
+void Télécommande::changer_la_liste(const std::function<void(std::size_t)>& changer) {
+    const auto rang = rang_choisi();
+    if (!rang)
+        return;
+    const ALaFin fin([this, rang] {
+        actualiser();
+        choisir_dans_la_liste(*rang);
+    });
+    changer(*rang);
+}
+
 void Télécommande::continuer_le_dernier() {
     suivre_nombre_de_robots();
     if (const int robot = robot_enregistre_en_dernier(seance_.etat()); robot != 0)
@@ -243,5 +254,6 @@ void Télécommande::connecter() {
         connect(champ, &QLineEdit::textChanged, this, [this] { indiquer_position(); });
     relier(Command2, [this] { Command2_Click(); });
     relier(annuler_, [this] { annuler(); });
+    preparer_liste();
     connect(&VScroll1, &QScrollBar::valueChanged, this, [this] { VScroll1_Change(); });
 }

@@ -13,6 +13,8 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
+#include <optional>
 
 class Bureau;
 class Seance;
@@ -85,6 +87,12 @@ private:
     void actualiser();
     void ecrire_le_temps();
     void actualiser_liste();
+    void preparer_liste();
+    std::optional<std::size_t> rang_choisi() const;
+    void changer_la_liste(const std::function<void(std::size_t)>& changer);
+    void choisir_dans_la_liste(std::size_t rang);
+    void remplir_actions(QMenu& menu, void (Console::*faire)(std::size_t, const ActionConduite&));
+    void montrer_menu_de_liste(const QPoint& ou);
     void surligner(const actions::Action* action);
 
     void nommer();

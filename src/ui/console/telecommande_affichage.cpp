@@ -21,10 +21,12 @@ void Télécommande::actualiser_liste() {
         auto* ligne = new QListWidgetItem(texte_qt(annonce), &liste_);
         ligne->setFlags(Qt::NoItemFlags);
     }
+    std::size_t rang = 0;
     for (const Etape& etape : console_.etapes()) {
         const LigneListe ligne = ligne_de_liste(etape);
         auto* element = new QListWidgetItem(
             texte_qt(ligne.numero + ".  " + ligne.action + "  ·  " + ligne.duree), &liste_);
+        element->setData(Qt::UserRole, static_cast<qulonglong>(rang++));
         if (ligne.marquee) {
             element->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
             element->setToolTip("Jouée et gardée dans le trajet, mais le code généré n'aura pas "

@@ -34,7 +34,7 @@ void Sim1::composer_menu() {
     entree("menu_constats", "Constats du match…\tF7", {}, [this] { verdict_->montrer_liste(); });
     entree("menu_trajet", "Modifier le trajet…", QKeySequence("Ctrl+T"), [this] {
         const int conduit = e->RobotTele;
-        editeurs().montrer_trajet(conduit >= 1 && conduit <= robots_des_fichiers ? conduit : 1);
+        modifier_le_trajet(conduit >= 1 && conduit <= robots_des_fichiers ? conduit : 1);
     });
     entree("menu_restaurer", "Restaurer une version…", {}, [this] { montrer_restauration(); });
     commandes_de_vitesse_ = {
@@ -45,6 +45,10 @@ void Sim1::composer_menu() {
         &commande("menu_vitesse_reelle", "Vitesse réelle", Qt::Key_Equal,
                   [this] { changer_vitesse(1); })};
     montrer_rythme();
+}
+
+void Sim1::modifier_le_trajet(int robot) {
+    editeurs().montrer_trajet(robot);
 }
 
 void Sim1::montrer_menu(const QPoint& ou) {
