@@ -13,9 +13,9 @@
 
 namespace {
 
-constexpr double fleche = 48;     ///< of a heading, logical pixels
-constexpr double rayon_prise = 5; ///< of a place to pull
-constexpr double portee = 8;      ///< how near the mouse must be
+constexpr double longueur_de_fleche = 48; ///< of a heading, logical pixels
+constexpr double rayon_prise = 5;         ///< of a place to pull
+constexpr double portee_de_prise = 8;     ///< how near the mouse must be
 constexpr Couleur gris{120, 120, 120};
 
 bool tourne(const Fiche& f) {
@@ -136,7 +136,8 @@ void VueTrajet::peindre_dessus(QPainter& peintre) {
 
 QPointF VueTrajet::pointe(const PoseTick& pose) const {
     const double cap = radians(pose.cap);
-    return en_pixels(QPointF(pose.x, pose.y)) + fleche * QPointF(std::cos(cap), -std::sin(cap));
+    return en_pixels(QPointF(pose.x, pose.y)) +
+           longueur_de_fleche * QPointF(std::cos(cap), -std::sin(cap));
 }
 
 // Start poses and the ends of moves always; a turn, which moves nothing, when it is chosen.
@@ -164,7 +165,7 @@ std::optional<VueTrajet::Prise> VueTrajet::prise_sous(QPointF pixels) const {
     for (std::size_t i = montre_.nombre(); i-- > 0;)
         for (const bool cap : {true, false}) {
             const auto centre = place({i, cap});
-            const bool ici = centre && (*centre - pixels).manhattanLength() <= portee;
+            const bool ici = centre && (*centre - pixels).manhattanLength() <= portee_de_prise;
             if (ici && !(tourne(montre_[i]) && !cap) &&
                 (!trouvee || std::ranges::binary_search(h_.selection(), i)))
                 trouvee = Prise{i, cap};
