@@ -50,7 +50,7 @@ TEST(NomProjet, refuse_avec_sa_raison_ce_qui_sort_du_dossier_ou_ne_se_relit_pas)
     for (const auto& [nom, raison] : cas) {
         EXPECT_TRUE(contient(raison_projet_impossible(nom), raison)) << nom;
         const std::string texte =
-            message_de([&] { chemin_de_projet("/x/Configuration", nom, " Table.ini"); });
+            message_de([&n = nom] { chemin_de_projet("/x/Configuration", n, " Table.ini"); });
         EXPECT_TRUE(contient(texte, raison));
         EXPECT_FALSE(contient(texte, "\x1B"));
         EXPECT_TRUE(est_utf8(texte));
