@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analyse/geometrie.h"
+#include "draw/geometrie.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -3,6 +3,7 @@
 #include "draw/surface.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 /// Finds places for small labels beside what they name, so that they hide neither each other nor
@@ -15,8 +16,10 @@ public:
     void occuper(PointTable a, PointTable b); ///< a straight way
     void occuper_autour(PointTable milieu, double rayon);
     /// The middle of a label of that size about `ancre`: in the direction (degrees) asked for or,
-    /// where that is taken, the freest of those around; then it is taken.
-    PointTable placer(PointTable ancre, double direction, double largeur, double hauteur);
+    /// where that is taken, the freest of those around; then it is taken. Nothing where it would
+    /// hide another label.
+    std::optional<PointTable> placer(PointTable ancre, double direction, double largeur,
+                                     double hauteur);
 
 private:
     struct Cellules {
@@ -26,6 +29,7 @@ private:
     int colonne(double x) const;
     int rangee(double y) const;
     bool dedans(int x, int y) const;
+    std::size_t rang(int x, int y) const;
     int gene(const Cellules& c) const;
     void occuper(const Cellules& c, std::uint8_t poids);
 

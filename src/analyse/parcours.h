@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analyse/geometrie.h"
+#include "draw/geometrie.h"
 #include "analyse/match.h"
 #include "sim/actions.h"
 #include "sim/contour.h"

@@ -4,6 +4,7 @@
 #include "analyse/etiquettes.h"
 #include "draw/couleurs_robots.h"
 #include "draw/silhouette.h"
+#include "draw/table.h"
 #include "sim/actions.h"
 
 #include <algorithm>
@@ -21,18 +22,27 @@ constexpr double lettres = 11;
 constexpr double largeur_d_une_lettre = 6.5;
 constexpr double marge_d_une_etiquette = 3;
 constexpr double rayon_de_pause = 3.5; ///< of the shortest; a second adds about as much
-constexpr double rayon_max_de_pause = 11;
+constexpr double rayon_max_de_pause = 9;
 constexpr double demi_fleche = 5;
-constexpr double demi_constat = 9;
+constexpr double hauteur_de_constat = 20;
 constexpr double meme_place = 3;
 
 constexpr float pas_d_un_arc = 2; ///< degrees
 constexpr double opacite_de_la_bande = 0.3;
-constexpr double opacite_du_temps = 0.65;
+constexpr double opacite_d_une_pause = 0.7;
+constexpr double opacite_du_temps = 0.75;
 constexpr int cinq_secondes = 500;
 
 double entre(PointTable a, PointTable b) {
     return std::hypot(a.x - b.x, a.y - b.y);
+}
+
+// Read on black as well as the lightest of the colours.
+Couleur eclaircie(Couleur c) {
+    const auto vers_blanc = [](std::uint8_t v) {
+        return static_cast<std::uint8_t>(v + (255 - v) * 2 / 5);
+    };
+    return {vers_blanc(c.rouge), vers_blanc(c.vert), vers_blanc(c.bleu)};
 }
 
 /// One place that several numbers in a row name.
@@ -155,8 +165,10 @@ private:
                                       std::to_string(a.numero) + " : pause de " +
                                       std::to_string(duree / 100) + " s";
             const PointTable p{a.avant.x, a.avant.y};
-            s.repere(p, (rayon + 1) * pixel_, couleurs::noir, bulle);
+            s.opacite(opacite_d_une_pause);
+            s.repere(p, (rayon + 1.5) * pixel_, couleurs::noir, bulle);
             s.repere(p, rayon * pixel_, couleur(i), bulle);
+            s.opacite(1);
             s.repere(p, pixel_, couleurs::noir, bulle);
         }
     }
@@ -174,7 +186,8 @@ private:
             if (a.debut <= fin())
                 joindre(jalons, {{a.avant.x, a.avant.y}, a.avant.cap, a.numero, a.numero});
         for (const Jalon& j : jalons)
-            etiquette(j.texte(), j.lieu, j.cap - 90, couleur(i), 1);
+            etiquette(j.texte(), j.lieu, j.cap - 90, couleur(i), couleur_lisible_sur(couleur(i)),
+                      1);
     }
 
     // Until the plan is over: what stands still afterwards says nothing.
@@ -186,19 +199,23 @@ private:
         for (std::int32_t t = cinq_secondes; t <= std::min(dernier, fin()); t += cinq_secondes)
             joindre(jalons, {lieu(i, t), m.pose(i, t).cap, t / 100, t / 100});
         for (const Jalon& j : jalons)
-            etiquette(j.texte() + " s", j.lieu, j.cap + 90, couleurs::noir, opacite_du_temps);
+            etiquette(j.texte() + " s", j.lieu, j.cap + 90, couleurs::noir, eclaircie(couleur(i)),
+                      opacite_du_temps);
     }
 
     // A text on a card of its own, beside the place.
     void etiquette(const std::string& texte, PointTable lieu, double direction, Couleur fond,
-                   double opacite) {
+                   Couleur encre, double opacite) {
         const auto lettres_du_texte = std::ranges::count_if(
             texte, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; });
         const double l = (static_cast<double>(lettres_du_texte) * largeur_d_une_lettre +
                           2 * marge_d_une_etiquette) *
                          pixel_;
         const double h = (lettres + marge_d_une_etiquette) * pixel_;
-        const PointTable p = places_.placer(lieu, direction, l, h);
+        const auto libre = places_.placer(lieu, direction, l, h);
+        if (!libre)
+            return;
+        const PointTable p = *libre;
         s.opacite(opacite);
         s.polygone(std::array<PointTable, 4>{{{p.x - l / 2, p.y - h / 2},
                                               {p.x + l / 2, p.y - h / 2},
@@ -206,7 +223,7 @@ private:
                                               {p.x - l / 2, p.y + h / 2}}},
                    fond);
         s.opacite(1);
-        s.texte(p, lettres, couleur_lisible_sur(fond), texte);
+        s.texte(p, lettres, encre, texte);
     }
 
     std::vector<PointTable> lieux_des_constats() const {
@@ -223,20 +240,30 @@ private:
         return lieux;
     }
 
-    // A warning triangle, which no label hides.
+    // A warning triangle that stands on the place, or hangs from it near the table's upper edge.
+    double sens(PointTable p) const {
+        return p.y + hauteur_de_constat * pixel_ > e.YMax + marge_table ? -1 : 1;
+    }
+
     void reserver_les_constats() {
         for (const PointTable& p : lieux_des_constats())
-            places_.occuper_autour(p, demi_constat * pixel_);
+            places_.occuper_autour({p.x, p.y + sens(p) * hauteur_de_constat / 2 * pixel_},
+                                   hauteur_de_constat / 2 * pixel_);
     }
 
     void constats() {
+        const double h = hauteur_de_constat * pixel_;
         for (const PointTable& p : lieux_des_constats()) {
-            for (const auto& [d, c] : {std::pair(demi_constat + 2.5, couleurs::noir),
-                                       std::pair(demi_constat, couleurs::jaune)}) {
-                const double n = d * pixel_;
-                s.polygone(placee({{0, n}, {-n, -0.75 * n}, {n, -0.75 * n}}, p.x, p.y, 0), c);
+            const double y = sens(p);
+            for (const auto& [bord, c] :
+                 {std::pair(0.0, couleurs::noir), std::pair(2 * pixel_, couleurs::jaune)}) {
+                const double demi = 0.6 * h - 1.5 * bord;
+                s.polygone(
+                    placee({{0, y * 1.7 * bord}, {demi, y * (h - bord)}, {-demi, y * (h - bord)}},
+                           p.x, p.y, 0),
+                    c);
             }
-            s.texte({p.x, p.y - 1.5 * pixel_}, lettres, couleurs::noir, "!");
+            s.texte({p.x, p.y + y * 0.64 * h}, lettres, couleurs::noir, "!");
         }
     }
 

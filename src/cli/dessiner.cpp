@@ -2,6 +2,7 @@
 #include "cli/sortie.h"
 #include "cli/verbes.h"
 #include "draw/robot.h"
+#include "draw/silhouette.h"
 #include "draw/sillages.h"
 #include "draw/svg.h"
 #include "draw/table.h"
@@ -15,6 +16,7 @@ struct OptionsDessiner {
     ChoixDeLigne choix;
     std::int32_t temps = 0;
     bool trace = false;
+    bool lisible = false;
     std::string sortie;
 };
 
@@ -27,13 +29,16 @@ public:
     Sillages sillages;
 };
 
-std::string peindre(Etat& e, const FenetresDessiner& f, Image image, bool avec_trace) {
+std::string peindre(Etat& e, const FenetresDessiner& f, Image image,
+                    const OptionsDessiner& options) {
     SurfaceSvg svg(image.largeur, image.hauteur);
     svg.coordonnees(-marge_table, e.YMax + marge_table, e.XMax + marge_table, -marge_table);
     e.ZoneRedessin = {0, e.XMax, 0, e.YMax};
     peindre_table(e, svg, image.Echelle);
-    if (avec_trace)
+    if (options.trace)
         f.sillages.peindre(e, svg);
+    for (int i = 1; options.lisible && i <= e.NbRobot; ++i)
+        Silhouette(e, i).peindre(e.XRobot(i), e.YRobot(i), e.CapRobot(i), svg);
     peindre_robots(e, svg);
     return svg.document(e.NomProjet + ", " + std::to_string(e.TempsEcoule / 100) + " s");
 }
@@ -48,7 +53,7 @@ int dessiner(const OptionsDessiner& options) {
     if (options.temps > 0)
         simulation.jouer(options.temps);
     if (!fenetres.terminee())
-        ecrire_resultat(sortie, peindre(*etat, fenetres, simulation.image(), options.trace));
+        ecrire_resultat(sortie, peindre(*etat, fenetres, simulation.image(), options));
     return fenetres.code_de_sortie();
 }
 
@@ -65,6 +70,8 @@ void declarer_dessiner(CLI::App& app, int& code_de_sortie) {
         ->type_name("CENTIEMES");
     verbe->add_flag("--trace", options->trace,
                     "Ajoute le chemin des robots, un repère par seconde");
+    verbe->add_flag("--lisible", options->lisible,
+                    "Remplit les robots de leur couleur, avec leur numéro et leur avant");
     verbe->add_option("--sortie", options->sortie, "Image à écrire")
         ->required()
         ->type_name("F.svg");

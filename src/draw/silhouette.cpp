@@ -1,68 +1,55 @@
 #include "draw/silhouette.h"
 
 #include "draw/couleurs_robots.h"
+#include "draw/geometrie.h"
 #include "sim/contour.h"
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 #include <string>
 #include <utility>
 
 namespace {
 
-constexpr double jonction = 0.5; ///< ends that are nearer (cm) look joined
+constexpr double jonction = 0.5;       ///< ends that are nearer (cm) look joined
+constexpr double plus_petite_aire = 1; ///< cm2; less is a loose end
 constexpr double opacite_du_fond = 0.35;
 constexpr double opacite_du_numero = 0.6;
 constexpr double plus_petit_numero = 8; ///< pixels
 constexpr double plus_grand_numero = 16;
-
-using Segments = std::vector<std::pair<PointTable, PointTable>>;
-
-bool joints(PointTable a, PointTable b) {
-    return std::hypot(a.x - b.x, a.y - b.y) < jonction;
-}
+constexpr double disque_du_numero = 0.65; ///< its radius, of the number's height
+constexpr double retrait = 0.1;           ///< of the mark from the front, of the smaller side
 
 /// > 0 where a, b, c turn to the left.
 double virage(PointTable a, PointTable b, PointTable c) {
     return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
 }
 
-Segments segments_de(const Contour& contour) {
-    Segments resultat;
+// Twice the area, > 0 when it runs anticlockwise.
+double double_aire(const Forme& forme) {
+    double aire = 0;
+    for (std::size_t k = 2; k < forme.size(); ++k)
+        aire += virage(forme[0], forme[k - 1], forme[k]);
+    return aire;
+}
+
+std::vector<Segment> segments_de(const Contour& contour) {
+    std::vector<Segment> resultat;
     for (std::size_t k = 0; k + 1 < contour.nombre(); k += 2)
         resultat.push_back(
             {{contour.x()[k], contour.y()[k]}, {contour.x()[k + 1], contour.y()[k + 1]}});
     return resultat;
 }
 
-// Takes out a segment that begins or ends there. @returns its other end
-std::optional<PointTable> suivant(Segments& segments, PointTable ici) {
-    for (auto it = segments.begin(); it != segments.end(); ++it) {
-        if (!joints(it->first, ici) && !joints(it->second, ici))
-            continue;
-        const PointTable autre = joints(it->first, ici) ? it->second : it->first;
-        segments.erase(it);
-        return autre;
-    }
-    return {};
-}
-
-std::vector<Forme> fermees(Segments segments) {
+std::vector<Forme> fermees(const std::vector<Segment>& segments) {
+    const Enceinte enceinte(segments, jonction);
     std::vector<Forme> resultat;
-    while (!segments.empty()) {
-        Forme forme{segments.back().first, segments.back().second};
-        segments.pop_back();
-        while (!joints(forme.front(), forme.back())) {
-            const auto point = suivant(segments, forme.back());
-            if (!point)
-                break;
-            forme.push_back(*point);
-        }
-        if (forme.size() > 3 && joints(forme.front(), forme.back())) {
-            forme.pop_back();
+    for (const std::vector<Point>& bord : enceinte.bords()) {
+        Forme forme;
+        for (const Point& p : bord)
+            forme.push_back({p.x, p.y});
+        if (double_aire(forme) > 2 * plus_petite_aire)
             resultat.push_back(std::move(forme));
-        }
     }
     return resultat;
 }
@@ -79,10 +66,10 @@ Forme cote(const auto& points) {
     return bord;
 }
 
-Forme enveloppe(const Segments& segments) {
+Forme enveloppe(const std::vector<Segment>& segments) {
     Forme points;
-    for (const auto& [a, b] : segments)
-        points.insert(points.end(), {a, b});
+    for (const Segment& s : segments)
+        points.insert(points.end(), {{s.a.x, s.a.y}, {s.b.x, s.b.y}});
     if (points.size() < 3)
         return {};
     std::ranges::sort(points, [](const PointTable& a, const PointTable& b) {
@@ -98,10 +85,7 @@ Forme enveloppe(const Segments& segments) {
 } // namespace
 
 void orienter(Forme& forme) {
-    double aire = 0;
-    for (std::size_t k = 2; k < forme.size(); ++k)
-        aire += virage(forme[0], forme[k - 1], forme[k]);
-    if (aire < 0)
+    if (double_aire(forme) < 0)
         std::ranges::reverse(forme);
 }
 
@@ -116,24 +100,23 @@ Forme placee(const Forme& forme, double x, double y, double cap) {
 }
 
 Silhouette::Silhouette(const Etat& e, int i) : robot_(i) {
-    const Segments segments = segments_de(Contour(e, i));
+    const std::vector<Segment> segments = segments_de(Contour(e, i));
     formes_ = fermees(segments);
     if (formes_.empty() && !segments.empty())
         formes_ = {enveloppe(segments)};
     std::vector<double> xs;
     std::vector<double> ys;
-    for (Forme& forme : formes_) {
-        orienter(forme);
+    for (const Forme& forme : formes_)
         for (const PointTable& p : forme) {
             xs.push_back(p.x);
             ys.push_back(p.y);
         }
-    }
     if (xs.empty())
         return;
     const auto [arriere, avant] = std::ranges::minmax(xs);
     const auto [droite, gauche] = std::ranges::minmax(ys);
-    milieu_ = {(arriere + avant) / 2, (droite + gauche) / 2};
+    milieu_ = (droite + gauche) / 2;
+    arriere_ = arriere;
     avant_ = avant;
     taille_ = std::min(avant - arriere, gauche - droite);
 }
@@ -146,23 +129,35 @@ void Silhouette::peindre(double x, double y, double cap, Surface& s) const {
     s.opacite(opacite_du_fond);
     s.reunion(places, couleur);
     s.opacite(1);
-    const double pointe = avant_ - taille_ / 10;
-    const double base = pointe - taille_ / 4;
-    s.polygone(
-        placee(
-            {{pointe, milieu_.y}, {base, milieu_.y + taille_ / 5}, {base, milieu_.y - taille_ / 5}},
-            x, y, cap),
-        couleur);
-    peindre_numero(placee({milieu_}, x, y, cap).front(), s);
+    const double base = avant_ - 0.35 * taille_;
+    s.polygone(placee({{avant_ - retrait * taille_, milieu_},
+                       {base, milieu_ + taille_ / 5},
+                       {base, milieu_ - taille_ / 5}},
+                      x, y, cap),
+               couleur);
+    peindre_numero(place_du_numero(x, y, cap), s);
+}
+
+PointTable Silhouette::pointe(double x, double y, double cap) const {
+    return placee({{avant_ - retrait * taille_, milieu_}}, x, y, cap).front();
+}
+
+// Behind the middle, where paths begin.
+PointTable Silhouette::place_du_numero(double x, double y, double cap) const {
+    return placee({{arriere_ + 0.4 * taille_, milieu_}}, x, y, cap).front();
+}
+
+double Silhouette::rayon_du_numero(double cm_par_pixel) const {
+    const double hauteur = std::min(0.45 * taille_ / cm_par_pixel, plus_grand_numero);
+    return hauteur >= plus_petit_numero ? disque_du_numero * hauteur : 0;
 }
 
 void Silhouette::peindre_numero(PointTable milieu, Surface& s) const {
-    const double hauteur = std::min(0.45 * taille_ / s.cm_par_pixel(), plus_grand_numero);
-    if (!(hauteur >= plus_petit_numero))
+    const double rayon = rayon_du_numero(s.cm_par_pixel());
+    if (rayon == 0)
         return;
     s.opacite(opacite_du_numero);
-    s.repere(milieu, hauteur * 0.65 * s.cm_par_pixel(), couleurs::noir,
-             "robot " + std::to_string(robot_));
+    s.repere(milieu, rayon * s.cm_par_pixel(), couleurs::noir, "robot " + std::to_string(robot_));
     s.opacite(1);
-    s.texte(milieu, hauteur, couleur_robot(robot_), std::to_string(robot_));
+    s.texte(milieu, rayon / disque_du_numero, couleur_robot(robot_), std::to_string(robot_));
 }

@@ -20,14 +20,21 @@ public:
     /// @param x, y  reference point (cm)  @param cap  heading (degrees)
     void peindre(double x, double y, double cap, Surface& s) const;
 
-private:
+    // Some of it, where it must be painted in microseconds.
+    /// Where the number goes, and the tip of the mark, at a pose.
+    PointTable place_du_numero(double x, double y, double cap) const;
+    PointTable pointe(double x, double y, double cap) const;
     void peindre_numero(PointTable milieu, Surface& s) const;
+    /// Radius of its disc, pixels; 0 where it could not be read.
+    double rayon_du_numero(double cm_par_pixel) const;
 
+private:
     int robot_ = 0;
     std::vector<Forme> formes_;
-    PointTable milieu_{0, 0};
-    double avant_ = 0;  ///< farthest x
-    double taille_ = 0; ///< the smaller side of the box around it
+    double milieu_ = 0;  ///< y
+    double arriere_ = 0; ///< smallest x
+    double avant_ = 0;   ///< farthest x
+    double taille_ = 0;  ///< the smaller side of the box around it
 };
 
 /// A shape of the robot's frame at a pose.

@@ -39,6 +39,17 @@ void tele_set_xya(Etat& e, Moteur& moteur, Fenetres& f, Entier16 I, Entier16& X,
     f.Dessine_Robot();
 }
 
+ChampsPose champs_pour(const Etat& e, const Pose& affichee) {
+    const Entier16 x = arrondir16(affichee.x);
+    const Entier16 y = arrondir16(affichee.y);
+    const int cap = arrondir16(affichee.cap);
+    const auto champs = [](Entier16 X, Entier16 Y, int A) {
+        return ChampsPose{std::string(texte_entier(X).vue()), std::string(texte_entier(Y).vue()),
+                          std::string(texte_entier(A % 360).vue())};
+    };
+    return e.TableHorizontale ? champs(e.YMax - y, x, cap + 90) : champs(x, y, cap);
+}
+
 LimitesPose limites_de_position(const Etat& e) {
     if (e.TableHorizontale)
         return {e.YMax, e.XMax};

@@ -9,6 +9,13 @@ struct ChampsPose {
     std::string TextX, TextY, TextA; ///< cm, cm, degrees
 };
 
+/// A pose in single precision (cm, cm, degrees).
+struct Pose {
+    float x = 0;
+    float y = 0;
+    float cap = 0;
+};
+
 /// Robot I's initial pose as the console shows it: in the frame of the unturned table, heading
 /// rounded to a whole number.
 /// @throws Debordement when the heading leaves 16 bits, HorsTable when I is outside 0..10
@@ -21,6 +28,9 @@ ChampsPose tele_get_xya(const Etat& e, Entier16 I);
 void tele_set_xya(Etat& e, Moteur& moteur, Fenetres& f, Entier16 I, Entier16& X, Entier16& Y,
                   Entier16& A);
 
+/// What to type in the console so that it puts a robot at a pose of the displayed table.
+ChampsPose champs_pour(const Etat& e, const Pose& affichee);
+
 /// The largest X and Y (cm) that put a robot on the displayed table when they are typed.
 struct LimitesPose {
     Entier16 X, Y;
@@ -30,13 +40,6 @@ LimitesPose limites_de_position(const Etat& e);
 /// How much larger than what was typed the X is that tele_get_xya gives back, in cm: not 0 on a
 /// turned table that is no square.
 int ecart_de_relecture(const Etat& e);
-
-/// A pose in single precision (cm, cm, degrees).
-struct Pose {
-    float x = 0;
-    float y = 0;
-    float cap = 0;
-};
 
 /// Robot I's initial pose in the frame of the unturned table, whatever the display's orientation:
 /// the frame of the files.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "analyse/analyse.h"
-#include "analyse/geometrie.h"
+#include "draw/geometrie.h"
 #include "outils/textes.h"
 #include "outils/trajet_essai.h"
 #include "sim/actions.h"

@@ -31,6 +31,16 @@ QRectF Repere::boite(double x1, double y1, double x2, double y2) const {
     return QRectF(point(x1, y1), point(x2, y2)).normalized();
 }
 
+QRectF Repere::boite(std::span<const PointTable> points) const {
+    QPolygonF polygone;
+    for (const PointTable& p : points) {
+        if (!finis({p.x, p.y}))
+            return {};
+        polygone << point(p.x, p.y);
+    }
+    return polygone.boundingRect();
+}
+
 SurfaceQt::SurfaceQt(QPainter& peintre, QSizeF taille)
     : peintre_(peintre), taille_(taille), densite_(peintre.device()->devicePixelRatioF()) {
     peintre_.setRenderHint(QPainter::Antialiasing);

@@ -18,8 +18,11 @@ public:
     /// @param taille  logical pixels  @param gauche...  table coordinates of the picture's edges
     void regler(QSizeF taille, double gauche, double haut, double droite, double bas);
     QPointF point(double x, double y) const { return {(x - x0_) * ax_, (y - y0_) * ay_}; }
+    PointTable lieu(QPointF pixel) const { return {x0_ + pixel.x() / ax_, y0_ + pixel.y() / ay_}; }
     /// The box between two corners, in any order.
     QRectF boite(double x1, double y1, double x2, double y2) const;
+    /// The box around points; empty where one is no number.
+    QRectF boite(std::span<const PointTable> points) const;
     double pixels_x(double cm) const { return cm * ax_; }
     double pixels_y(double cm) const { return -cm * ay_; }
 

@@ -119,6 +119,21 @@ void Télécommande::VScroll1_Change() {
         annuler_.setEnabled(console_.annulation_possible());
 }
 
+void Télécommande::proposer_depart(const Pose& affichee) {
+    if (console_.phase() == Console::Phase::action)
+        return;
+    if (console_.phase() == Console::Phase::repos) {
+        if (!seance_.fenetres().question("Un trajet s'enregistre. Le terminer ?",
+                                         "Une autre position initiale commence un autre trajet."))
+            return;
+        Command9_Click();
+    }
+    const ChampsPose champs = champs_pour(seance_.etat(), affichee);
+    TextX.setText(texte_qt(champs.TextX));
+    TextY.setText(texte_qt(champs.TextY));
+    TextA.setText(texte_qt(champs.TextA));
+}
+
 void Télécommande::Command4_Click(std::size_t k) {
     const ALaFin fin([this] { actualiser(); });
     console_.Command4_Click(actions::boutons[k].legende, Text1.text().toStdString(),

@@ -41,6 +41,10 @@ public:
     bool arreter_action();
     /// Goes on with the path that was recorded last, if it can be.
     void continuer_le_dernier();
+    int robot() const { return console_.robot(); }
+    /// Writes a start pose, of the displayed table, into the fields. Asks before it ends a
+    /// recording.
+    void proposer_depart(const struct Pose& affichee);
     /// A tick is over: the time of the match is shown by the second.
     void suivre_le_temps();
 

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QTimer>
 
+#include <utility>
+
 namespace {
 
 constexpr int plus_petite_police = 6;
@@ -25,7 +27,9 @@ Logo::Logo(QWidget* parent) : QWidget(parent) {
 
 void Logo::paintEvent(QPaintEvent*) {
     if (image_.size() == size() * devicePixelRatioF()) {
-        QPainter(this).drawPixmap(0, 0, image_);
+        QPainter peintre(this);
+        peintre.setOpacity(fantome_ ? opacite_fantome : 1);
+        peintre.drawPixmap(0, 0, image_);
     } else if (!attendue_) {
         // The windows first: reading the picture takes longer than painting them.
         attendue_ = true;
@@ -37,6 +41,13 @@ void Logo::paintEvent(QPaintEvent*) {
     }
 }
 
+void Logo::estomper(bool fantome) {
+    if (std::exchange(fantome_, fantome) == fantome)
+        return;
+    setAttribute(Qt::WA_TransparentForMouseEvents, fantome);
+    update();
+}
+
 void Logo::mouseReleaseEvent(QMouseEvent* evenement) {
     if (evenement->button() == Qt::LeftButton && au_clic)
         au_clic();
@@ -44,6 +55,13 @@ void Logo::mouseReleaseEvent(QMouseEvent* evenement) {
 
 Banniere::Banniere(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
+}
+
+void Banniere::estomper(bool fantome) {
+    if (std::exchange(fantome_, fantome) == fantome)
+        return;
+    setAttribute(Qt::WA_TransparentForMouseEvents, fantome);
+    update();
 }
 
 void Banniere::placer(const QRect& logo) {
@@ -69,6 +87,7 @@ QRect Banniere::zone_du_texte() const {
 void Banniere::paintEvent(QPaintEvent*) {
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setOpacity(fantome_ ? opacite_fantome : 1);
     peintre.setPen(Qt::NoPen);
     peintre.setBrush(QColor(6, 58, 26, 235));
     peintre.drawRoundedRect(rect(), 10, 10);

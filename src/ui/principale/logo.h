@@ -6,11 +6,16 @@
 
 #include <functional>
 
+/// How much of the logo and its banner is seen while something is to be read beneath them.
+inline constexpr double opacite_fantome = 0.12;
+
 /// The project's picture over the middle of the table; crisp at every size and density.
 class Logo final : public QWidget {
 public:
     explicit Logo(QWidget* parent);
     std::function<void()> au_clic;
+    /// A ghost lets the table be seen, and pointed at.
+    void estomper(bool fantome);
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -20,6 +25,7 @@ protected:
 private:
     QPixmap image_;
     bool attendue_ = false; ///< the picture is about to be made
+    bool fantome_ = false;
 };
 
 /// The project's banner: a card behind the logo, with the text below it. The line breaks that push
@@ -29,6 +35,7 @@ public:
     explicit Banniere(QWidget* parent);
     /// @param logo  where the logo lies; the card has the same left, top and width
     void placer(const QRect& logo);
+    void estomper(bool fantome);
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -37,4 +44,5 @@ private:
     QRect zone_du_texte() const;
     bool mots_entiers() const;
     int haut_du_texte_ = 0;
+    bool fantome_ = false;
 };

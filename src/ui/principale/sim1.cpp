@@ -23,6 +23,8 @@ Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(
       LNom(&Table),
       logo(&Table),
       barre_(this),
+      trace_(*e),
+      pointeur_(Table, *e),
       options_(this, seance_, bureau()),
       surveillance_(std::make_unique<Surveillance>(seance_)),
       verdict_(std::make_unique<Verdict>(*this, seance_)),
@@ -30,6 +32,7 @@ Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(
     nommer();
     connecter();
     composer_menu();
+    connecter_calques();
     ecouter(seance_.annonces());
 }
 
@@ -106,6 +109,7 @@ void Sim1::continuer_enregistrement() {
 }
 
 void Sim1::projet_va_etre_lu() {
+    Table.oublier_silhouettes();
     titrer();
 }
 

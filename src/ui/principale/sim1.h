@@ -6,8 +6,10 @@
 #include "ui/commun/ligne_texte.h"
 #include "ui/principale/barre_match.h"
 #include "ui/principale/cadence.h"
+#include "ui/principale/calques.h"
 #include "ui/principale/foption.h"
 #include "ui/principale/logo.h"
+#include "ui/principale/pointeur.h"
 #include "ui/principale/table.h"
 
 #include <QTimer>
@@ -115,6 +117,15 @@ private:
     QAction& entree(const char* nom, const QString& texte, const QKeySequence& touche,
                     std::function<void()> procedure);
     void composer_menu();
+    void composer_menu_calques();
+    void connecter_calques();
+    Calque calque_trace() const;
+    bool trace_visible() const;
+    void basculer(Calque calque);
+    /// What lies on the table depends on the choices, on the pointer and on whether a match runs.
+    void suivre_calques();
+    void copier_position();
+    void proposer_depart(const Pose& pose);
     void montrer_menu(const QPoint& ou);
     void remplir_robots(QMenu& robots);
     void remplir_vitesses(QMenu& menu);
@@ -139,6 +150,10 @@ private:
     BarreMatch barre_;
     QSize taille_dessinee_; ///< XMax, YMax that Init_Table laid the window out for
     QSize taille_Table_;    ///< logical pixels that Init_Table chose: only their ratio counts
+    ChoixCalques choix_;
+    CalqueTrace trace_;
+    Pointeur pointeur_;
+    std::array<QAction*, nombre_de_calques> actions_calques_{};
     FOption options_;
     // Made when they are first asked for.
     std::unique_ptr<Télécommande> console_;

@@ -75,6 +75,8 @@ void Sim1::Active_Desactive(bool Status) {
 void Sim1::montrer_course(bool en_cours) {
     options_.montrer_course(en_cours);
     barre_.avancer(0);
+    if (!en_cours)
+        Table.redessiner_robots();
     if (!en_cours && console_)
         console_->action_finie();
 }

@@ -25,6 +25,7 @@ void Sim1::regler_Timer(Entier16 ms) {
     }
     montrer_rythme();
     placer_verdict();
+    suivre_calques();
 }
 
 void Sim1::Timer_Timer() {

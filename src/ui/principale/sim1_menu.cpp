@@ -31,6 +31,7 @@ void Sim1::composer_menu() {
     pause_ = &entree("menu_pause", "Pause", Qt::Key_P, [this] { suspendre(!suspendue_); });
     pause_->setCheckable(true);
     pas_ = &entree("menu_pas", "Un pas", Qt::Key_Period, [this] { avancer_d_un_pas(); });
+    composer_menu_calques();
     entree("menu_constats", "Constats du match…\tF7", {}, [this] { verdict_->montrer_liste(); });
     entree("menu_trajet", "Modifier le trajet…", QKeySequence("Ctrl+T"), [this] {
         const int conduit = e->RobotTele;
@@ -58,6 +59,7 @@ void Sim1::montrer_menu(const QPoint& ou) {
     remplir_vitesses(*menu.addMenu("Vitesse"));
     menu.addSeparator();
     menu.addActions(Table.actions());
+    pointeur_.noter(ou); // whatever the pointer does in the menu
     menu.exec(Table.mapToGlobal(ou));
 }
 

@@ -1,5 +1,6 @@
 #include "ui/principale/table.h"
 
+#include "draw/couleurs_robots.h"
 #include "draw/robot.h"
 #include "draw/table.h"
 
@@ -9,6 +10,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -25,6 +27,20 @@ void copier(QImage& vers, const QImage& de, const QRect& rectangle) {
     for (int y = r.top(); y <= r.bottom(); ++y)
         std::memcpy(reinterpret_cast<QRgb*>(vers.scanLine(y)) + r.left(),
                     reinterpret_cast<const QRgb*>(de.constScanLine(y)) + r.left(), octets);
+}
+
+QImage image_du_numero(const Silhouette& silhouette, int cote, double densite,
+                       double cm_par_pixel) {
+    QImage image(cote, cote, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(densite);
+    image.fill(Qt::transparent);
+    QPainter peintre(&image);
+    const double pixels = cote / densite;
+    SurfaceQt surface(peintre, {pixels, pixels});
+    const double demi = pixels * cm_par_pixel / 2;
+    surface.coordonnees(-demi, demi, demi, -demi);
+    silhouette.peindre_numero({0, 0}, surface);
+    return image;
 }
 
 // The whole table as the region to draw, for as long as this lives.
@@ -77,7 +93,9 @@ void Table::Dessine_Robot() {
     effacer_robots();
     signaler_robots(); // what they leave
     contours_.vider();
-    ::Dessine_Robot(e, contours_, f);
+    poses_.clear();
+    if (::Dessine_Robot(e, contours_, f))
+        noter_poses();
     peindre_robots();
     signaler_robots(); // what they cover
 }
@@ -115,8 +133,63 @@ void Table::peindre_robots() {
 void Table::peindre_contours(QPainter& peintre) {
     SurfaceQt surface(peintre, size());
     regler(surface, e);
+    peindre_silhouettes(peintre, surface);
     for (const Contours::Trait& t : contours_)
         surface.ligne(t.x1, t.y1, t.x2, t.y2, t.couleur);
+}
+
+// While nothing runs the robot files may have changed.
+void Table::noter_poses() {
+    if (!lisibles_)
+        return;
+    if (!e.en_course || !silhouettes_a_jour_)
+        for (int i = 1; i <= robots_des_fichiers; ++i)
+            silhouettes_[static_cast<std::size_t>(i)] = Silhouette(e, i);
+    silhouettes_a_jour_ = true;
+    for (int i = 1; i <= e.NbRobot; ++i) {
+        poses_.push_back({i, e.XRobot(i), e.YRobot(i), e.CapRobot(i)});
+    }
+}
+
+void Table::peindre_silhouettes(QPainter& peintre, Surface& surface) {
+    for (const PoseDessinee& p : poses_) {
+        const Silhouette& silhouette = silhouettes_[static_cast<std::size_t>(p.robot)];
+        if (!e.en_course)
+            silhouette.peindre(p.x, p.y, p.cap, surface);
+        else
+            peindre_vite(p, silhouette, peintre, surface);
+    }
+    surface.epaisseur(1);
+}
+
+// A tick has no time for more than a stroke towards the front and a picture of the number.
+void Table::peindre_vite(const PoseDessinee& p, const Silhouette& silhouette, QPainter& peintre,
+                         Surface& surface) {
+    const PointTable place = silhouette.place_du_numero(p.x, p.y, p.cap);
+    const PointTable pointe = silhouette.pointe(p.x, p.y, p.cap);
+    const double rayon = silhouette.rayon_du_numero(surface.cm_par_pixel());
+    if (!(std::isfinite(place.x + place.y) && rayon > 0))
+        return;
+    surface.epaisseur(3);
+    surface.ligne(place.x, place.y, pointe.x, pointe.y, couleur_robot(p.robot));
+    QImage& numero = numeros_[static_cast<std::size_t>(p.robot)];
+    const int cote = 2 * static_cast<int>(std::ceil(rayon * devicePixelRatioF()));
+    if (numero.width() != cote)
+        numero = image_du_numero(silhouette, cote, devicePixelRatioF(), surface.cm_par_pixel());
+    const double demi = cote / devicePixelRatioF() / 2;
+    const QPointF ici = repere().point(place.x, place.y) - QPointF(demi, demi);
+    peintre.drawImage(ici.toPoint(), numero);
+}
+
+void Table::redessiner_robots() {
+    effacer_robots();
+    peindre_robots();
+    signaler_robots();
+}
+
+void Table::montrer_lisibles(bool oui) {
+    if (std::exchange(lisibles_, oui) != oui && !contours_.vide())
+        Dessine_Robot();
 }
 
 void Table::peindre_directement(QPainter& peintre) {
@@ -150,16 +223,20 @@ void Table::calculer_rectangles() {
         if (!std::isfinite(t.x1 + t.y1 + t.x2 + t.y2))
             continue;
         const QRectF boite = r.boite(t.x1, t.y1, t.x2, t.y2);
-        ajouter_rectangle(
-            boite.adjusted(-bord_du_trait, -bord_du_trait, bord_du_trait, bord_du_trait)
-                .intersected(rect())
-                .toAlignedRect());
+        ajouter_rectangle(boite);
     }
+    for (const PoseDessinee& p : poses_)
+        for (const Forme& forme : silhouettes_[static_cast<std::size_t>(p.robot)].formes())
+            if (const QRectF boite = r.boite(placee(forme, p.x, p.y, p.cap)); !boite.isEmpty())
+                ajouter_rectangle(boite);
 }
 
 // One rectangle for outlines that touch, so that two distant robots do not repaint what lies
 // between them.
-void Table::ajouter_rectangle(QRect r) {
+void Table::ajouter_rectangle(const QRectF& boite) {
+    QRect r = boite.adjusted(-bord_du_trait, -bord_du_trait, bord_du_trait, bord_du_trait)
+                  .intersected(rect())
+                  .toAlignedRect();
     if (r.isEmpty())
         return;
     const auto debut = rectangles_.begin();
@@ -197,6 +274,8 @@ void Table::paintEvent(QPaintEvent* evenement) {
         peinte_ = true;
     } else // before the first drawing
         peintre.fillRect(evenement->rect(), palette().window());
+    if (par_dessus)
+        par_dessus(peintre);
 }
 
 void Table::mouseReleaseEvent(QMouseEvent* evenement) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "draw/silhouette.h"
 #include "draw/surface_vide.h"
 #include "sim/etat.h"
 #include "sim/fenetres.h"
@@ -10,6 +11,7 @@
 
 #include <array>
 #include <functional>
+#include <vector>
 
 /// The robots' outlines as they were last drawn, in a list of fixed length.
 class Contours final : public SurfaceVide {
@@ -21,6 +23,7 @@ public:
     static constexpr int capacite = robots_max * (points_max / 2 + 1);
 
     void vider() { nombre_ = 0; }
+    bool vide() const { return nombre_ == 0; }
     const Trait* begin() const { return traits_.data(); }
     const Trait* end() const { return traits_.data() + nombre_; }
 
@@ -44,12 +47,20 @@ public:
     Table(Etat& etat, Fenetres& fenetres, QWidget* parent);
 
     std::function<void()> au_clic;
+    /// Paints over the table and the robots.
+    std::function<void(QPainter&)> par_dessus;
     Entier16 Echelle; ///< twips per table unit, as Init_Table chose it
 
     /// Draws the table; an error shows its message and ends the program.
     void Dessine_Table();
     /// Draws the robots, likewise.
     void Dessine_Robot();
+    /// Whether the robots have a fill, a number and a heading mark.
+    void montrer_lisibles(bool oui);
+    /// As they were drawn last, with all the looks that there is time for when nothing runs.
+    void redessiner_robots();
+    /// Other robot files are about to be read.
+    void oublier_silhouettes() { silhouettes_a_jour_ = false; }
     /// Table coordinates (cm) to this widget's logical pixels.
     Repere repere() const;
 
@@ -72,12 +83,20 @@ private:
     bool meme_table() const;
     bool peindre_fond();
     void peindre_contours(QPainter& peintre);
+    void noter_poses();
+    struct PoseDessinee {
+        int robot;
+        float x, y, cap;
+    };
+    void peindre_silhouettes(QPainter& peintre, Surface& surface);
+    void peindre_vite(const PoseDessinee& p, const Silhouette& silhouette, QPainter& peintre,
+                      Surface& surface);
     void peindre_directement(QPainter& peintre);
     void peindre_robots();
     void effacer_robots();
     void signaler_robots();
     void calculer_rectangles();
-    void ajouter_rectangle(QRect r);
+    void ajouter_rectangle(const QRectF& boite);
 
     Etat& e;
     Fenetres& f;
@@ -86,6 +105,11 @@ private:
     QImage image_;        ///< the table and the robots
     Cle cle_dessinee_;    ///< of the table last drawn
     Contours contours_;
-    std::array<QRect, rectangles_max> rectangles_{}; ///< pixels that the robots cover
+    bool lisibles_ = false;
+    bool silhouettes_a_jour_ = false;
+    std::vector<PoseDessinee> poses_; ///< of the outlines
+    std::array<Silhouette, robots_des_fichiers + 1> silhouettes_;
+    std::array<QImage, robots_des_fichiers + 1> numeros_; ///< pictures of the numbers
+    std::array<QRect, rectangles_max> rectangles_{};      ///< pixels that the robots cover
     int nombre_rectangles_ = 0;
 };

@@ -8,6 +8,7 @@
 #include <QShortcut>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -61,8 +62,19 @@ void Verdict::calculer() {
     masques_ = {seance_.projet().dossier_configuration(), analyse_.projet};
     noter_changement();
     montrer();
+    prevenir();
+}
+
+void Verdict::prevenir() {
     for (const auto& suite : suites_)
         suite(analyse_);
+}
+
+std::vector<Constat> Verdict::constats_signales() const {
+    std::vector<Constat> signales;
+    std::ranges::copy_if(analyse_.constats, std::back_inserter(signales),
+                         [this](const Constat& c) { return !masques_.contient(c.genre); });
+    return signales;
 }
 
 // A recorded path stands in a file only once it is saved, and which lines it has there nobody has
@@ -111,10 +123,8 @@ void Verdict::noter_changement() {
 }
 
 void Verdict::montrer() {
-    const auto visibles = std::ranges::count_if(
-        analyse_.constats, [this](const Constat& c) { return !masques_.contient(c.genre); });
-    const TexteVerdict texte =
-        texte_du_verdict(analyse_, changement_, static_cast<int>(visibles), masques_.nombre());
+    const TexteVerdict texte = texte_du_verdict(
+        analyse_, changement_, static_cast<int>(constats_signales().size()), masques_.nombre());
     ligne_.ecrire(texte);
     if (liste_ == nullptr || !liste_->isVisible())
         return;
@@ -128,6 +138,7 @@ void Verdict::montrer_liste() {
         liste_ = new ListeConstats(&principale_, [this](Genre genre, bool masque) {
             masques_.masquer(genre, masque);
             montrer();
+            prevenir();
         });
     liste_->show();
     liste_->raise();

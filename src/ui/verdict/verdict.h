@@ -27,7 +27,9 @@ public:
     LigneVerdict& ligne() { return ligne_; }
     void montrer_liste();
     const Analyse& analyse() const { return analyse_; }
-    /// To be called with every new computation, in the order in which they came.
+    /// Those of the kinds that this project wants to hear of.
+    std::vector<Constat> constats_signales() const;
+    /// To be called with every new computation, and when other kinds are wanted.
     void quand_calcule(std::function<void(const Analyse&)> suite) {
         suites_.push_back(std::move(suite));
     }
@@ -47,6 +49,7 @@ private:
     Analyse analyser_le_projet() const;
     void noter_changement();
     void montrer();
+    void prevenir();
 
     QWidget& principale_;
     Seance& seance_;

@@ -1,4 +1,4 @@
-#include "analyse/geometrie.h"
+#include "draw/geometrie.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,7 +9,7 @@ namespace {
 /// Where the outline's segments meet: places, and the ways between neighbouring places.
 class Carte {
 public:
-    explicit Carte(std::span<const Segment> contour) {
+    Carte(std::span<const Segment> contour, double jonction) : jonction_(jonction) {
         for (const Segment& s : contour)
             poser(s, contour);
     }
@@ -32,7 +32,7 @@ private:
 
     std::size_t lieu(Point p) {
         for (std::size_t n = 0; n < lieux_.size(); ++n) {
-            if (std::hypot(lieux_[n].p.x - p.x, lieux_[n].p.y - p.y) < tolerance_contact)
+            if (std::hypot(lieux_[n].p.x - p.x, lieux_[n].p.y - p.y) < jonction_)
                 return n;
         }
         lieux_.push_back({p, {}, false});
@@ -61,13 +61,13 @@ private:
         }
     }
 
-    static void couper(const Segment& s, Point d, const Segment& t, std::vector<double>& coupures) {
+    void couper(const Segment& s, Point d, const Segment& t, std::vector<double>& coupures) const {
         const double carre = d.x * d.x + d.y * d.y;
         if (carre == 0)
             return;
         // An end of the other that touches this one, or would but for the tolerance.
         for (const Point p : {t.a, t.b}) {
-            if (distance(p, s) < tolerance_contact)
+            if (distance(p, s) < jonction_)
                 coupures.push_back(
                     std::clamp(((p.x - s.a.x) * d.x + (p.y - s.a.y) * d.y) / carre, 0.0, 1.0));
         }
@@ -152,13 +152,14 @@ private:
         return bord;
     }
 
+    double jonction_; ///< cm
     std::vector<Lieu> lieux_;
 };
 
 } // namespace
 
-Enceinte::Enceinte(std::span<const Segment> contour) {
-    Carte carte(contour);
+Enceinte::Enceinte(std::span<const Segment> contour, double jonction) {
+    Carte carte(contour, jonction);
     while (auto bord = carte.bord_suivant())
         bords_.push_back(std::move(*bord));
 }

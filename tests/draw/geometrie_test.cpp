@@ -1,4 +1,4 @@
-#include "analyse/geometrie.h"
+#include "draw/geometrie.h"
 
 #include <gtest/gtest.h>
 

@@ -39,16 +39,18 @@ double ecart(std::span<const Segment> a, std::span<const Segment> b, double plaf
 double ecart(std::span<const Segment> a, const Obstacle& o);
 
 /// What an outline cuts off from the outside, as a region that moves with it: loose ends enclose
-/// nothing, ends that miss each other by less than the tolerance are joined.
+/// nothing, ends that miss each other by less than `jonction` (cm) are joined.
 class Enceinte {
 public:
-    explicit Enceinte(std::span<const Segment> contour);
+    explicit Enceinte(std::span<const Segment> contour, double jonction = tolerance_contact);
 
     /// Whether no way leads from the point to the outside without meeting the outline.
     bool enferme(Point p) const;
 
+    /// The outer boundary of each connected piece, walked around once anticlockwise; ways walked
+    /// twice (loose ends, bridges) cancel out.
+    const std::vector<std::vector<Point>>& bords() const { return bords_; }
+
 private:
-    /// The outer boundary of each connected piece, walked around once; ways walked twice (loose
-    /// ends, bridges) cancel out.
     std::vector<std::vector<Point>> bords_;
 };
