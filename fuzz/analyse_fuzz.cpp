@@ -48,7 +48,7 @@ void lire_projet(std::string_view reste, Etat& e) {
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(analyse) {
     const auto e = std::make_unique<Etat>();
     lire_projet(texte_lu(octets, taille), *e);
     const Analyse a = analyser(*e, {});

@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int lignes_max = 20;
-constexpr int ticks_max = 4000; // of all commands together, at the light step
+constexpr int ticks_en_tout = 4000; // of all commands, at the light step
 
 class FenetresEssai final : public FenetresTerminal {
 public:
@@ -53,11 +53,11 @@ bool conduire(Console& console, Moteur& moteur, const FenetresEssai& f, std::str
         if (const auto commande = lire_commande(ligne))
             console.Command4_Click(commande->legende, commande->Text1, commande->Text4);
     });
-    while (f.en_marche() && ++ticks < ticks_max) {
+    while (f.en_marche() && ++ticks < ticks_en_tout) {
         if (!moteur.Timer_Timer())
             return false;
     }
-    return ticks < ticks_max;
+    return ticks < ticks_en_tout;
 }
 
 void relire(const Etat& e) {
@@ -69,7 +69,7 @@ void relire(const Etat& e) {
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(commande) {
     static const auto depart = std::make_unique<const Etat>(etat_de_depart());
     static const auto e = std::make_unique<Etat>();
     *e = *depart;

@@ -22,7 +22,7 @@ void essayer(std::string_view octets) {
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(document) {
     const std::string texte(octets, octets + taille);
     essayer<DocumentTable>(texte);
     essayer<DocumentRobot>(texte);

@@ -12,7 +12,7 @@ constexpr std::size_t essayees = 20; // a body reads the whole file
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(etiquettes) {
     const Programme programme(std::string(octets, octets + taille));
     std::size_t numero = 0;
     for (LignesProgramme lignes = programme.lignes(); const auto ligne = lignes.suivante();) {

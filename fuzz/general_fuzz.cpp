@@ -3,7 +3,7 @@
 
 #include <memory>
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(general) {
     static const auto e = std::make_unique<Etat>();
     Entier16 NoLigne;
     tenter([&] { lire_general(texte_lu(octets, taille), *e, NoLigne); });

@@ -70,7 +70,7 @@ void jouer(Etat& e) {
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(match) {
     static const auto depart = [] {
         auto e = std::make_unique<Etat>();
         Init_Robot_Old(*e);

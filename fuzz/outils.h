@@ -9,6 +9,15 @@
 
 // What the fuzz targets share.
 
+/// Begins the function that tries a file's bytes: libFuzzer's entry point, or one of those that the
+/// program that replays the seeds calls by their name.
+#ifdef CIBLES
+#define CIBLE(nom) int essai_##nom(const std::uint8_t* octets, std::size_t taille)
+#else
+#define CIBLE(nom)                                                                                 \
+    extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille)
+#endif
+
 inline void exiger(bool condition) {
     if (!condition)
         std::abort();

@@ -4,7 +4,7 @@
 #include <memory>
 
 // The recovery file's reader takes any bytes; what it takes can be put back and written again.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(reprise) {
     tenter([&] {
         int ligne = 0;
         const Enregistrement lu = lire_enregistrement(texte_lu(octets, taille), ligne);

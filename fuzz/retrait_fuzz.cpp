@@ -94,7 +94,7 @@ void essayer(const Demande& demande, const Programme& depart, bool reponse) {
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(retrait) {
     if (taille == 0)
         return 0;
     Demande demande;

@@ -5,7 +5,7 @@
 #include <memory>
 
 // Two robots from one file, so that the reference point is carried over as well.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(robot) {
     static const auto e = std::make_unique<Etat>();
     const std::string texte = texte_lu(octets, taille);
     LecteurRobot lecteur(*e);

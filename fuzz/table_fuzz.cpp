@@ -3,7 +3,7 @@
 
 #include <memory>
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(table) {
     static const auto e = std::make_unique<Etat>();
     const std::string texte = texte_lu(octets, taille);
     Entier16 NoLigne;

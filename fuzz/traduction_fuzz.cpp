@@ -18,7 +18,7 @@ std::size_t nombre_de_lignes(std::string_view texte) {
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(traduction) {
     const std::string entree(octets, octets + taille);
     std::size_t mouvements = 0;
     std::string sortie;

@@ -15,7 +15,7 @@ void exiger_relu(const DocumentTrajet& d, std::string_view ecrit) {
 
 // What was not changed is written as it was read; whatever is inserted, moved, replaced or taken
 // out is read back.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(trajet_document) {
     const std::string texte(octets, octets + taille);
     DocumentTrajet d = DocumentTrajet::depuis(texte);
     tenter([&] {

@@ -4,7 +4,7 @@
 #include <memory>
 
 // Two robots from one file: the parameters and the line counter are carried over.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+CIBLE(trajet) {
     static const auto e = std::make_unique<Etat>();
     const std::string texte = texte_lu(octets, taille);
     LecteurTrajet lecteur(*e);
