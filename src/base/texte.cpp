@@ -6,7 +6,11 @@
 #include <iconv.h>
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
+
+// Bytes are read as machine words, the first byte the lowest.
+static_assert(std::endian::native == std::endian::little);
 
 namespace {
 
@@ -80,18 +84,60 @@ void changer_casse(std::span<char> resultat, bool vers_majuscules) {
     }
 }
 
+// Of nearly every text: eight or thirty-two bytes at its start that are ASCII, or 0.
+std::size_t debut_ascii(std::string_view s) {
+    std::array<std::uint64_t, 4> mots{};
+    constexpr std::uint64_t hauts = 0x8080808080808080U;
+    if (s.size() >= sizeof mots) {
+        std::memcpy(mots.data(), s.data(), sizeof mots);
+        if (((mots[0] | mots[1] | mots[2] | mots[3]) & hauts) == 0)
+            return sizeof mots;
+    }
+    if (s.size() < sizeof mots[0])
+        return 0;
+    std::memcpy(mots.data(), s.data(), sizeof mots[0]);
+    return (mots[0] & hauts) == 0 ? sizeof mots[0] : 0;
+}
+
+// Eight characters of a name as one machine word, blanks behind them: what is stored byte by byte
+// cannot be read back as a word at once.
+std::uint64_t mot(std::string_view s) {
+    std::uint64_t resultat = 0x2020202020202020U;
+    if (s.size() >= 4) { // the halves overlap
+        std::uint32_t debut = 0;
+        std::uint32_t fin = 0;
+        std::memcpy(&debut, s.data(), sizeof debut);
+        std::memcpy(&fin, s.data() + s.size() - sizeof fin, sizeof fin);
+        const std::uint64_t suite = 8 * (s.size() - sizeof fin);
+        if (s.size() == 8)
+            resultat = 0;
+        else
+            resultat <<= 8 * s.size();
+        return resultat | debut | std::uint64_t{fin} << suite;
+    }
+    for (std::size_t i = s.size(); i-- > 0;)
+        resultat = resultat << 8U | static_cast<unsigned char>(s[i]);
+    return resultat;
+}
+
+// Takes 0x20 off every byte from 'a' to 'z'.
+std::uint64_t capitales(std::uint64_t m) {
+    const std::uint64_t bas = m & 0x7F7F7F7F7F7F7F7FU;
+    const std::uint64_t des_a = bas + 0x1F1F1F1F1F1F1F1FU;
+    const std::uint64_t apres_z = bas + 0x0505050505050505U;
+    return m - ((des_a & ~apres_z & ~m & 0x8080808080808080U) >> 2U);
+}
+
+constexpr std::uint64_t fin_du_nom = 0xFFFF; ///< a name's ninth and tenth character
+
 } // namespace
 
 bool est_utf8(std::string_view octets) {
     std::size_t i = 0;
     while (i < octets.size()) {
-        std::uint64_t huit = 0;
-        if (octets.size() - i >= sizeof huit) {
-            std::memcpy(&huit, octets.data() + i, sizeof huit);
-            if ((huit & 0x8080808080808080U) == 0) {
-                i += sizeof huit;
-                continue;
-            }
+        if (const std::size_t n = debut_ascii(octets.substr(i))) {
+            i += n;
+            continue;
         }
         const std::size_t n = longueur_sequence(octets.substr(i));
         if (n == 0)
@@ -148,6 +194,15 @@ std::string_view premiers_caracteres(std::string_view texte, std::size_t n) {
     return texte.substr(0, i);
 }
 
+Nom10 Nom10::en_capitales(std::string_view nom) {
+    const std::array<std::uint64_t, 2> mots{
+        capitales(mot(nom.substr(0, 8))),
+        capitales(mot(nom.substr(std::min<std::size_t>(nom.size(), 8), 2))) & fin_du_nom};
+    Nom10 resultat;
+    resultat.octets_ = std::bit_cast<std::array<char, 16>>(mots);
+    return resultat;
+}
+
 Lignes::Lignes(std::string_view texte) : texte_(texte) {
     // Without a branch and in bytes, so that the compiler compares many characters at a time.
     unsigned char seuls = texte.ends_with('\r') ? 1 : 0;
@@ -160,17 +215,9 @@ Lignes::Lignes(std::string_view texte) : texte_(texte) {
     cr_seul_ = seuls != 0;
 }
 
-std::optional<std::string_view> Lignes::suivante() {
-    if (debut_ >= texte_.size())
-        return std::nullopt;
-    const std::size_t fin =
-        std::min(cr_seul_ ? texte_.find_first_of(RetourLigne, debut_) : texte_.find('\n', debut_),
-                 texte_.size());
-    std::string_view ligne = texte_.substr(debut_, fin - debut_);
-    debut_ = fin + 1;
-    if (!cr_seul_ && ligne.ends_with('\r'))
-        ligne.remove_suffix(1);
-    else if (texte_.substr(fin).starts_with(RetourLigne))
-        ++debut_;
+std::string_view Lignes::suivante_avec_cr() {
+    const std::size_t fin = std::min(texte_.find_first_of(RetourLigne, debut_), texte_.size());
+    const std::string_view ligne = texte_.substr(debut_, fin - debut_);
+    debut_ = fin + (texte_.substr(fin).starts_with(RetourLigne) ? 2 : 1);
     return ligne;
 }

@@ -2,6 +2,7 @@
 
 #include "base/nombres.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -62,9 +63,22 @@ public:
     explicit Lignes(std::string_view texte);
 
     /// The next line without its end, or nothing after the last one.
-    std::optional<std::string_view> suivante();
+    std::optional<std::string_view> suivante() {
+        if (debut_ >= texte_.size())
+            return std::nullopt;
+        if (cr_seul_)
+            return suivante_avec_cr();
+        const std::size_t fin = std::min(texte_.find('\n', debut_), texte_.size());
+        std::string_view ligne = texte_.substr(debut_, fin - debut_);
+        debut_ = fin + 1;
+        if (ligne.ends_with('\r'))
+            ligne.remove_suffix(1);
+        return ligne;
+    }
 
 private:
+    std::string_view suivante_avec_cr();
+
     std::string_view texte_;
     std::size_t debut_ = 0;
     bool cr_seul_ = false; ///< some CR is not followed by LF; else lines end at LF alone
@@ -111,16 +125,15 @@ TexteCourt format_00(double valeur);
 /// Ten characters, left-justified and padded with blanks: the name of an action.
 class Nom10 {
 public:
-    constexpr Nom10() {
-        for (std::size_t i = 0; i < longueur; ++i)
-            octets_[i] = ' ';
-    }
+    constexpr Nom10() { std::fill_n(octets_.begin(), longueur, ' '); }
     /// Cut after the tenth character.
     constexpr Nom10(std::string_view nom) : Nom10() {
-        for (std::size_t i = 0; i < nom.size() && i < longueur; ++i)
-            octets_[i] = nom[i];
+        std::copy_n(nom.begin(), std::min(nom.size(), longueur), octets_.begin());
     }
     constexpr Nom10(const char* nom) : Nom10(std::string_view(nom)) {}
+
+    /// The same with the ASCII letters as capitals.
+    static Nom10 en_capitales(std::string_view nom);
 
     std::string_view vue() const { return {octets_.data(), longueur}; }
     std::string_view sans_blancs() const { return rogner(vue()); }

@@ -108,12 +108,10 @@ TexteCourt entier_arrondi(double valeur, std::size_t chiffres) {
 } // namespace
 
 std::optional<Entier16> entier16_ou_rien(std::string_view texte) {
-    // Nearly every field: a plain whole number.
-    const std::string_view s = rogner(texte);
-    int entier = 0;
-    const auto [fin, erreur] = std::from_chars(s.data(), s.data() + s.size(), entier);
-    if (erreur == std::errc{} && fin == s.data() + s.size() && std::in_range<std::int16_t>(entier))
-        return entier;
+    int petit = 0;
+    const char* const fin = texte.data() + texte.size();
+    if (petit_entier(texte.data(), fin, petit) == fin)
+        return petit;
     double valeur = 0;
     if (!convertir(texte, valeur))
         return std::nullopt;

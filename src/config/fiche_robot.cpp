@@ -28,8 +28,10 @@ FicheLue fiche_robot(std::string_view ligne) {
     }
     const bool a_virgule = lecture.cle() == "A"; // its first number may have a fraction
     for (std::size_t i = 0; i + 1 < n; ++i) {
-        const std::string_view champ = lecture.suivant();
-        a_virgule&& i == 0 ? lecture.simple(i, champ) : lecture.entier(i, champ);
+        if (a_virgule && i == 0)
+            lecture.simple(i, lecture.suivant());
+        else
+            lecture.entier(i);
     }
     lecture.entier(n - 1, lecture.champs().reste());
     return lecture.lue();

@@ -99,7 +99,7 @@ FicheLue GrammaireTable::lire(std::string_view ligne) {
         return lecture.lue();
     }
     for (std::size_t i = 0; i + 1 < n; ++i)
-        lecture.entier(i, lecture.suivant());
+        lecture.entier(i);
     const bool disque = forme == FormeTable::disque;
     lecture.entier(n - 1, disque ? texte_du_rayon(lecture) : lecture.champs().reste());
     if (forme == FormeTable::boite)

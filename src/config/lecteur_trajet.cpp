@@ -1,20 +1,5 @@
 #include "config/lecteur_trajet.h"
 
-#include "config/ligne.h"
-#include "sim/actions.h"
-
-void parcourir_trajet(std::string_view texte, Entier16& NoLigne,
-                      const std::function<void(const LigneTrajet&)>& prendre) {
-    int nombre = 0;
-    const auto lire_ligne = [&](std::string_view ligne) {
-        const LigneTrajet lue = lire_ligne_trajet(ligne);
-        if (lue.code != actions::INIT && ++nombre > actions_max)
-            lever_HorsTable(nombre, actions_max);
-        prendre(lue);
-    };
-    pour_chaque_ligne(texte, NoLigne, lire_ligne, compte_dans_un_trajet);
-}
-
 void LecteurTrajet::lire(std::string_view texte, Entier16 n, Entier16& NoLigne) {
     etat_.TrajNbActions(n) = 0;
     lignes_.clear();

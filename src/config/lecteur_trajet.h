@@ -1,9 +1,10 @@
 #pragma once
 
+#include "config/ligne.h"
 #include "config/ligne_trajet.h"
+#include "sim/actions.h"
 #include "sim/etat.h"
 
-#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -11,8 +12,17 @@
 /// @param texte    the file's content, UTF-8
 /// @param NoLigne  counts the lines: the faulty one after an exception
 /// @throws ErreurExecution on the first faulty line, HorsTable on that of the 1001st action
-void parcourir_trajet(std::string_view texte, Entier16& NoLigne,
-                      const std::function<void(const LigneTrajet&)>& prendre);
+template <typename Prendre>
+void parcourir_trajet(std::string_view texte, Entier16& NoLigne, Prendre prendre) {
+    int nombre = 0;
+    const auto lire_ligne = [&](std::string_view ligne) {
+        const LigneTrajet lue = lire_ligne_trajet(ligne);
+        if (lue.code != actions::INIT && ++nombre > actions_max)
+            lever_HorsTable(nombre, actions_max);
+        prendre(lue);
+    };
+    pour_chaque_ligne(texte, NoLigne, lire_ligne, compte_dans_un_trajet);
+}
 
 /// Reads trajectory files into the state, one after the other; one object for one reading of a
 /// project's trajectories, because the two parameters live on: an action that has none stores what

@@ -13,6 +13,13 @@ std::string_view LectureFiche::suivant() {
     return champ.value_or("");
 }
 
+void LectureFiche::entier(std::size_t i) {
+    if (const auto petit = champs_.petit_entier())
+        lue_.fiche.v[i] = static_cast<float>(*petit);
+    else
+        entier(i, suivant());
+}
+
 void LectureFiche::entier(std::size_t i, std::string_view texte) {
     if (const auto n = entier16_ou_rien(texte))
         lue_.fiche.v[i] = ::simple(*n);

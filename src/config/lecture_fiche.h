@@ -18,7 +18,8 @@ public:
     const Champs& champs() const { return champs_; }
     /// The text up to the next comma; "" when there is none: the line is refused.
     std::string_view suivant();
-    /// The number at place i of the record.
+    /// The number at place i of the record: the next field, or what `texte` says.
+    void entier(std::size_t i);
     void entier(std::size_t i, std::string_view texte);
     void simple(std::size_t i, std::string_view texte);
     void refuser(const std::exception& raison);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/erreurs.h"
+#include "base/nombre_lu.h"
 #include "base/nombres.h"
 #include "base/texte.h"
 
@@ -73,8 +74,23 @@ public:
     std::ptrdiff_t virgule() const { return static_cast<std::ptrdiff_t>(debut_) - 1; }
 
     Cle cle() { return Cle(suivant()); }
-    Entier16 entier() { return lire_entier16(suivant()); }
+    Entier16 entier() {
+        if (const auto petit = petit_entier())
+            return *petit;
+        return lire_entier16(suivant());
+    }
     Entier16 dernier_entier() const { return lire_entier16(reste()); }
+    /// The number up to the next comma, if it is what numbers nearly always are; else nothing, and
+    /// the field is still to be read.
+    std::optional<int> petit_entier() {
+        int valeur = 0;
+        const char* const fin = ligne_.data() + ligne_.size();
+        const char* const c = ::petit_entier(ligne_.data() + debut_, fin, valeur);
+        if (c == nullptr || c == fin || *c != ',')
+            return std::nullopt;
+        debut_ = static_cast<std::size_t>(c - ligne_.data()) + 1;
+        return valeur;
+    }
 
 private:
     std::string_view ligne_;

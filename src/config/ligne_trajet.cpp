@@ -14,12 +14,7 @@ bool compte_dans_un_trajet(std::string_view ligne) {
 
 // Not trimmed. All known codes are ASCII, so bytes will do.
 Nom10 code_de_trajet(std::string_view ligne) {
-    const std::string_view texte = ligne.substr(0, ligne.find(','));
-    std::array<char, 10> octets{};
-    const std::size_t n = std::min(texte.size(), octets.size());
-    std::transform(texte.begin(), texte.begin() + static_cast<std::ptrdiff_t>(n), octets.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
-    return std::string_view(octets.data(), n);
+    return Nom10::en_capitales(ligne.substr(0, ligne.find(',')));
 }
 
 std::optional<int> parametres_de_trajet(const Nom10& code) {
@@ -31,13 +26,13 @@ std::optional<int> parametres_de_trajet(const Nom10& code) {
 
 LigneTrajet lire_ligne_trajet(std::string_view ligne) {
     LigneTrajet lue;
-    lue.code = code_de_trajet(ligne);
+    // A line without a comma is its own code and its own first field.
+    const std::size_t virgule = ligne.find(',');
+    lue.code = Nom10::en_capitales(ligne.substr(0, virgule));
     const auto parametres = parametres_de_trajet(lue.code);
     if (!parametres)
         refuser_cle(lue.code.vue());
     lue.parametres = *parametres;
-    // A line without a comma is its own code and its own first field.
-    const std::size_t virgule = ligne.find(',');
     Champs champs(ligne.substr(virgule == std::string_view::npos ? 0 : virgule + 1));
     for (int i = 0; i < lue.parametres; ++i) {
         const bool dernier = i + 1 == lue.parametres;
