@@ -2,6 +2,7 @@
 
 #include <QIcon>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QTimer>
 
@@ -11,6 +12,8 @@ namespace {
 
 constexpr int plus_petite_police = 6;
 constexpr int marge_banniere = 8; ///< logical pixels around the banner's text
+// Lines of the banner's card painted at a time: for more Qt starts threads, which takes longer.
+constexpr int bande = 32;
 constexpr int apres_les_fenetres_ms = 20;
 constexpr int drapeaux = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
 
@@ -84,13 +87,18 @@ QRect Banniere::zone_du_texte() const {
     return {marge_banniere, haut_du_texte_, width() - 2 * marge_banniere, 1 << 14};
 }
 
-void Banniere::paintEvent(QPaintEvent*) {
+void Banniere::paintEvent(QPaintEvent* evenement) {
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::Antialiasing);
     peintre.setOpacity(fantome_ ? opacite_fantome : 1);
     peintre.setPen(Qt::NoPen);
     peintre.setBrush(QColor(6, 58, 26, 235));
-    peintre.drawRoundedRect(rect(), 10, 10);
+    const QRect zone = evenement->rect();
+    for (int y = zone.top(); y <= zone.bottom(); y += bande) {
+        peintre.setClipRect(0, y, width(), bande);
+        peintre.drawRoundedRect(rect(), 10, 10);
+    }
+    peintre.setClipping(false);
     peintre.setPen(Qt::white);
     peintre.drawText(zone_du_texte(), drapeaux, text().trimmed());
 }

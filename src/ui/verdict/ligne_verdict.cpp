@@ -42,6 +42,8 @@ QFont LigneVerdict::police(bool lien) const {
 }
 
 int LigneVerdict::largeur(const Morceau& morceau) const {
+    if (morceau.texte.isEmpty())
+        return 0; // the bold font is not loaded before it is needed
     return QFontMetrics(police(morceau.lien)).horizontalAdvance(morceau.texte);
 }
 
