@@ -6,6 +6,7 @@
 #include "cli/flux.h"
 #include "cli/sortie.h"
 #include "record/console.h"
+#include "sim/textes_actions.h"
 
 #include <unistd.h>
 

@@ -35,6 +35,3 @@ struct LigneListe {
 
 /// Values in the action's units (cm, degrees), times in seconds.
 LigneListe ligne_de_liste(const Etape& etape);
-
-/// Hundredths of a second as the user reads them: "12,50 s".
-std::string texte_duree(std::int32_t centiemes);

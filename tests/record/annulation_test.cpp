@@ -1,6 +1,7 @@
 #include "banc_console.h"
 
 #include "sim/orientation.h"
+#include "sim/textes_actions.h"
 
 #include <gtest/gtest.h>
 
