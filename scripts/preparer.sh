@@ -12,12 +12,13 @@ racine=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 PAQUETS_PROGRAMME=(
     ca-certificates cmake fonts-dejavu-core g++ libcli11-dev libqt6svg6 ninja-build
     nlohmann-json3-dev qt6-base-dev qt6-translations-l10n x11-utils
+    zlib1g-dev
 )
 PAQUETS_WAYLAND=(qt6-wayland) # for a session without X at all
 # Tests: second compiler, sanitizers, lint, and a small desktop for the end-to-end test.
 PAQUETS_TESTS=(
     at-spi2-core clang clang-format clang-tidy dbus gir1.2-atspi-2.0 libbenchmark-dev libclang-rt-14-dev
-    libgtest-dev openbox procps python3 python3-pyatspi shellcheck xauth xvfb
+    libgtest-dev openbox poppler-utils procps python3 python3-pyatspi shellcheck xauth xvfb
 )
 
 dire() { printf '%s\n' "$*"; }
@@ -51,10 +52,10 @@ lister_les_besoins() {
     cat >&2 <<FIN
 Ce système n'est pas une Debian 12 : rien n'est installé automatiquement. Il faut :
   - un compilateur C++20 (g++ 12 ou plus récent), CMake 3.25 ou plus récent, Ninja ;
-  - Qt 6.4 ou plus récent avec ses fichiers de développement (Widgets) et son module SVG, CLI11 2.1 et
-    nlohmann-json 3.11 ;
+  - Qt 6.4 ou plus récent avec ses fichiers de développement (Widgets) et son module SVG, CLI11 2.1,
+    nlohmann-json 3.11 et zlib ;
   - pour les tests : clang++, clang-format et clang-tidy 14, GoogleTest, ShellCheck, Xvfb, xauth,
-    openbox, dbus-run-session, at-spi2-core et le module Python pyatspi.
+    openbox, poppler-utils, dbus-run-session, at-spi2-core et le module Python pyatspi.
 Sous Debian 12 ce sont les paquets :
 $(printf '%s ' "$@" | fold -s -w 92 | sed 's/^/  /')
 Une fois tout cela en place, relancez avec TAVOLMEX_SANS_INSTALLER=1.

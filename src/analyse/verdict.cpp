@@ -11,13 +11,6 @@ std::string place(double x, double y) {
     return "(" + dixiemes(x) + " ; " + dixiemes(y) + ")";
 }
 
-std::string fin_des_trajets(const Analyse& a) {
-    const auto fin = fin_des_plans(a);
-    return fin ? "dernière action finie à " + secondes(*fin) + ", marge " +
-                     secondes(duree_du_match - *fin)
-               : sans_fin(a);
-}
-
 } // namespace
 
 std::optional<std::int32_t> fin_des_plans(const Analyse& a) {
@@ -39,6 +32,13 @@ std::string sans_fin(const Analyse& a) {
         if (b.actions_du_plan > 0 && !b.fin)
             return "robot " + std::to_string(b.robot) + " pas fini à 90 s";
     return "aucune action";
+}
+
+std::string fin_des_trajets(const Analyse& a) {
+    const auto fin = fin_des_plans(a);
+    return fin ? "dernière action finie à " + secondes(*fin) + ", marge " +
+                     secondes(duree_du_match - *fin)
+               : sans_fin(a);
 }
 
 std::string verdict(const Analyse& a) {

@@ -9,6 +9,8 @@ std::string verdict(const Analyse& a);
 std::optional<std::int32_t> fin_des_plans(const Analyse& a);
 /// Why there is no such end: "robot 2 pas fini à 90 s", "aucune action".
 std::string sans_fin(const Analyse& a);
+/// "dernière action finie à 42,18 s, marge 47,82 s", or why there is no such end.
+std::string fin_des_trajets(const Analyse& a);
 /// One finding in one line: instant, robot, place, file and line, what it means and what to do.
 std::string en_ligne(const Constat& constat);
 /// "Robots 1 et 2 : au plus près 12,3 cm à 45,60 s."

@@ -14,10 +14,9 @@ namespace {
 constexpr int code_message = 1;
 constexpr int code_usage = 2;
 
-int executer(int argc, char** argv) {
-    CLI::App app("Tavolmex : simulateur de robot de concours, en ligne de commande",
-                 "tavolmex-cli");
-    app.set_version_flag("--version", "tavolmex-cli " TAVOLMEX_VERSION, "Affiche la version");
+int executer(int argc, char** argv, const ProgrammeDeLigne& programme) {
+    CLI::App app("Tavolmex : simulateur de robot de concours, en ligne de commande", programme.nom);
+    app.set_version_flag("--version", programme.nom + " " TAVOLMEX_VERSION, "Affiche la version");
     app.require_subcommand(1);
     int code = 0;
     for (const auto declarer :
@@ -25,6 +24,7 @@ int executer(int argc, char** argv) {
           declarer_piloter, declarer_preparer, declarer_miroir, declarer_generer, declarer_rejouer,
           declarer_etiquettes})
         declarer(app, code);
+    declarer_exporter(app, code, programme.formats);
     parler_francais(app);
     try {
         app.parse(argc, argv);
@@ -32,10 +32,10 @@ int executer(int argc, char** argv) {
         return app.exit(demande, std::cout, std::cerr);
     } catch (const CLI::ParseError& erreur) {
         const bool verbe_inconnu = app.get_subcommands().empty() && argc > 1 && argv[1][0] != '-';
-        ecrire_ligne(std::cerr, "tavolmex-cli : " +
+        ecrire_ligne(std::cerr, programme.nom + " : " +
                                     (verbe_inconnu ? std::string("commande inconnue : ") + argv[1]
                                                    : en_francais(erreur, app)));
-        ecrire_ligne(std::cerr, "Essayez « tavolmex-cli --help ».");
+        ecrire_ligne(std::cerr, "Essayez « " + programme.nom + " --help ».");
         return code_usage;
     }
     return code;
@@ -46,9 +46,9 @@ int echouer(const std::string& raison) {
     return code_message;
 }
 
-int executer_ou_dire_pourquoi(int argc, char** argv) {
+int executer_ou_dire_pourquoi(int argc, char** argv, const ProgrammeDeLigne& programme) {
     try {
-        return executer(argc, argv);
+        return executer(argc, argv, programme);
     } catch (const std::filesystem::filesystem_error& erreur) {
         return echouer(ErreurFichier(erreur.path1(), erreur.code().value()).what());
     } catch (const std::bad_alloc&) {
@@ -60,8 +60,8 @@ int executer_ou_dire_pourquoi(int argc, char** argv) {
 
 } // namespace
 
-int executer_ligne_de_commande(int argc, char** argv) {
-    const int code = executer_ou_dire_pourquoi(argc, argv);
+int executer_ligne_de_commande(int argc, char** argv, const ProgrammeDeLigne& programme) {
+    const int code = executer_ou_dire_pourquoi(argc, argv, programme);
     const auto perdue = terminer_la_sortie();
     if (!perdue)
         return code;

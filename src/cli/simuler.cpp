@@ -2,8 +2,8 @@
 #include "cli/choix.h"
 #include "cli/francais.h"
 #include "cli/sortie.h"
-#include "cli/trace.h"
 #include "cli/verbes.h"
+#include "feuille/trace_csv.h"
 
 #include <iostream>
 #include <limits>
@@ -38,7 +38,7 @@ public:
 
 private:
     bool garder_trace_, garder_etat_;
-    Trace trace_;
+    TraceCsv trace_;
     std::string etats_;
 };
 

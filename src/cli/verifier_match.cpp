@@ -1,12 +1,10 @@
 #include "cli/verifier_match.h"
 
 #include "analyse/verdict.h"
+#include "cli/projet_analyse.h"
 #include "cli/sortie.h"
-#include "config/dossier.h"
-#include "sim/damier.h"
 
 #include <iostream>
-#include <utility>
 
 namespace {
 
@@ -22,28 +20,12 @@ void montrer(const Analyse& a) {
 } // namespace
 
 int verifier_match(const ChoixDeLigne& choix, bool json) {
-    const auto etat = std::make_unique<Etat>();
-    FenetresTerminal fenetres(*etat, std::cerr);
-    Projet projet(*etat, fenetres, dossier_application(choix.dossier));
-    if (choix.projet)
-        projet.imposer_projet(*choix.projet);
-    projet.verifier();
-    initDamier(*etat);
-    std::vector<Constat> constats = constats_de_lecture(projet);
-    try {
-        disposer(*etat);
-        if (appliquer_reglages(*etat, choix))
-            disposer(*etat);
-    } catch (const ErreurExecution& erreur) {
-        const std::string texte = texte_erreur_execution(erreur.what());
-        fenetres.message(texte);
-        constats.push_back({.genre = Genre::arret, .texte = texte});
-    }
-    Analyse a = analyser(*etat, provenance_de(projet), std::move(constats));
+    ProjetAnalyse projet(choix);
+    Analyse& a = projet.analyse();
     if (json) {
         std::cout << en_json(a) << std::flush;
     } else {
-        mesurer_ecarts(*etat, a);
+        mesurer_ecarts(projet.etat(), a);
         montrer(a);
     }
     return a.constats.empty() ? 0 : 1;

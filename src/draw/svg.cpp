@@ -13,7 +13,9 @@ TexteCourt decimal(double valeur) {
     return texte_double15(std::round(valeur * 1e4) / 1e4);
 }
 
-std::string hexadecimal(Couleur c) {
+} // namespace
+
+std::string couleur_svg(Couleur c) {
     constexpr std::string_view chiffres = "0123456789abcdef";
     std::string texte = "#";
     for (const unsigned octet : {c.rouge, c.vert, c.bleu}) {
@@ -23,7 +25,7 @@ std::string hexadecimal(Couleur c) {
     return texte;
 }
 
-std::string echapper(std::string_view texte) {
+std::string echapper_svg(std::string_view texte) {
     std::string resultat;
     for (const char c : texte) {
         if (c == '&')
@@ -35,8 +37,6 @@ std::string echapper(std::string_view texte) {
     }
     return resultat;
 }
-
-} // namespace
 
 void SurfaceSvg::coordonnees(double gauche, double haut, double droite, double bas) {
     gauche_ = gauche;
@@ -59,8 +59,8 @@ void SurfaceSvg::rectangle(double x1, double y1, double x2, double y2) {
 }
 
 void SurfaceSvg::contour(Couleur couleur, bool rempli) {
-    corps_ += " fill=\"" + (rempli ? hexadecimal(fond_) : "none") + "\" stroke=\"" +
-              hexadecimal(couleur) + "\"";
+    corps_ += " fill=\"" + (rempli ? couleur_svg(fond_) : "none") + "\" stroke=\"" +
+              couleur_svg(couleur) + "\"";
     nombre("stroke-width", std::max(epaisseur_, 1));
     if (pointille_)
         corps_ += " stroke-dasharray=\"1 2\"";
@@ -70,7 +70,7 @@ void SurfaceSvg::contour(Couleur couleur, bool rempli) {
 }
 
 void SurfaceSvg::plein(Couleur couleur) {
-    corps_ += " fill=\"" + hexadecimal(couleur) + "\" stroke=\"none\"";
+    corps_ += " fill=\"" + couleur_svg(couleur) + "\" stroke=\"none\"";
     if (opacite_ < 1)
         nombre("opacity", opacite_);
 }
@@ -158,7 +158,7 @@ void SurfaceSvg::repere(PointTable centre, double rayon, Couleur couleur, std::s
     nombre("cy", -centre.y);
     nombre("r", rayon);
     plein(couleur);
-    corps_ += "><title>" + echapper(bulle) + "</title></circle>\n";
+    corps_ += "><title>" + echapper_svg(bulle) + "</title></circle>\n";
 }
 
 void SurfaceSvg::texte(PointTable milieu, double hauteur, Couleur couleur, std::string_view texte) {
@@ -168,7 +168,7 @@ void SurfaceSvg::texte(PointTable milieu, double hauteur, Couleur couleur, std::
     nombre("font-size", hauteur * cm_par_pixel()); // user units are centimetres
     corps_ += " text-anchor=\"middle\" dominant-baseline=\"central\" font-family=\"sans-serif\"";
     plein(couleur);
-    corps_ += ">" + echapper(texte) + "</text>\n";
+    corps_ += ">" + echapper_svg(texte) + "</text>\n";
 }
 
 std::string SurfaceSvg::document(std::string_view titre) const {
@@ -180,6 +180,6 @@ std::string SurfaceSvg::document(std::string_view titre) const {
         texte.append(decimal(valeur).vue()).append(" ");
     texte.append(decimal(haut_ - bas_).vue());
     // The window squeezes the margin into its picture: the two scales differ by a hair.
-    texte += "\" preserveAspectRatio=\"none\">\n<title>" + echapper(titre) + "</title>\n";
+    texte += "\" preserveAspectRatio=\"none\">\n<title>" + echapper_svg(titre) + "</title>\n";
     return texte + corps_ + "</svg>\n";
 }

@@ -5,6 +5,11 @@
 #include <string>
 #include <string_view>
 
+/// "#ff00a0"
+std::string couleur_svg(Couleur c);
+/// A text between two tags.
+std::string echapper_svg(std::string_view texte);
+
 /// Writes the drawing as an SVG picture: user units are centimetres of the table, pens keep their
 /// width in pixels at any size.
 class SurfaceSvg final : public Surface {

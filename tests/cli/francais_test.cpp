@@ -37,7 +37,7 @@ TEST(Francais, chaque_faute_de_frappe_a_sa_phrase) {
 TEST(Francais, aucun_mot_de_l_analyseur_ne_reste_en_anglais_dans_l_aide) {
     const std::regex anglais("INT|TEXT\\b| in \\[|\\{|REQUIRED|Usage|Positionals|\\S:\n");
     for (const char* verbe : {"installer", "verifier", "simuler", "dessiner", "piloter", "generer",
-                              "rejouer", "etiquettes", "--help"}) {
+                              "rejouer", "etiquettes", "exporter", "--help"}) {
         const Resultat r = lancer({verbe, "--help"});
         EXPECT_EQ(r.code, 0);
         EXPECT_TRUE(contient(r.sortie, "Options :"));

@@ -16,7 +16,7 @@ using Dossiers = std::set<std::string>;
 
 // What each folder of src/ may include and link besides itself; the picture is in ARCHITECTURE.md.
 const Dossiers sans_qt{"base",   "sim",     "config",  "edition", "draw",
-                       "record", "codegen", "analyse", "seance"};
+                       "record", "codegen", "analyse", "feuille", "seance"};
 
 Dossiers et(Dossiers dossiers, const Dossiers& autres) {
     dossiers.insert(autres.begin(), autres.end());
@@ -32,16 +32,18 @@ const std::map<std::string, Dossiers> permis{
     {"record", {"base", "sim", "config"}},
     {"codegen", {"base", "sim", "config"}},
     {"analyse", {"base", "sim", "config", "draw", "codegen"}},
+    {"feuille", {"base", "sim", "config", "draw", "analyse"}},
     {"seance", {"base", "sim", "config", "record"}},
     {"cli", sans_qt},
     {"ui/commun", et(sans_qt, {"Qt"})},
     {"ui/aide", et(sans_qt, {"Qt", "ui/commun"})},
     {"ui/console", et(sans_qt, {"Qt", "ui/commun"})},
     {"ui/editeurs", et(sans_qt, {"Qt", "ui/commun"})},
+    {"ui/feuille", et(sans_qt, {"Qt", "ui/commun", "cli"})},
     {"ui/generation", et(sans_qt, {"Qt", "ui/commun"})},
     {"ui/verdict", et(sans_qt, {"Qt", "ui/commun"})},
     {"ui/principale", et(sans_qt, {"Qt", "ui/commun", "ui/aide", "ui/console", "ui/editeurs",
-                                   "ui/generation", "ui/verdict"})},
+                                   "ui/feuille", "ui/generation", "ui/verdict"})},
 };
 
 const fs::path sources = fs::path(RACINE_DU_PROJET) / "src";

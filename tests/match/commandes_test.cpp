@@ -80,4 +80,33 @@ TEST(Commandes, dessiner_montre_la_table_les_robots_et_leur_chemin) {
     EXPECT_FALSE(contient(svg, "<title>robot 1, 59 s</title>"));
 }
 
+TEST(Commandes, exporter_ecrit_la_feuille_l_image_et_la_trace_de_simuler) {
+    const DossierTemporaire d;
+    lancer({"installer", "--dossier", d.chemin()});
+    const Resultat r = lancer({"exporter", "--dossier", d.chemin(), "--robots", "2", "--allege",
+                               "--feuille", d / "f.svg", "--image", d / "i.svg", "--largeur", "630",
+                               "--temps", "3000", "--trace", d / "t.csv"});
+    EXPECT_EQ(r.code, 0) << r.erreurs;
+    lancer(
+        {"simuler", "--dossier", d.chemin(), "--robots", "2", "--allege", "--trace", d / "s.csv"});
+    EXPECT_EQ(d.lire("t.csv"), d.lire("s.csv"));
+    EXPECT_NE(d.lire("f.svg").find("width=\"210mm\" height=\"297mm\""), std::string::npos);
+    EXPECT_NE(d.lire("f.svg").find(">Feuille de match – Defaut<"), std::string::npos);
+    EXPECT_NE(d.lire("i.svg").find("width=\"630\" height=\"990\""), std::string::npos);
+    EXPECT_NE(d.lire("i.svg").find("<title>Defaut, 30,00 s</title>"), std::string::npos);
+
+    const std::pair<std::vector<std::string>, const char*> refus[] = {
+        {{}, "rien à exporter : --image, --feuille ou --trace"},
+        {{"--image", "a.svg", "--feuille", "a.svg"}, "deux fois le même fichier"},
+        {{"--image", "a.gif"}, "a.gif » n'a pas une extension connue (.svg)"},
+    };
+    for (const auto& [options, phrase] : refus) {
+        std::vector<std::string> ligne{"exporter", "--dossier", d.chemin()};
+        ligne.insert(ligne.end(), options.begin(), options.end());
+        const Resultat refusee = lancer(ligne);
+        EXPECT_EQ(refusee.code, 2);
+        EXPECT_NE(refusee.erreurs.find(phrase), std::string::npos) << refusee.erreurs;
+    }
+}
+
 } // namespace

@@ -1,5 +1,5 @@
 #include "cli/simulation.h"
-#include "cli/trace.h"
+#include "feuille/trace_csv.h"
 #include "outils/dossier_temporaire.h"
 
 #include <gtest/gtest.h>
@@ -73,7 +73,7 @@ public:
             etats.emplace_back(mess.texte().vue());
     }
 
-    Trace trace;
+    TraceCsv trace;
     std::vector<std::string> etats;
     Empreinte empreinte;
 

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -106,6 +107,18 @@ QString Boites::choisir_destination(const QString& titre, const QString& propose
     choix.setOption(QFileDialog::DontConfirmOverwrite);
     choix.selectFile(fichier.fileName());
     return choisi(choix, "choisir_destination", QFileDialog::AnyFile);
+}
+
+std::optional<int> Boites::demander_entier(const QString& titre, const QString& question,
+                                           int propose, int minimum, int maximum) {
+    QInputDialog saisie(&fenetre_);
+    saisie.setObjectName("demander_entier");
+    saisie.setWindowTitle(titre);
+    saisie.setLabelText(question);
+    saisie.setInputMode(QInputDialog::IntInput);
+    saisie.setIntRange(minimum, maximum);
+    saisie.setIntValue(propose);
+    return saisie.exec() == QDialog::Accepted ? std::optional(saisie.intValue()) : std::nullopt;
 }
 
 bool boite_ouverte() {

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <string_view>
 
 class QWidget;
@@ -26,6 +27,9 @@ public:
     QString choisir_fichier(const QString& titre, const QString& dossier, const QString& filtres);
     QString choisir_destination(const QString& titre, const QString& propose,
                                 const QString& filtres = {});
+    /// Asks for a number. @returns nothing when the user gives up
+    std::optional<int> demander_entier(const QString& titre, const QString& question, int propose,
+                                       int minimum, int maximum);
     /// A box with "Oui" and "Non", which alone answer: Escape and the frame do nothing.
     /// @param explication  what the answers lead to, beneath the question
     /// @returns true for "Oui"

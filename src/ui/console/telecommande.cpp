@@ -2,7 +2,6 @@
 
 #include "record/lignes_du_trajet.h"
 #include "seance/seance.h"
-#include "sim/textes_actions.h"
 #include "ui/commun/boites.h"
 #include "ui/commun/bureau.h"
 #include "ui/commun/place.h"

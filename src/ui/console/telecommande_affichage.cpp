@@ -4,6 +4,7 @@
 
 #include "record/lignes_du_trajet.h"
 #include "seance/seance.h"
+#include "sim/textes_actions.h"
 #include "ui/commun/boites.h"
 
 namespace {

@@ -1,4 +1,5 @@
 #include "base/visible.h"
+#include "ui/feuille/exporter_sans_affichage.h"
 #include "ui/principale/application.h"
 
 #include <CLI/CLI.hpp>
@@ -25,7 +26,10 @@ int dire(std::string_view texte, int code) {
 }
 
 int executer(int argc, char** argv) {
+    if (argc > 1 && std::string_view(argv[1]) == "exporter")
+        return exporter_sans_affichage(argc, argv);
     CLI::App app("Tavolmex : simulateur de robot de concours", "tavolmex");
+    app.footer("tavolmex exporter --help : l'image, la feuille et la trace du match, sans fenêtre");
     std::optional<std::filesystem::path> dossier;
     app.add_option("--dossier", dossier,
                    "Dossier de l'application (celui qui contient Configuration)")

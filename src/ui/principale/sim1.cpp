@@ -4,6 +4,7 @@
 #include "ui/commun/garde.h"
 #include "ui/commun/place.h"
 #include "ui/console/telecommande.h"
+#include "ui/feuille/exports.h"
 #include "ui/generation/dialog.h"
 #include "ui/principale/editeurs.h"
 #include "ui/principale/restauration.h"
@@ -28,6 +29,8 @@ Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(
       options_(this, seance_, bureau()),
       surveillance_(std::make_unique<Surveillance>(seance_)),
       verdict_(std::make_unique<Verdict>(*this, seance_)),
+      exports_(
+          std::make_unique<Exports>(*this, seance_, [this] { return verdict_->analyse_a_jour(); })),
       aide_(std::make_unique<ServiceAide>(*this)) {
     nommer();
     connecter();
@@ -66,6 +69,13 @@ void Sim1::connecter() {
     options_.brancher(options_.Aide, [this] { aide_->montrer(options_); });
     Table.au_clic = [this] { Table_Click(); };
     logo.au_clic = [this] { logo_Click(); };
+    verdict_->quand_calcule([this](const Analyse& a) {
+        std::vector<std::int32_t> fins;
+        for (const Bilan& bilan : a.robots)
+            if (bilan.fin)
+                fins.push_back(*bilan.fin);
+        barre_.montrer_fins(std::move(fins));
+    });
 }
 
 void Sim1::Form_Load() {

@@ -20,6 +20,7 @@
 
 class Dialog;
 class Editeurs;
+class Exports;
 class QMenu;
 class Restauration;
 class ServiceAide;
@@ -143,6 +144,7 @@ private:
     QAction* pause_ = nullptr;
     QAction* pas_ = nullptr;
     QList<QAction*> commandes_de_vitesse_;
+    QList<QAction*> commandes_d_export_;
     LigneTexte Mess, Info;
     ::Table Table;
     Banniere LNom;
@@ -162,5 +164,6 @@ private:
     std::unique_ptr<Editeurs> editeurs_;
     std::unique_ptr<Surveillance> surveillance_;
     std::unique_ptr<Verdict> verdict_;
+    std::unique_ptr<Exports> exports_;
     std::unique_ptr<ServiceAide> aide_;
 };

@@ -1,6 +1,7 @@
 // The table's context menu.
 #include "config/projet.h"
 #include "ui/commun/vitesses.h"
+#include "ui/feuille/exports.h"
 #include "ui/principale/editeurs.h"
 #include "ui/principale/sim1.h"
 #include "ui/verdict/verdict.h"
@@ -45,6 +46,12 @@ void Sim1::composer_menu() {
                   [this] { changer_vitesse(vitesse_voisine(cadence_.vitesse(), -1)); }),
         &commande("menu_vitesse_reelle", "Vitesse réelle", Qt::Key_Equal,
                   [this] { changer_vitesse(1); })};
+    commandes_d_export_ = {
+        &commande("menu_feuille", "Feuille de match…", {}, [this] { exports_->feuille(); }),
+        &commande("menu_imprimer", "Imprimer la feuille de match…", {},
+                  [this] { exports_->imprimer(); }),
+        &commande("menu_image", "Exporter l'image…", {}, [this] { exports_->image(); }),
+        &commande("menu_trace_csv", "Exporter la trace…", {}, [this] { exports_->trace(); })};
     montrer_rythme();
 }
 
@@ -59,6 +66,8 @@ void Sim1::montrer_menu(const QPoint& ou) {
     remplir_vitesses(*menu.addMenu("Vitesse"));
     menu.addSeparator();
     menu.addActions(Table.actions());
+    menu.addSeparator();
+    menu.addActions(commandes_d_export_);
     pointeur_.noter(ou); // whatever the pointer does in the menu
     menu.exec(Table.mapToGlobal(ou));
 }

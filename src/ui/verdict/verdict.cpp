@@ -108,6 +108,13 @@ Analyse Verdict::analyser_le_projet() const {
     }
 }
 
+Analyse Verdict::analyse_a_jour() const {
+    Analyse a = analyser_le_projet();
+    const GenresMasques masques(seance_.projet().dossier_configuration(), a.projet);
+    std::erase_if(a.constats, [&](const Constat& c) { return masques.contient(c.genre); });
+    return a;
+}
+
 // What the last change did to the margin; what changes nothing leaves it in sight.
 void Verdict::noter_changement() {
     const auto fin = fin_des_plans(analyse_);

@@ -29,6 +29,8 @@ public:
     const Analyse& analyse() const { return analyse_; }
     /// Those of the kinds that this project wants to hear of.
     std::vector<Constat> constats_signales() const;
+    /// The match as it would be played now, without the kinds of findings that are switched off.
+    Analyse analyse_a_jour() const;
     /// To be called with every new computation, and when other kinds are wanted.
     void quand_calcule(std::function<void(const Analyse&)> suite) {
         suites_.push_back(std::move(suite));

@@ -5,9 +5,9 @@
 #include <string>
 
 /// The poses of a run as CSV: a header, then a row per tick per robot, "." as separator.
-class Trace {
+class TraceCsv {
 public:
-    Trace();
+    TraceCsv();
     /// Adds a row for each of the robots 1..NbRobot.
     void ajouter(const Etat& e);
     const std::string& texte() const { return texte_; }
@@ -15,3 +15,7 @@ public:
 private:
     std::string texte_;
 };
+
+/// The whole match that "Démarrer" would play from `e`, which is the caller's to lose (a copy). A
+/// run-time error ends it.
+std::string trace_csv(Etat& e);

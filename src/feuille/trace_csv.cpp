@@ -1,10 +1,31 @@
-#include "cli/trace.h"
+#include "feuille/trace_csv.h"
 
-Trace::Trace()
+#include "sim/fenetres_muettes.h"
+#include "sim/moteur.h"
+
+namespace {
+
+class FenetresDeTrace final : public FenetresMuettes {
+public:
+    explicit FenetresDeTrace(const Etat& etat) : etat_(etat) {}
+    void apres_actions() override { trace.ajouter(etat_); }
+    void regler_Timer(Entier16 ms) override { en_marche = ms > 0; }
+    void fin_du_programme() override { en_marche = false; }
+
+    TraceCsv trace;
+    bool en_marche = false;
+
+private:
+    const Etat& etat_;
+};
+
+} // namespace
+
+TraceCsv::TraceCsv()
     : texte_("temps,robot,x,y,cap,xm,ym,xextr,yextr,action,num_action,nb_actions,parametre,"
              "parametre2,progression,incidence,nbre_carreaux\n") {}
 
-void Trace::ajouter(const Etat& e) {
+void TraceCsv::ajouter(const Etat& e) {
     const auto entier = [this](std::int32_t n) { texte_.append(texte_entier(n).vue()) += ','; };
     const auto decimal = [this](float x) { texte_.append(texte_simple(x).vue()) += ','; };
     for (int i = 1; i <= e.NbRobot; ++i) {
@@ -22,4 +43,14 @@ void Trace::ajouter(const Etat& e) {
         decimal(e.Incidence);
         texte_.append(texte_entier(e.NbreCarreaux).vue()) += '\n';
     }
+}
+
+std::string trace_csv(Etat& e) {
+    FenetresDeTrace fenetres(e);
+    Moteur moteur(e, fenetres);
+    e.RobotTele = 0;
+    moteur.Run_Jeu();
+    while (fenetres.en_marche && moteur.Timer_Timer()) {
+    }
+    return fenetres.trace.texte();
 }
