@@ -23,6 +23,7 @@ PanneauRejeu::PanneauRejeu(Seance& seance, std::function<void()> a_refaire)
 
 void PanneauRejeu::nommer() {
     setObjectName("rejeu");
+    setAccessibleName("Ce que fera le code");
     croises_.setObjectName("virages_croises");
     croises_.setText("Virages croisés");
     croises_.setToolTip("Dans le robot, Action_Droite tourne à gauche et Action_Gauche à droite, "

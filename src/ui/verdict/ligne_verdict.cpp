@@ -19,6 +19,7 @@ constexpr const char* separation = " · ";
 
 LigneVerdict::LigneVerdict(QWidget* parent) : QAbstractButton(parent) {
     setObjectName("verdict");
+    setAccessibleName("Verdict du match");
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setAutoFillBackground(true);
