@@ -74,7 +74,8 @@ public:
         pour_chacun([this](int i) { chemin(i); });
         if (o.secondes)
             pour_chacun([this](int i) { secondes(i); });
-        pour_chacun([this](int i) { pauses(i); });
+        if (o.chemin)
+            pour_chacun([this](int i) { pauses(i); });
         reserver_les_constats();
         if (o.actions)
             pour_chacun([this](int i) { numeros(i); });
@@ -118,6 +119,8 @@ private:
         const Forme chemin = points(i);
         for (std::size_t k = 1; k < chemin.size(); ++k)
             places_.occuper(chemin[k - 1], chemin[k]);
+        if (!o.chemin)
+            return;
         s.epaisseur(4);
         s.chemin(chemin, couleurs::noir);
         s.epaisseur(2);

@@ -12,6 +12,7 @@
 struct OptionsTrace {
     int robot = 0;                                                   ///< 0: all of them
     std::int32_t jusqu_a = std::numeric_limits<std::int32_t>::max(); ///< hundredths of a second
+    bool chemin = true;                  ///< the way itself and its pauses, not its marks alone
     bool secondes = true;                ///< a tick mark every second, a number every five
     bool actions = true;                 ///< the number of each action where it begins
     bool bande = false;                  ///< the area that the outline passed over

@@ -27,6 +27,5 @@ std::string texte_duree(std::int32_t centiemes) {
 std::string texte_action(const actions::Action& action, Entier16 p1, Entier16 p2) {
     const std::string_view nom = action.legende.empty() ? action.mot : action.legende;
     return std::string(nom) + valeur(p1, action.parametres[0]) +
-           (action.genre == actions::Genre::arc ? " rayon" : "") +
-           valeur(p2, action.parametres[1]);
+           (action.genre == actions::Genre::arc ? " rayon" : "") + valeur(p2, action.parametres[1]);
 }
