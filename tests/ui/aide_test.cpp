@@ -49,6 +49,9 @@ TEST_F(Manuel, chaque_fenetre_ouvre_sa_page) {
     cliquer("Command5");
     QTest::keyClick(&trouver("Text1"), Qt::Key_F1);
     EXPECT_EQ(titre(aide()), "La télécommande");
+    trouver<QAbstractButton>("verdict").click();
+    QTest::keyClick(&trouver("frise"), Qt::Key_F1);
+    EXPECT_EQ(titre(aide()), "L'analyse du match");
     cliquer("generer");
     trouver<QPushButton>("Choisir").click();
     trouver<QPushButton>("visu_gene").click(); // no such file: said, the window opens all the same

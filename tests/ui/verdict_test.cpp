@@ -20,7 +20,7 @@ protected:
     }
     QWidget& ouvrir_liste() {
         QTest::keyClick(&options(), Qt::Key_F7);
-        return trouver("Constats");
+        return trouver("Analyse");
     }
     /// The findings of the list, "robot/sentence" each.
     std::vector<std::string> constats() {
@@ -87,7 +87,7 @@ TEST_F(LeVerdict, suit_chaque_action_enregistree_et_se_tait_pendant_elle) {
     e().TrajetModifie(1) = false;
 }
 
-TEST_F(LeVerdict, f7_ouvre_la_liste_par_robot_et_echap_la_ferme) {
+TEST_F(LeVerdict, f7_ouvre_l_analyse_sa_liste_par_robot_et_echap_la_ferme) {
     dossier.ecrire("Configuration/Tavolmex.ini", "NbRobot, 2\r\n");
     trajet(1, "Init,50,30,0\r\nAvance,160\r\nFIN\r\n");
     trajet(2, "Init,50,200,0\r\nPause,300\r\nFIN\r\n");
@@ -97,7 +97,7 @@ TEST_F(LeVerdict, f7_ouvre_la_liste_par_robot_et_echap_la_ferme) {
     QWidget& liste = ouvrir_liste();
     EXPECT_TRUE(liste.isVisible());
     EXPECT_TRUE(signale("Robot 1/Le contour sort de la table pendant l'action 1"));
-    EXPECT_TRUE(signale("Robot 1/Au plus près du robot 2 : "));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return signale("Robot 1/Au plus près du robot 2 : "); }));
     EXPECT_TRUE(signale("Robot 2/Au plus près du robot 1 : "));
     QTest::keyClick(&liste, Qt::Key_Escape);
     EXPECT_FALSE(liste.isVisible());

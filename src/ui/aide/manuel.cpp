@@ -13,7 +13,8 @@ namespace {
 constexpr PageManuel pages[] = {
     {"prise-en-main", "Prise en main", ""},
     {"fenetre-principale", "La fenêtre principale", " Sim1 "},
-    {"verdict", "Le verdict du match", " Constats "},
+    {"verdict", "Le verdict du match", ""},
+    {"analyse", "L'analyse du match", " Analyse "},
     {"options", "Les options et les projets", " FOption Ouvrir "},
     {"telecommande", "La télécommande", " Télécommande "},
     {"editeurs", "Les éditeurs", " Foutil dessinTable dessinRobot nouveauProjet "},

@@ -5,8 +5,13 @@
 
 namespace {
 
-void ecrire_nombre(QPainter& peintre, double pixel, Qt::Orientation sens, double valeur) {
-    const QString texte = QString::number(std::lround(valeur));
+// As many decimals as the numbers' distance asks for.
+QString nombre_gradue(double valeur, double pas) {
+    const int decimales = pas >= 1 ? 0 : pas >= 0.1 ? 1 : 2;
+    return QString::number(valeur, 'f', decimales).replace('.', ',');
+}
+
+void ecrire_nombre(QPainter& peintre, double pixel, Qt::Orientation sens, const QString& texte) {
     if (sens == Qt::Horizontal)
         return peintre.drawText(QRectF(pixel - 30, 1, 60, 12), Qt::AlignCenter, texte);
     peintre.save();
@@ -19,7 +24,7 @@ void ecrire_nombre(QPainter& peintre, double pixel, Qt::Orientation sens, double
 } // namespace
 
 void peindre_regle(QPainter& peintre, const Axe& axe, Qt::Orientation sens, int longueur,
-                   const QPalette& couleurs, const QFont& police) {
+                   const QPalette& couleurs, const QFont& police, double pas) {
     const bool couchee = sens == Qt::Horizontal;
     const QSize taille(longueur, epaisseur_regle);
     peintre.setRenderHint(QPainter::Antialiasing, false);
@@ -29,15 +34,15 @@ void peindre_regle(QPainter& peintre, const Axe& axe, Qt::Orientation sens, int 
     QFont petite = police;
     petite.setPixelSize(10);
     peintre.setFont(petite);
-    const double pas = axe.pas_lisible(1, 48); // between two numbers
-    const double petit = pas / 5;
+    const double entre = axe.pas_lisible(pas, 48); // two numbers
+    const double petit = entre / 5;
     axe.graduer(petit, [&](double valeur, double pixel) {
-        const bool nombre = std::fabs(std::remainder(valeur, pas)) < petit / 2;
+        const bool nombre = std::fabs(std::remainder(valeur, entre)) < petit / 2;
         const QPointF a(pixel, nombre ? epaisseur_regle - 10 : epaisseur_regle - 4);
         const QPointF b(pixel, epaisseur_regle - 1);
         peintre.drawLine(couchee ? a : a.transposed(), couchee ? b : b.transposed());
         if (nombre)
-            ecrire_nombre(peintre, pixel, sens, valeur);
+            ecrire_nombre(peintre, pixel, sens, nombre_gradue(valeur, entre));
     });
 }
 

@@ -43,8 +43,17 @@ void VueEchelle::zoomer(double facteur, QPointF autour) {
     update();
 }
 
+void VueEchelle::faire_voir(QPointF cm) {
+    constexpr int marge = 30;
+    const QRectF vue = QRectF(rect()).adjusted(epaisseur_regle, epaisseur_regle, 0, 0);
+    if (vue.adjusted(marge, marge, -marge, -marge).contains(en_pixels(cm)))
+        return;
+    camera_.glisser(vue.center() - en_pixels(cm));
+    update();
+}
+
 QPointF VueEchelle::aimanter(QPointF cm, Qt::KeyboardModifiers touches) const {
-    const double pas = sans_grille(touches) ? 1 : grille_;
+    const double pas = grille_ == 0 || sans_grille(touches) ? 1 : grille_;
     return {std::round(cm.x() / pas) * pas, std::round(cm.y() / pas) * pas};
 }
 
@@ -58,9 +67,10 @@ void VueEchelle::paintEvent(QPaintEvent*) {
     QPainter peintre(this);
     peintre.fillRect(rect(), palette().color(QPalette::Dark));
     peindre(peintre);
-    peintre.drawPixmap(0, 0, fond_grille_.image(*this, {camera_, grille_}, [this](QPainter& p) {
-        peindre_grille(p, camera_, grille_, size());
-    }));
+    if (grille_ > 0)
+        peintre.drawPixmap(0, 0, fond_grille_.image(*this, {camera_, grille_}, [this](QPainter& p) {
+            peindre_grille(p, camera_, grille_, size());
+        }));
     peintre.setRenderHint(QPainter::Antialiasing);
     peindre_dessus(peintre);
     const QPixmap& regles =

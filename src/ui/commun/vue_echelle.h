@@ -19,12 +19,14 @@ public:
 
     std::function<void(QPointF cm)> au_deplacement; ///< the cursor moved
 
-    /// @param pas  1, 5 or 10 cm
+    /// @param pas  1, 5 or 10 cm; 0: no grid is shown
     void regler_grille(int pas);
     int grille() const { return grille_; }
     /// Shows the whole drawing, and again whenever the window's size changes.
     void ajuster();
     void zoomer(double facteur, QPointF autour);
+    /// Moves the view so that a place (cm) is in it, and not at all where it is already.
+    void faire_voir(QPointF cm);
 
     QPointF en_cm(QPointF pixels) const { return camera_.en_cm(pixels); }
     QPointF en_pixels(QPointF cm) const { return camera_.en_pixels(cm); }
@@ -49,6 +51,7 @@ protected:
     virtual void survoler(QPointF) {}
     virtual void abandonner() = 0; ///< Escape, or a gesture that was cut short
 
+    const Camera& camera() const { return camera_; }
     /// Where the present gesture began and has come to.
     const Gestes& gestes() const { return gestes_; }
     /// Sets a surface to this view's coordinates.

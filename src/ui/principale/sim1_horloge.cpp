@@ -21,8 +21,8 @@ void Sim1::regler_Timer(Entier16 ms) {
         Timer.start(cadence_.intervalle());
     } else {
         Timer.stop();
-        verdict_->a_l_arret();
     }
+    verdict_->course_change();
     montrer_rythme();
     placer_verdict();
     suivre_calques();

@@ -33,7 +33,7 @@ void Sim1::composer_menu() {
     pause_->setCheckable(true);
     pas_ = &entree("menu_pas", "Un pas", Qt::Key_Period, [this] { avancer_d_un_pas(); });
     composer_menu_calques();
-    entree("menu_constats", "Constats du match…\tF7", {}, [this] { verdict_->montrer_liste(); });
+    entree("menu_analyse", "Analyse du match…\tF7", {}, [this] { verdict_->montrer_fenetre(); });
     entree("menu_trajet", "Modifier le trajet…", QKeySequence("Ctrl+T"), [this] {
         const int conduit = e->RobotTele;
         modifier_le_trajet(conduit >= 1 && conduit <= robots_des_fichiers ? conduit : 1);

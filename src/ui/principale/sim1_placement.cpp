@@ -83,7 +83,8 @@ void Sim1::placer_verdict() {
     LigneVerdict& ligne = verdict_->ligne();
     ligne.setVisible(!en_marche());
     const int haut = Mess.est_vide() ? 0 : Mess.height();
-    const int libre = Info.fin_du_texte();
+    constexpr int ecart = 18;
+    const int libre = Info.fin_du_texte() > 0 ? Info.fin_du_texte() + ecart : 0;
     const int gauche = width() - libre < ligne.largeur_utile() ? 0 : libre;
     ligne.setGeometry(gauche, haut, width() - gauche, Table.y() - haut);
 }

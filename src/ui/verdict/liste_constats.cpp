@@ -3,12 +3,11 @@
 #include "analyse/releve.h"
 #include "analyse/verdict.h"
 #include "ui/commun/boites.h"
-#include "ui/commun/place.h"
 #include "ui/verdict/texte_verdict.h"
+#include "ui/verdict/touches_gardees.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -16,8 +15,12 @@
 
 namespace {
 
-constexpr QSize taille_habituelle{860, 420};
+constexpr int largeur_du_texte = 340;
 enum Colonne { instant, place, fichier, ligne, texte };
+// What a row leads to: a finding, or a robot and an instant.
+constexpr int role_constat = Qt::UserRole;
+constexpr int role_robot = Qt::UserRole + 1;
+constexpr int role_temps = Qt::UserRole + 2;
 
 QString en_place(double x, double y) {
     return texte_qt("x = " + longueur(x) + ", y = " + longueur(y));
@@ -36,13 +39,14 @@ QStringList colonnes(const Constat& c) {
             c.ligne ? QString::number(*c.ligne) : "", phrase};
 }
 
-void ajouter(QTreeWidgetItem& groupe, const QStringList& textes) {
+QTreeWidgetItem& ajouter(QTreeWidgetItem& groupe, const QStringList& textes) {
     auto* rangee = new QTreeWidgetItem(&groupe, textes);
     rangee->setTextAlignment(instant, Qt::AlignRight | Qt::AlignTop);
     rangee->setTextAlignment(ligne, Qt::AlignRight | Qt::AlignTop);
     for (const int colonne : {place, fichier, texte})
         rangee->setTextAlignment(colonne, Qt::AlignLeft | Qt::AlignTop);
     rangee->setToolTip(texte, textes[texte]);
+    return *rangee;
 }
 
 QString titre_du_robot(const Analyse& a, int robot) {
@@ -65,17 +69,14 @@ QString titre_du_robot(const Analyse& a, int robot) {
 } // namespace
 
 ListeConstats::ListeConstats(QWidget* parent, std::function<void(Genre, bool)> au_choix)
-    : QWidget(parent, Qt::Window), au_choix_(std::move(au_choix)) {
+    : QWidget(parent), au_choix_(std::move(au_choix)) {
     nommer();
     placer();
     connecter();
-    resize(taille_habituelle);
-    retenir_place(*this);
 }
 
 void ListeConstats::nommer() {
-    setObjectName("Constats");
-    setWindowTitle("Constats du match");
+    setObjectName("panneau_constats");
     verdict_.setObjectName("verdict_entier");
     liste_.setObjectName("constats");
     liste_.setAccessibleName("Constats par robot");
@@ -88,9 +89,6 @@ void ListeConstats::nommer() {
     genres_.setText("Genres signalés");
     genres_.setToolTip("Choisit, pour ce projet, les genres de constats à signaler");
     menu_.setObjectName("menu_genres");
-    Fermer.setObjectName("Fermer");
-    Fermer.setText("Fermer");
-    Fermer.setToolTip("Ferme la fenêtre");
 }
 
 void ListeConstats::placer() {
@@ -98,6 +96,10 @@ void ListeConstats::placer() {
     liste_.setAllColumnsShowFocus(true);
     liste_.setAlternatingRowColors(true);
     liste_.header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    liste_.header()->setSectionResizeMode(texte, QHeaderView::Interactive);
+    liste_.header()->resizeSection(texte, largeur_du_texte);
+    liste_.header()->moveSection(texte, place);
+    liste_.header()->setStretchLastSection(false);
     for (QLabel* libre : {&verdict_, &texte_, &masques_}) {
         libre->setTextFormat(Qt::PlainText); // a project's name may look like markup
         libre->setWordWrap(true);
@@ -109,20 +111,26 @@ void ListeConstats::placer() {
     auto* bas = new QHBoxLayout;
     bas->addWidget(&genres_);
     bas->addWidget(&masques_, 1);
-    bas->addWidget(&Fermer);
     auto* colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(6, 0, 0, 0);
     colonne->addWidget(&verdict_);
     colonne->addWidget(&liste_, 1);
     colonne->addWidget(&titre_texte_);
     colonne->addWidget(&texte_);
     colonne->addLayout(bas);
-    liste_.setFocus();
 }
 
 void ListeConstats::connecter() {
-    connect(&Fermer, &QPushButton::clicked, this, [this] { close(); });
     connect(&liste_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* rangee) {
         texte_.setText(rangee == nullptr ? QString() : rangee->text(texte));
+    });
+    const auto aller_a = [this](const QTreeWidgetItem* rangee) { aller(*rangee); };
+    connect(&liste_, &QTreeWidget::itemClicked, this, aller_a);
+    connect(&liste_, &QTreeWidget::itemActivated, this, aller_a);
+    new TouchesGardees(liste_, [](const QKeyEvent& e) {
+        const QKeySequence touche(e.keyCombination());
+        return touche == Qt::Key_Left || touche == Qt::Key_Right || touche == Qt::Key_Home ||
+               touche == Qt::Key_End;
     });
     for (const GenreNomme& g : genres_nommes()) {
         QAction* genre = menu_.addAction(g.legende);
@@ -133,9 +141,15 @@ void ListeConstats::connecter() {
     }
 }
 
+void ListeConstats::aller(const QTreeWidgetItem& rangee) const {
+    if (const QVariant rang = rangee.data(0, role_constat); rang.isValid())
+        au_constat(static_cast<std::size_t>(rang.toULongLong()));
+    else if (const QVariant robot = rangee.data(0, role_robot); robot.isValid())
+        au_rapprochement(robot.toInt(), rangee.data(0, role_temps).toInt());
+}
+
 void ListeConstats::remplir(const QString& verdict, const Analyse& a,
                             const GenresMasques& masques) {
-    setWindowTitle("Constats du match – " + texte_qt(a.projet));
     verdict_.setText(verdict);
     remplir_genres(a, masques);
     liste_.clear();
@@ -172,9 +186,11 @@ void ListeConstats::remplir_robot(const Analyse& a, const GenresMasques& masques
     QFont gras = font();
     gras.setBold(true);
     groupe->setFont(0, gras);
-    for (const Constat& c : a.constats)
+    for (std::size_t i = 0; i < a.constats.size(); ++i) {
+        const Constat& c = a.constats[i];
         if (concerne(c, robot) && !masques.contient(c.genre))
-            ajouter(*groupe, colonnes(c));
+            ajouter(*groupe, colonnes(c)).setData(0, role_constat, static_cast<qulonglong>(i));
+    }
     ajouter_ecart(*groupe, a, robot);
     const bool present = std::ranges::find(a.robots, robot, &Bilan::robot) != a.robots.end();
     if (groupe->childCount() > 0 || present)
@@ -198,14 +214,9 @@ void ListeConstats::ajouter_ecart(QTreeWidgetItem& groupe, const Analyse& a, int
                                  : "Au plus près du robot " + std::to_string(autre) + " : " +
                                        dixiemes(moindre->ecart) + " cm";
     const PoseTick& p = a.match.pose(robot, moindre->temps);
-    ajouter(groupe,
-            {texte_qt(secondes(moindre->temps)), en_place(p.x, p.y), "", "",
-             texte_qt(quoi + " (pas " + std::to_string(a.match.tick(moindre->temps)) + ")")});
-}
-
-void ListeConstats::keyPressEvent(QKeyEvent* evenement) {
-    if (evenement->key() == Qt::Key_Escape)
-        close();
-    else
-        QWidget::keyPressEvent(evenement);
+    QTreeWidgetItem& rangee = ajouter(
+        groupe, {texte_qt(secondes(moindre->temps)), en_place(p.x, p.y), "", "",
+                 texte_qt(quoi + " (pas " + std::to_string(a.match.tick(moindre->temps)) + ")")});
+    rangee.setData(0, role_robot, robot);
+    rangee.setData(0, role_temps, moindre->temps);
 }

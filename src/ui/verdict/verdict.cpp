@@ -3,7 +3,7 @@
 #include "analyse/verdict.h"
 #include "ui/commun/boites.h"
 #include "ui/commun/virages_croises.h"
-#include "ui/verdict/liste_constats.h"
+#include "ui/verdict/fenetre_analyse.h"
 
 #include <QShortcut>
 
@@ -18,16 +18,23 @@ constexpr int apres_une_boite_ms = 200;
 } // namespace
 
 Verdict::Verdict(QWidget& principale, Seance& seance)
-    : principale_(principale), seance_(seance), ligne_(*new LigneVerdict(&principale)) {
+    : principale_(principale),
+      seance_(seance),
+      ligne_(*new LigneVerdict(&principale)),
+      etat_(std::make_unique<Etat>()) {
     attente_.setSingleShot(true);
-    const auto ouvrir = [this] { montrer_liste(); };
+    mesure_.setSingleShot(true);
+    const auto ouvrir = [this] { montrer_fenetre(); };
     QObject::connect(&attente_, &QTimer::timeout, &attente_, [this] { calculer(); });
+    QObject::connect(&mesure_, &QTimer::timeout, &mesure_, [this] { mesurer(); });
     QObject::connect(&ligne_, &QAbstractButton::clicked, &attente_, ouvrir);
     auto* touche = new QShortcut(Qt::Key_F7, &principale);
     touche->setContext(Qt::ApplicationShortcut);
     QObject::connect(touche, &QShortcut::activated, &attente_, ouvrir);
     ecouter(seance.annonces());
 }
+
+Verdict::~Verdict() = default;
 
 void Verdict::projet_change(Lecture lecture) {
     if (lecture != Lecture::table)
@@ -47,8 +54,10 @@ void Verdict::recalculer() {
     attente_.start(apres_le_dessin_ms);
 }
 
-void Verdict::a_l_arret() {
-    if (attendu_)
+void Verdict::course_change() {
+    if (fenetre_)
+        fenetre_->signaler_la_course(seance_.en_marche());
+    if (attendu_ && !seance_.en_marche())
         attente_.start(apres_le_dessin_ms);
 }
 
@@ -59,6 +68,8 @@ void Verdict::calculer() {
         return attente_.start(apres_une_boite_ms);
     attendu_ = false;
     analyse_ = analyser_le_projet();
+    *etat_ = seance_.etat();
+    etat_->ZoneRedessin = {0, etat_->XMax, 0, etat_->YMax};
     masques_ = {seance_.projet().dossier_configuration(), analyse_.projet};
     noter_changement();
     montrer();
@@ -129,27 +140,35 @@ void Verdict::noter_changement() {
     marge_ = marge;
 }
 
-void Verdict::montrer() {
-    const TexteVerdict texte = texte_du_verdict(
-        analyse_, changement_, static_cast<int>(constats_signales().size()), masques_.nombre());
-    ligne_.ecrire(texte);
-    if (liste_ == nullptr || !liste_->isVisible())
-        return;
-    if (analyse_.ecarts.empty() && !analyse_.robots.empty() && !seance_.en_marche())
-        mesurer_ecarts(seance_.etat(), analyse_);
-    liste_->remplir(texte_qt(texte.entier()), analyse_, masques_);
+TexteVerdict Verdict::texte() const {
+    return texte_du_verdict(analyse_, changement_, static_cast<int>(constats_signales().size()),
+                            masques_.nombre());
 }
 
-void Verdict::montrer_liste() {
-    if (liste_ == nullptr)
-        liste_ = new ListeConstats(&principale_, [this](Genre genre, bool masque) {
+void Verdict::montrer() {
+    ligne_.ecrire(texte());
+    if (!fenetre_ || !fenetre_->isVisible())
+        return;
+    fenetre_->montrer(texte_qt(texte().entier()), *etat_, analyse_, masques_);
+    if (analyse_.ecarts.empty() && analyse_.robots.size() > 1)
+        mesure_.start(apres_le_dessin_ms);
+}
+
+void Verdict::mesurer() {
+    mesurer_ecarts(*etat_, analyse_);
+    fenetre_->montrer_constats(texte_qt(texte().entier()), masques_);
+}
+
+void Verdict::montrer_fenetre() {
+    if (!fenetre_)
+        fenetre_ = std::make_unique<FenetreAnalyse>(&principale_, [this](Genre genre, bool masque) {
             masques_.masquer(genre, masque);
             montrer();
             prevenir();
         });
-    liste_->show();
-    liste_->raise();
-    liste_->activateWindow();
-    attendu_ = attendu_ || seance_.en_marche(); // the gaps can wait until nothing runs
+    fenetre_->signaler_la_course(seance_.en_marche());
+    fenetre_->show();
+    fenetre_->raise();
+    fenetre_->activateWindow();
     montrer();
 }

@@ -10,22 +10,24 @@
 #include <bitset>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
-class ListeConstats;
+class FenetreAnalyse;
 
 /// Plays the whole match anew after whatever changes it, once for several changes, when nothing
-/// runs and no box is open; shows the verdict in a line and the findings in a list.
+/// runs and no box is open; shows the verdict in a line, the match and its findings in a window.
 class Verdict final : private Ecouteur {
 public:
     Verdict(QWidget& principale, Seance& seance);
+    ~Verdict();
 
     /// To be placed, shown and hidden by the main window.
     LigneVerdict& ligne() { return ligne_; }
-    void montrer_liste();
+    void montrer_fenetre();
     const Analyse& analyse() const { return analyse_; }
     /// Those of the kinds that this project wants to hear of.
     std::vector<Constat> constats_signales() const;
@@ -37,8 +39,8 @@ public:
     }
     /// Something changed: plays the match again once the events that brought it are dealt with.
     void recalculer();
-    /// Nothing runs any more.
-    void a_l_arret();
+    /// A match or an action begins, or nothing runs any more.
+    void course_change();
 
 private:
     void projet_change(Lecture lecture) override;
@@ -50,20 +52,23 @@ private:
     Provenance provenance() const;
     Analyse analyser_le_projet() const;
     void noter_changement();
+    TexteVerdict texte() const;
     void montrer();
     void prevenir();
+    void mesurer();
 
     QWidget& principale_;
     Seance& seance_;
     LigneVerdict& ligne_;
-    ListeConstats* liste_ = nullptr; ///< made when it is first shown; belongs to the main window
-    QTimer attente_;
+    QTimer attente_, mesure_;
     bool attendu_ = false; ///< something changed since the match was played
     /// Their paths were recorded since the files were read: they have no lines there.
     std::bitset<robots_max + 1> enregistres_;
+    std::unique_ptr<Etat> etat_; ///< that it was played from; draws the whole table
     Analyse analyse_;
     std::vector<std::function<void(const Analyse&)>> suites_;
     GenresMasques masques_;
     std::string dernier_; ///< the verdict before, and its margin
     std::optional<std::int32_t> marge_, changement_;
+    std::unique_ptr<FenetreAnalyse> fenetre_; ///< made when it is first shown
 };
