@@ -1,7 +1,7 @@
 #pragma once
 
-#include "draw/geometrie.h"
 #include "analyse/match.h"
+#include "draw/geometrie.h"
 #include "sim/actions.h"
 #include "sim/contour.h"
 

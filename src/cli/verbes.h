@@ -24,8 +24,8 @@ void declarer_miroir(CLI::App& app, int& code_de_sortie);
 /// Generates a subroutine into a target as the generation window does; exit code 0 when the target
 /// was written, 1 when a check refuses it.
 void declarer_generer(CLI::App& app, int& code_de_sortie);
-/// Plays the generated code of a robot and compares it with its trajectory; exit code 1 when it ends
-/// more than 1 cm or 1 degree away or has lines that were not understood.
+/// Plays the generated code of a robot and compares it with its trajectory; exit code 1 when it
+/// ends more than 1 cm or 1 degree away or has lines that were not understood.
 void declarer_rejouer(CLI::App& app, int& code_de_sortie);
 /// Lists the labels of a PICBASIC file, or prints the body of one; exit code 1 when the file cannot
 /// be read or holds no such label.
