@@ -3,6 +3,7 @@
 #include "ui/verdict/vue_frise.h"
 
 #include <QComboBox>
+#include <QTableView>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QWheelEvent>
@@ -189,6 +190,18 @@ TEST_F(FenetreDuMatch, un_autre_calcul_garde_instant_et_echelle_une_course_se_si
     EXPECT_TRUE(trouver("course").isVisible());
     seance().moteur().Fin_Jeu();
     EXPECT_FALSE(trouver("course").isVisible());
+}
+
+// A double click on a segment is a wish to change that action.
+TEST_F(FenetreDuMatch, un_segment_ouvre_son_action_dans_l_editeur) {
+    QTest::mouseDClick(&frise(), Qt::LeftButton, {}, en(303, 2));
+    QCoreApplication::processEvents();
+    auto& editeur = trouver("dessinTrajet");
+    EXPECT_TRUE(editeur.isVisible());
+    EXPECT_EQ(trouver<QComboBox>("robot").currentText(), "2");
+    const auto lignes = trouver<QTableView>("tableActions").selectionModel()->selectedRows(1);
+    ASSERT_EQ(lignes.size(), 1);
+    EXPECT_EQ(lignes.front().data().toString(), "Droite");
 }
 
 } // namespace

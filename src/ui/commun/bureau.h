@@ -10,8 +10,8 @@ public:
     /// Shows the window of former versions.
     virtual void montrer_restauration() = 0;
 
-    /// Opens the editor on a robot's trajectory.
-    virtual void modifier_le_trajet(int robot) = 0;
+    /// Opens the editor on a robot's trajectory, at its action `numero` (0: none in particular).
+    virtual void modifier_le_trajet(int robot, int numero) = 0;
 
     /// Loads the project that the user has just chosen, and offers its unsaved recording.
     virtual void charger_projet_choisi() = 0;

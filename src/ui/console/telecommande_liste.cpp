@@ -61,7 +61,7 @@ void Télécommande::montrer_menu_de_liste(const QPoint& ou) {
         action->setEnabled(possible);
     menu.addSeparator();
     menu.addAction("Modifier le trajet…", this,
-                   [this] { bureau_.modifier_le_trajet(console_.robot()); });
+                   [this] { bureau_.modifier_le_trajet(console_.robot(), 0); });
     menu.exec(liste_.mapToGlobal(ou));
     for (QAction* action : liste_.actions())
         action->setEnabled(true); // its key decides for itself

@@ -108,6 +108,13 @@ void dessinTrajet::montrer_robot(int robot) {
     robot_.setCurrentIndex(this->robot() - 1);
 }
 
+void dessinTrajet::choisir_l_action(int numero) {
+    const auto& numeros = essai_.numeros;
+    const auto ou = std::ranges::find(numeros, numero);
+    if (numero > 0 && ou != numeros.end())
+        historique_.choisir({static_cast<std::size_t>(ou - numeros.begin())});
+}
+
 void dessinTrajet::regler_projet() {
     try {
         etat_ = etat_des_fichiers(seance_.etat());

@@ -24,6 +24,8 @@ public:
     /// Opens the present project's trajectory of a robot, 1..9, unless it is open already; changes
     /// that are not saved are asked about.
     void montrer_robot(int robot);
+    /// Chooses the action of that number, from 1; nothing for another one.
+    void choisir_l_action(int numero);
 
 protected:
     void fichier_change() override;

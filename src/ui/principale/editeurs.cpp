@@ -82,9 +82,10 @@ void Editeurs::placer() {
     retenir_place(outils_);
 }
 
-void Editeurs::montrer_trajet(int robot) {
+void Editeurs::montrer_trajet(int robot, int numero) {
     montrer_trajet();
     trajet_.montrer_robot(robot);
+    trajet_.choisir_l_action(numero);
 }
 
 void Editeurs::montrer_trajet() {

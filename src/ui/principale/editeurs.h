@@ -17,8 +17,9 @@ public:
 
     /// "Créer un projet...": the palette and the editor of what it draws.
     void montrer();
-    /// "Modifier le trajet…": the present project's trajectory of a robot, 1..9.
-    void montrer_trajet(int robot);
+    /// "Modifier le trajet…": the present project's trajectory of a robot, 1..9, at its action
+    /// `numero` (0: none in particular).
+    void montrer_trajet(int robot, int numero);
     /// Asks about all unsaved changes, then saves what is to be saved; discards nothing yet.
     /// @returns false when the user does not want to leave
     bool peut_partir();

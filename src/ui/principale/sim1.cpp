@@ -28,7 +28,7 @@ Sim1::Sim1(const std::filesystem::path& dossier_application, std::function<void(
       pointeur_(Table, *e),
       options_(this, seance_, bureau()),
       surveillance_(std::make_unique<Surveillance>(seance_)),
-      verdict_(std::make_unique<Verdict>(*this, seance_)),
+      verdict_(std::make_unique<Verdict>(*this, seance_, bureau())),
       exports_(
           std::make_unique<Exports>(*this, seance_, [this] { return verdict_->analyse_a_jour(); })),
       aide_(std::make_unique<ServiceAide>(*this)) {

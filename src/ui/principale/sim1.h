@@ -84,7 +84,7 @@ private:
     void montrer_options() override { options_.montrer(); }
     void cacher_options_et_console() override;
     void montrer_restauration() override;
-    void modifier_le_trajet(int robot) override;
+    void modifier_le_trajet(int robot, int numero) override;
     void charger_projet_choisi() override;
     void continuer_enregistrement() override;
     bool arreter_course() override;

@@ -36,7 +36,7 @@ void Sim1::composer_menu() {
     entree("menu_analyse", "Analyse du match…\tF7", {}, [this] { verdict_->montrer_fenetre(); });
     entree("menu_trajet", "Modifier le trajet…", QKeySequence("Ctrl+T"), [this] {
         const int conduit = e->RobotTele;
-        modifier_le_trajet(conduit >= 1 && conduit <= robots_des_fichiers ? conduit : 1);
+        modifier_le_trajet(conduit >= 1 && conduit <= robots_des_fichiers ? conduit : 1, 0);
     });
     entree("menu_restaurer", "Restaurer une version…", {}, [this] { montrer_restauration(); });
     commandes_de_vitesse_ = {
@@ -55,8 +55,8 @@ void Sim1::composer_menu() {
     montrer_rythme();
 }
 
-void Sim1::modifier_le_trajet(int robot) {
-    editeurs().montrer_trajet(robot);
+void Sim1::modifier_le_trajet(int robot, int numero) {
+    editeurs().montrer_trajet(robot, numero);
 }
 
 void Sim1::montrer_menu(const QPoint& ou) {

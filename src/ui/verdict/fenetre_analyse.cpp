@@ -32,13 +32,15 @@ std::vector<MarqueFrise> marques_de(const Analyse& a, const GenresMasques& masqu
 } // namespace
 
 FenetreAnalyse::FenetreAnalyse(QWidget* parent,
-                               std::function<void(Genre, bool)> au_choix_d_un_genre)
+                               std::function<void(Genre, bool)> au_choix_d_un_genre,
+                               std::function<void(int robot, int numero)> au_segment)
     : QWidget(parent, Qt::Window),
       instant_(this),
       constats_(this, std::move(au_choix_d_un_genre)),
       transport_(this),
       lecture_(LigneTexte::Sorte::capteur, this),
       frise_(d_, this) {
+    frise_.au_segment = std::move(au_segment);
     nommer();
     composer_commandes();
     placer();

@@ -14,7 +14,9 @@
 /// what plays it.
 class FenetreAnalyse final : public QWidget {
 public:
-    FenetreAnalyse(QWidget* parent, std::function<void(Genre, bool masque)> au_choix_d_un_genre);
+    /// @param au_segment  the user wants to change a robot's action of that number
+    FenetreAnalyse(QWidget* parent, std::function<void(Genre, bool masque)> au_choix_d_un_genre,
+                   std::function<void(int robot, int numero)> au_segment);
 
     /// Another match or other kinds of findings. Cursor, scales and places stay.
     /// @param e, a  the state and what was computed from it; the caller's

@@ -2,6 +2,7 @@
 
 #include "analyse/verdict.h"
 #include "ui/commun/boites.h"
+#include "ui/commun/bureau.h"
 #include "ui/commun/virages_croises.h"
 #include "ui/verdict/fenetre_analyse.h"
 
@@ -17,9 +18,10 @@ constexpr int apres_une_boite_ms = 200;
 
 } // namespace
 
-Verdict::Verdict(QWidget& principale, Seance& seance)
+Verdict::Verdict(QWidget& principale, Seance& seance, Bureau& bureau)
     : principale_(principale),
       seance_(seance),
+      bureau_(bureau),
       ligne_(*new LigneVerdict(&principale)),
       etat_(std::make_unique<Etat>()) {
     attente_.setSingleShot(true);
@@ -161,11 +163,14 @@ void Verdict::mesurer() {
 
 void Verdict::montrer_fenetre() {
     if (!fenetre_)
-        fenetre_ = std::make_unique<FenetreAnalyse>(&principale_, [this](Genre genre, bool masque) {
-            masques_.masquer(genre, masque);
-            montrer();
-            prevenir();
-        });
+        fenetre_ = std::make_unique<FenetreAnalyse>(
+            &principale_,
+            [this](Genre genre, bool masque) {
+                masques_.masquer(genre, masque);
+                montrer();
+                prevenir();
+            },
+            [this](int robot, int numero) { bureau_.modifier_le_trajet(robot, numero); });
     fenetre_->signaler_la_course(seance_.en_marche());
     fenetre_->show();
     fenetre_->raise();

@@ -16,14 +16,15 @@
 #include <utility>
 #include <vector>
 
+class Bureau;
 class FenetreAnalyse;
 
 /// Plays the whole match anew after whatever changes it, once for several changes, when nothing
 /// runs and no box is open; shows the verdict in a line, the match and its findings in a window.
 class Verdict final : private Ecouteur {
 public:
-    Verdict(QWidget& principale, Seance& seance);
-    ~Verdict();
+    Verdict(QWidget& principale, Seance& seance, Bureau& bureau);
+    ~Verdict() override;
 
     /// To be placed, shown and hidden by the main window.
     LigneVerdict& ligne() { return ligne_; }
@@ -59,6 +60,7 @@ private:
 
     QWidget& principale_;
     Seance& seance_;
+    Bureau& bureau_;
     LigneVerdict& ligne_;
     QTimer attente_, mesure_;
     bool attendu_ = false; ///< something changed since the match was played

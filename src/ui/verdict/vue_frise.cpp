@@ -220,9 +220,10 @@ void VueFrise::mouseReleaseEvent(QMouseEvent* evenement) {
 
 // Its first click has put the cursor there.
 void VueFrise::mouseDoubleClickEvent(QMouseEvent* evenement) {
-    if (evenement->button() != Qt::LeftButton || contenu_.analyse == nullptr ||
-        action_en(evenement->position()) != nullptr)
+    if (evenement->button() != Qt::LeftButton || contenu_.analyse == nullptr)
         return;
+    if (const ActionJouee* const action = action_en(evenement->position()))
+        return au_segment(places().robot_en(evenement->position().y()), action->numero);
     au_curseur(avant_);
     ajuster();
 }

@@ -11,14 +11,16 @@
 
 /// The timeline of a computed match: a lane a robot, a segment an action, the findings, a time axis
 /// and a cursor. The wheel zooms at the mouse, the middle button pans, a double click where no
-/// action is shows all; the left button puts the cursor and chooses the robot.
+/// action is shows all, one on an action asks for its editor; the left button puts the cursor and
+/// chooses the robot.
 class VueFrise final : public QWidget {
 public:
     /// @param d  where the cursor is; it belongs to the window
     VueFrise(const Deroulement& d, QWidget* parent);
 
-    std::function<void(std::int32_t temps)> au_curseur; ///< the user puts the cursor there
-    std::function<void(int robot)> au_robot;            ///< the user chooses this lane
+    std::function<void(std::int32_t temps)> au_curseur;    ///< the user puts the cursor there
+    std::function<void(int robot)> au_robot;               ///< the user chooses this lane
+    std::function<void(int robot, int numero)> au_segment; ///< wants to change this action
 
     /// Another match or other findings: scale and place stay. The analysis is the caller's.
     /// @param e  the state that the match was played from
