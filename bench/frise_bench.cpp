@@ -63,7 +63,7 @@ struct Banc {
     Sim1 sim{dossier, [](int) {}};
     std::unique_ptr<Etat> e;
     Analyse a;
-    FenetreAnalyse fenetre{nullptr, [](Genre, bool) {}};
+    FenetreAnalyse fenetre{nullptr, [](Genre, bool) {}, [](int, int) {}};
 };
 
 /// One movement of the mouse on the time axis, until it is on the screen, against a full repaint.
