@@ -69,7 +69,7 @@ TEST_F(SurLaTable, les_robots_sont_lisibles_et_ne_laissent_rien_derriere_eux) {
     demarrer();
     touche(Qt::Key_T);
     const auto rempli = [this](double x, double y) { return pixel(x, y) != vert; };
-    EXPECT_TRUE(rempli(35, 36));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rempli(35, 36); }));
     seance().moteur().Run_Jeu();
     for (int tick = 0; tick < 120; ++tick)
         seance().moteur().Timer_Timer();

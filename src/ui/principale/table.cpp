@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTimer>
 
 #include <cmath>
 #include <cstring>
@@ -14,7 +15,8 @@
 
 namespace {
 
-constexpr int bord_du_trait = 2; ///< logical pixels that a line reaches beyond its end points
+constexpr int remplir_apres_ms = 20; ///< the first painting has outlines alone: it is to be quick
+constexpr int bord_du_trait = 2;     ///< logical pixels that a line reaches beyond its end points
 
 void regler(Surface& s, const Etat& e) {
     s.coordonnees(-marge_table, e.YMax + marge_table, e.XMax + marge_table, -marge_table);
@@ -197,7 +199,8 @@ void Table::peindre_directement(QPainter& peintre) {
     SurfaceQt surface(peintre, size());
     regler(surface, e);
     peindre_table(e, surface, Echelle);
-    peindre_contours(peintre);
+    for (const Contours::Trait& t : contours_)
+        surface.ligne(t.x1, t.y1, t.x2, t.y2, t.couleur);
 }
 
 void Table::effacer_robots() {
@@ -225,6 +228,8 @@ void Table::calculer_rectangles() {
         const QRectF boite = r.boite(t.x1, t.y1, t.x2, t.y2);
         ajouter_rectangle(boite);
     }
+    if (e.en_course) // what is painted then lies within the outline
+        return;
     for (const PoseDessinee& p : poses_)
         for (const Forme& forme : silhouettes_[static_cast<std::size_t>(p.robot)].formes())
             if (const QRectF boite = r.boite(placee(forme, p.x, p.y, p.cap)); !boite.isEmpty())
@@ -271,7 +276,8 @@ void Table::paintEvent(QPaintEvent* evenement) {
         peintre.drawImage(rect(), image_);
     else if (meme_table()) {
         peindre_directement(peintre);
-        peinte_ = true;
+        if (!std::exchange(peinte_, true) && !poses_.empty())
+            QTimer::singleShot(remplir_apres_ms, this, [this] { update(); });
     } else // before the first drawing
         peintre.fillRect(evenement->rect(), palette().window());
     if (par_dessus)
