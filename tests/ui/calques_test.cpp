@@ -89,6 +89,8 @@ TEST_F(SurLaTable, la_place_du_pointeur_se_lit_et_se_copie_et_le_logo_s_efface) 
         return c.red() < 60 && c.blue() < 60 && std::abs(c.green() - vert.green()) < 40;
     };
     EXPECT_TRUE(QTest::qWaitFor([&] { return !fantome(); })) << "its picture comes late";
+    const auto& verdict = trouver<QAbstractButton>("verdict"); // which takes the lines' place
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !verdict.text().isEmpty(); }));
     QTest::mouseMove(&table(), en(120, 80));
     const auto lue = [this] { return trouver("position_pointeur").accessibleDescription(); };
     EXPECT_EQ(lue(), "x = 120 cm, y = 80 cm");
