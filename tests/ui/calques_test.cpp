@@ -83,12 +83,13 @@ TEST_F(SurLaTable, les_robots_sont_lisibles_et_ne_laissent_rien_derriere_eux) {
 
 TEST_F(SurLaTable, la_place_du_pointeur_se_lit_et_se_copie_et_le_logo_s_efface) {
     demarrer();
-    touche(Qt::Key_T);
     const auto fantome = [this] { // the mouse goes through a ghost
         return trouver("logo").testAttribute(Qt::WA_TransparentForMouseEvents);
     };
     const auto& verdict = trouver<QAbstractButton>("verdict"); // which takes the lines' place
     EXPECT_TRUE(QTest::qWaitFor([&] { return !verdict.text().isEmpty(); }));
+    EXPECT_TRUE(fantome()) << "the trace is shown";
+    touche(Qt::Key_T);
     EXPECT_FALSE(fantome());
     QTest::mouseMove(&table(), en(120, 80));
     const auto lue = [this] { return trouver("position_pointeur").accessibleDescription(); };
