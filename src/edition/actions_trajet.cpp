@@ -1,9 +1,23 @@
 #include "edition/actions_trajet.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 
 namespace {
+
+float nombre_usuel(actions::Unite unite) {
+    switch (unite) {
+    case actions::Unite::cm:
+        return 20;
+    case actions::Unite::degres:
+        return 90;
+    case actions::Unite::centiemes:
+        return 100;
+    default:
+        return 0;
+    }
+}
 
 Choix a_partir_de(std::size_t premier, std::size_t nombre) {
     Choix choix(nombre);
@@ -12,6 +26,24 @@ Choix a_partir_de(std::size_t premier, std::size_t nombre) {
 }
 
 } // namespace
+
+Fiche action_usuelle(const actions::Action& action) {
+    constexpr std::array<float, 3> depart{100, 30, 0};
+    Fiche f{std::string(action.nom.sans_blancs()), {}, ""};
+    for (std::size_t i = 0; i < action.parametres.size(); ++i)
+        f.v[i] = action.genre == actions::Genre::depart ? depart.at(i)
+                                                        : nombre_usuel(action.parametres.at(i));
+    return f;
+}
+
+Fiche action_changee(const Fiche& avant, const actions::Action& en) {
+    const actions::Action* const de = actions::trouver(Nom10(avant.cle));
+    Fiche f = action_usuelle(en);
+    for (std::size_t i = 0; de != nullptr && i < en.parametres.size(); ++i)
+        if (de->parametres.at(i) == en.parametres.at(i))
+            f.v[i] = avant.v[i];
+    return f;
+}
 
 std::string copier(const DocumentTrajet& trajet, const Choix& choix) {
     std::string lignes;

@@ -2,6 +2,7 @@
 
 #include "config/document_trajet.h"
 #include "edition/choix.h"
+#include "sim/actions.h"
 
 #include <string>
 #include <string_view>
@@ -9,6 +10,11 @@
 // What the table of actions does to a trajectory. Records are chosen by their indices in increasing
 // order; each function leaves the document as it was when it throws. Undoing is keeping the
 // document from before: it is a value.
+
+/// An action that is put in, with usual numbers.
+Fiche action_usuelle(const actions::Action& action);
+/// Another action in the place of one: it keeps the numbers that measure the same thing.
+Fiche action_changee(const Fiche& avant, const actions::Action& en);
 
 /// The chosen records as lines of a trajectory file, with their comments: UTF-8, CR LF.
 std::string copier(const DocumentTrajet& trajet, const Choix& choix);

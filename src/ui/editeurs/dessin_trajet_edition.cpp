@@ -19,24 +19,6 @@
 
 #include <numeric>
 
-namespace {
-
-/// The usual numbers of an action that is put in.
-Fiche action_usuelle(const actions::Action& a) {
-    constexpr std::array<float, 3> depart{100, 30, 0};
-    Fiche f{std::string(a.nom.sans_blancs()), {}, ""};
-    for (std::size_t i = 0; i < a.parametres.size(); ++i) {
-        const float usuel = a.parametres.at(i) == actions::Unite::cm       ? 20
-                            : a.parametres.at(i) == actions::Unite::degres ? 90
-                                                                           : 100;
-        if (a.parametres.at(i) != actions::Unite::aucune)
-            f.v[i] = a.genre == actions::Genre::depart ? depart.at(i) : usuel;
-    }
-    return f;
-}
-
-} // namespace
-
 void dessinTrajet::preparer_presse_papiers() {
     QMenu& m = menu_edition();
     action(m, "couper", "Co&uper", QKeySequence::Cut, [this] { couper(); });

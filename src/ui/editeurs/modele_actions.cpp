@@ -1,6 +1,7 @@
 #include "ui/editeurs/modele_actions.h"
 
 #include "analyse/verdict.h"
+#include "edition/actions_trajet.h"
 #include "sim/actions.h"
 #include "ui/commun/boites.h"
 #include "ui/commun/nombre.h"
@@ -56,24 +57,6 @@ QString avec_unite(const actions::Action& a, std::size_t i, int valeur) {
     }
 }
 
-/// A kept number suits the new action where it measures the same thing.
-Fiche changee_en(const Fiche& avant, const actions::Action& en) {
-    constexpr float distance = 20;
-    constexpr float angle = 90;
-    constexpr float duree = 100;
-    const actions::Action* const de = sorte(avant);
-    Fiche f{std::string(en.nom.sans_blancs()), {}, ""};
-    for (std::size_t i = 0; i < en.parametres.size(); ++i) {
-        const bool meme = de != nullptr && de->parametres.at(i) == en.parametres.at(i);
-        const float usuel = en.parametres.at(i) == actions::Unite::cm       ? distance
-                            : en.parametres.at(i) == actions::Unite::degres ? angle
-                                                                            : duree;
-        if (en.parametres.at(i) != actions::Unite::aucune)
-            f.v[i] = meme ? avant.v[i] : usuel;
-    }
-    return f;
-}
-
 int alignement(int colonne) {
     const bool a_droite = colonne == ModeleActions::numero || colonne == ModeleActions::debut ||
                           colonne == ModeleActions::fin;
@@ -85,7 +68,7 @@ ModeleActions::Lecture lire_action(const Fiche& avant, const QString& texte) {
     const actions::Action* const en = mot.empty() ? nullptr : actions::trouver(Nom10(mot));
     if (en == nullptr)
         return {std::nullopt, QString("« %1 » n'est pas une action").arg(texte.trimmed())};
-    return {en == sorte(avant) ? avant : changee_en(avant, *en), {}};
+    return {en == sorte(avant) ? avant : action_changee(avant, *en), {}};
 }
 
 } // namespace

@@ -30,7 +30,6 @@ public:
     Lecture lire(const QModelIndex& index, const QString& texte) const;
     /// Why the first text that could not be taken is refused, with its line; empty without one.
     QString en_suspens() const;
-    void oublier_les_suspens() { suspens_.clear(); }
     QColor alerte() const;
     /// What is to be said about that row; empty: nothing.
     QString remarque_de(std::size_t i) const;
