@@ -31,7 +31,7 @@ std::string_view sans_fin(std::string_view ligne) {
 }
 
 bool est_une_constante(std::string_view ligne) {
-    return minuscules(ligne).find("const num_menu_max") != std::string::npos;
+    return contient_sans_casse(en_utf8(std::string(ligne)), "const num_menu_max");
 }
 
 // Every line of `petit`, byte for byte and in order, among those of `grand`. A last line may gain
@@ -43,7 +43,7 @@ bool lignes_conservees(std::string_view petit, std::string_view grand) {
         const bool ouverte = sans_fin(ligne).size() == ligne.size();
         const bool constante = est_une_constante(ligne);
         while (i != lignes.end() && *i != ligne && !(ouverte && sans_fin(*i) == ligne) &&
-               !(constante && i->starts_with("Const NUM_MENU_MAX = ")))
+               !(constante && i->find("Const NUM_MENU_MAX = ") != std::string_view::npos))
             ++i;
         if (i == lignes.end())
             return false;
