@@ -1,5 +1,6 @@
 #include "cli/ligne_de_commande.h"
 
+#include "base/version.h"
 #include "cli/flux.h"
 #include "cli/francais.h"
 #include "cli/sortie.h"
@@ -16,7 +17,8 @@ constexpr int code_usage = 2;
 
 int executer(int argc, char** argv, const ProgrammeDeLigne& programme) {
     CLI::App app("Tavolmex : simulateur de robot de concours, en ligne de commande", programme.nom);
-    app.set_version_flag("--version", programme.nom + " " TAVOLMEX_VERSION, "Affiche la version");
+    app.set_version_flag("--version", programme.nom + " " + version_du_programme(),
+                         "Affiche la version");
     app.require_subcommand(1);
     int code = 0;
     for (const auto declarer :

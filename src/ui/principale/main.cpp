@@ -1,3 +1,4 @@
+#include "base/version.h"
 #include "base/visible.h"
 #include "ui/feuille/exporter_sans_affichage.h"
 #include "ui/principale/application.h"
@@ -34,7 +35,7 @@ int executer(int argc, char** argv) {
     app.add_option("--dossier", dossier,
                    "Dossier de l'application (celui qui contient Configuration)")
         ->type_name("DOSSIER");
-    app.set_version_flag("--version", "tavolmex " TAVOLMEX_VERSION, "Affiche la version");
+    app.set_version_flag("--version", "tavolmex " + version_du_programme(), "Affiche la version");
     app.set_help_flag("-h,--help", "Affiche cette aide");
     app.get_formatter()->label("Usage", "Utilisation ");
     try {
