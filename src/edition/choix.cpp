@@ -28,6 +28,13 @@ Choix apres_cadre(const Choix& choix, const Choix& contenus, bool en_plus) {
     return apres;
 }
 
+void joindre(Choix& choix, std::size_t nouveau) {
+    const auto place = std::lower_bound(choix.begin(), choix.end(), nouveau);
+    for (auto i = place; i != choix.end(); ++i)
+        ++*i;
+    choix.insert(place, nouveau);
+}
+
 void retirer(Document& document, const Choix& choix) {
     for (auto i = choix.rbegin(); i != choix.rend(); ++i)
         document.retirer(*i);

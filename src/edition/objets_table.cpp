@@ -1,6 +1,9 @@
 #include "edition/objets_table.h"
 
+#include "edition/presse_papiers.h"
+
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -41,10 +44,11 @@ Vecteur vers_le_bord(const Bornes& b, const Bornes& tout, Bord bord) {
     return {0, tout.milieu().y - b.milieu().y};
 }
 
-/// The indices after a record was put in at `place`.
-void faire_place(Choix& choix, std::size_t place) {
-    for (std::size_t& i : choix)
-        i += i >= place ? 1 : 0;
+bool presente(const DocumentTable& table, const Fiche& f) {
+    for (std::size_t i = 0; i < table.nombre(); ++i)
+        if (table[i] == f)
+            return true;
+    return false;
 }
 
 bool est_une_zone(const Fiche& f) {
@@ -82,6 +86,7 @@ std::optional<std::size_t> objet_sous(const DocumentTable& table, Vecteur cm, do
 }
 
 std::size_t creer(DocumentTable& table, Fiche objet) {
+    objet = DocumentTable::normaliser(std::move(objet));
     if (formes::sans_etendue(objet))
         throw ErreurExecution("Un objet sans étendue ne se verrait pas : tracez-le plus grand");
     return table.ajouter(std::move(objet));
@@ -89,13 +94,32 @@ std::size_t creer(DocumentTable& table, Fiche objet) {
 
 Choix dupliquer(DocumentTable& table, const Choix& choix, double ecart) {
     Choix copies;
-    for (const Fiche& objet : objets_de(table, choix)) {
-        const std::size_t i = table.ajouter(formes::deplacee(objet, ecart, ecart));
-        faire_place(copies, i);
-        copies.push_back(i);
-    }
-    std::sort(copies.begin(), copies.end());
+    for (const Fiche& objet : objets_de(table, choix))
+        joindre(copies, table.ajouter(formes::deplacee(objet, ecart, ecart)));
     return copies;
+}
+
+std::string copier(const DocumentTable& table, const Choix& choix) {
+    std::string lignes;
+    for (const Fiche& f : objets_de(table, choix))
+        lignes.append(ligne_de(f, nombre_de_champs(f.cle))).append(RetourLigne);
+    return lignes;
+}
+
+Choix coller(DocumentTable& table, std::string_view lignes, double ecart) {
+    // A disc's radius ends with its own line, whatever line was copied before it.
+    std::vector<Fiche> objets = lire_fiches(lignes, [](std::string_view ligne) {
+        return GrammaireTable(std::ssize(ligne)).lire(ligne);
+    });
+    std::erase_if(objets, [](const Fiche& f) { return f.cle == "M"; });
+    while (std::any_of(objets.begin(), objets.end(),
+                       [&](const Fiche& f) { return presente(table, f); }))
+        for (Fiche& f : objets)
+            f = formes::deplacee(f, ecart, ecart);
+    Choix nouveaux;
+    for (Fiche& f : objets)
+        joindre(nouveaux, table.ajouter(std::move(f)));
+    return nouveaux;
 }
 
 bool deplacer(DocumentTable& table, const Choix& choix, Vecteur ecart) {
@@ -142,6 +166,8 @@ Choix regler_legende(DocumentTable& table, Choix choix, const std::string& texte
             return choix;
         }
     }
-    faire_place(choix, table.ajouter(legende));
+    const std::size_t place = table.ajouter(legende);
+    for (std::size_t& i : choix)
+        i += i >= place ? 1 : 0;
     return choix;
 }

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 // What the table editor does to a table. Undoing is keeping the document from before: it is a
 // value. A caption among the chosen records stays as it is.
@@ -25,6 +26,12 @@ std::optional<std::size_t> objet_sous(const DocumentTable& table, Vecteur cm, do
 std::size_t creer(DocumentTable& table, Fiche objet);
 /// Copies beside the originals (cm to the right and up). @returns them @throws when a kind is full
 Choix dupliquer(DocumentTable& table, const Choix& choix, double ecart);
+/// The chosen records, without captions, as lines of a table file: CR LF.
+std::string copier(const DocumentTable& table, const Choix& choix);
+/// Puts lines of a table file in, where they say, or beside what is there already: some cm to the
+/// right and up. A caption is left out. @returns the new records
+/// @throws LigneRefusee for a line that is no record; ErreurExecution when a kind is full
+Choix coller(DocumentTable& table, std::string_view lignes, double ecart);
 /// Moves records together, as far as the table's file can say. @returns false when that is nowhere
 bool deplacer(DocumentTable& table, const Choix& choix, Vecteur ecart);
 /// Moves each to an edge, or the middle, of the box around all of them.

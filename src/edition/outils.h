@@ -5,7 +5,7 @@
 #include <string>
 
 /// What a tool of the palette draws.
-enum class FormeOutil { selection, boite, cercle, horizontale, verticale, libre, legende };
+enum class FormeOutil { selection, boite, cercle, horizontale, verticale, libre, brisee, legende };
 
 /// The size of what a click places (cm, degrees).
 struct Tailles {

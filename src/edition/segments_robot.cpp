@@ -1,5 +1,7 @@
 #include "edition/segments_robot.h"
 
+#include "edition/presse_papiers.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -81,6 +83,26 @@ Choix dupliquer(DocumentRobot& robot, const Choix& choix, double ecart) {
     for (const std::size_t i : segments(robot, choix))
         copies.push_back(deplace(robot[i], {ecart, ecart}));
     return ajouter(robot, copies);
+}
+
+std::string copier(const DocumentRobot& robot, const Choix& choix) {
+    std::string lignes;
+    for (const std::size_t i : segments(robot, choix))
+        lignes.append(ligne_de(robot[i], champs_robot("R"))).append(RetourLigne);
+    return lignes;
+}
+
+Choix coller(DocumentRobot& robot, std::string_view lignes, double ecart) {
+    std::vector<Fiche> nouveaux = lire_fiches(lignes, fiche_robot);
+    std::erase_if(nouveaux, [](const Fiche& f) { return f.cle != "R"; });
+    const auto present = [&](const Fiche& f) {
+        const Choix tous = segments(robot);
+        return std::any_of(tous.begin(), tous.end(), [&](std::size_t i) { return robot[i] == f; });
+    };
+    while (std::any_of(nouveaux.begin(), nouveaux.end(), present))
+        for (Fiche& f : nouveaux)
+            f = deplace(f, {ecart, ecart});
+    return ajouter(robot, nouveaux);
 }
 
 void deplacer(DocumentRobot& robot, const Choix& choix, Vecteur ecart) {

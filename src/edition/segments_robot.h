@@ -20,6 +20,11 @@ std::optional<std::size_t> segment_sous(const DocumentRobot& robot, Vecteur cm, 
 std::size_t creer(DocumentRobot& robot, Fiche ligne);
 /// Copies beside the originals. @returns them @throws beyond 50 segments
 Choix dupliquer(DocumentRobot& robot, const Choix& choix, double ecart);
+/// The chosen segments as lines of a robot file: CR LF.
+std::string copier(const DocumentRobot& robot, const Choix& choix);
+/// Puts the segments of a robot file's lines in, where they say, or beside what is there already.
+/// @returns them @throws LigneRefusee for a line that is no record; ErreurExecution beyond 50
+Choix coller(DocumentRobot& robot, std::string_view lignes, double ecart);
 void deplacer(DocumentRobot& robot, const Choix& choix, Vecteur ecart);
 /// Images of the chosen segments (all of them when none is chosen) about the axis through the
 /// reference point. What lies on the axis or has its image already is not doubled.

@@ -1,6 +1,5 @@
 #include "ui/commun/panneau_proprietes.h"
 
-#include <QPixmap>
 #include <QSignalBlocker>
 
 PanneauProprietes::PanneauProprietes(QWidget* parent)
@@ -50,11 +49,8 @@ void PanneauProprietes::refaire(const std::vector<Champ>& champs,
         sortes_ = new QComboBox;
         sortes_->setObjectName("sorte");
         sortes_->setAccessibleName("Sorte");
-        for (const Sorte& s : sortes) {
-            QPixmap pastille(14, 14);
-            pastille.fill(s.couleur);
-            sortes_->addItem(pastille, s.texte, s.cle);
-        }
+        for (const Sorte& s : sortes)
+            sortes_->addItem(s.image, s.texte, s.cle);
         connect(sortes_, &QComboBox::currentIndexChanged, this,
                 [this](int i) { a_la_sorte(sortes_->itemData(i).toString()); });
         lignes_->addRow("Sorte", sortes_);

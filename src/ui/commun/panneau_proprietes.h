@@ -2,10 +2,10 @@
 
 #include "ui/commun/nombre.h"
 
-#include <QColor>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QIcon>
 #include <QLabel>
 #include <QString>
 
@@ -23,7 +23,7 @@ public:
     };
     struct Sorte {
         QString cle, texte;
-        QColor couleur;
+        QIcon image;
     };
 
     explicit PanneauProprietes(QWidget* parent);

@@ -71,9 +71,11 @@ public:
 
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override {
-        if (objet == &fenetre_ && evenement->type() == QEvent::Show && !evenement->spontaneous())
+        if (objet != &fenetre_ || !fenetre_.isWindow()) // docked in another one
+            return false;
+        if (evenement->type() == QEvent::Show && !evenement->spontaneous())
             montrer();
-        if (objet == &fenetre_ && evenement->type() == QEvent::Hide)
+        if (evenement->type() == QEvent::Hide)
             retenir();
         return false;
     }

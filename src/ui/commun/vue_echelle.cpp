@@ -27,6 +27,11 @@ void VueEchelle::regler_grille(int pas) {
     update();
 }
 
+void VueEchelle::montrer_grille(bool oui) {
+    grille_montree_ = oui;
+    update();
+}
+
 void VueEchelle::ajuster() {
     cadrer();
     update();
@@ -53,7 +58,7 @@ void VueEchelle::faire_voir(QPointF cm) {
 }
 
 QPointF VueEchelle::aimanter(QPointF cm, Qt::KeyboardModifiers touches) const {
-    const double pas = grille_ == 0 || sans_grille(touches) ? 1 : grille_;
+    const double pas = grille_ == 0 || !accroche_ || sans_grille(touches) ? 1 : grille_;
     return {std::round(cm.x() / pas) * pas, std::round(cm.y() / pas) * pas};
 }
 
@@ -67,7 +72,7 @@ void VueEchelle::paintEvent(QPaintEvent*) {
     QPainter peintre(this);
     peintre.fillRect(rect(), palette().color(QPalette::Dark));
     peindre(peintre);
-    if (grille_ > 0)
+    if (grille_ > 0 && grille_montree_)
         peintre.drawPixmap(0, 0, fond_grille_.image(*this, {camera_, grille_}, [this](QPainter& p) {
             peindre_grille(p, camera_, grille_, size());
         }));

@@ -22,6 +22,9 @@ public:
     /// @param pas  1, 5 or 10 cm; 0: no grid is shown
     void regler_grille(int pas);
     int grille() const { return grille_; }
+    void montrer_grille(bool oui);
+    /// Without, whole centimetres.
+    void accrocher(bool oui) { accroche_ = oui; }
     /// Shows the whole drawing, and again whenever the window's size changes.
     void ajuster();
     void zoomer(double facteur, QPointF autour);
@@ -83,6 +86,8 @@ private:
     Camera camera_;
     Gestes gestes_;
     int grille_ = 5; ///< cm
+    bool grille_montree_ = true;
+    bool accroche_ = true; ///< what the mouse places is put onto the grid
     // Their many translucent lines cost more than the whole drawing.
     Couche<Quadrillage> fond_grille_;
     Couche<Camera> fond_regles_;

@@ -58,8 +58,11 @@ dessinRobot::dessinRobot(QWidget* parent, Foutil& outils, Programme programme)
     placer();
     connecter();
     preparer_menus();
+    preparer_presse_papiers();
     action(menu_edition(), "miroir", "Copie en &miroir", QKeySequence("Ctrl+M"),
            [this] { miroir(); });
+    preparer_barre({"annuler", "retablir", "", "zoom_plus", "zoom_moins", "ajuster", "", "grille",
+                    "accrocher"});
 }
 
 void dessinRobot::placer() {
@@ -95,6 +98,7 @@ void dessinRobot::connecter() {
     };
     vue_.au_deplacement = apercu_.au_deplacement = montrer_position;
     vue_.au_refus = [this](const std::string& raison) { boites_.message(raison); };
+    vue_.au_menu = [this](QPoint ecran) { montrer_menu_contextuel(ecran); };
     vue_.au_glissement = [this] {
         apercu_.montrer(vue_.montre());
         montrer_reglages();
@@ -204,6 +208,17 @@ void dessinRobot::dupliquer() {
     const Selection s = ::dupliquer(d, historique_.selection(), vue_.grille());
     if (!s.empty())
         historique_.changer("Dupliquer", std::move(d), s);
+}
+
+std::string dessinRobot::copier() const {
+    return ::copier(historique_.doc(), historique_.selection());
+}
+
+void dessinRobot::coller(const std::string& lignes) {
+    DocumentRobot d = historique_.doc();
+    const Selection s = ::coller(d, lignes, vue_.grille());
+    if (!s.empty())
+        historique_.changer("Coller", std::move(d), s);
 }
 
 void dessinRobot::miroir() {

@@ -31,6 +31,8 @@ protected:
     void dupliquer() override;
     void tout_choisir() override;
     void deplacer(double dx, double dy) override;
+    std::string copier() const override;
+    void coller(const std::string& lignes) override;
 
 private:
     void placer();

@@ -1,10 +1,10 @@
 #include "ui/editeurs/dessin_table.h"
 
 #include "ui/editeurs/formes.h"
+#include "ui/editeurs/icones_dessin.h"
 
 #include <QLabel>
 #include <QMenu>
-#include <QPainter>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -19,13 +19,6 @@ QString description(const Fiche& e) {
     for (std::size_t i = 0; i < nombre_de_champs(e.cle); ++i)
         texte += (i == 0 ? " " : ", ") + QString::number(e.entier(i));
     return texte;
-}
-
-QPixmap pastille(const Fiche& e) {
-    QPixmap image(12, 12);
-    image.fill(Qt::gray); // a frame: the list may be as white as the zone
-    QPainter(&image).fillRect(1, 1, 10, 10, formes::couleur(e.cle));
-    return image;
 }
 
 } // namespace
@@ -44,6 +37,10 @@ dessinTable::dessinTable(QWidget* parent, Foutil& outils, Programme programme)
     connecter();
     preparer_menus();
     preparer_edition();
+    preparer_menu_contextuel({"couper", "copier", "coller", "dupliquer", "supprimer", "", "avancer",
+                              "reculer", "aligner", "", "tout", "verrouiller"});
+    preparer_barre({"annuler", "retablir", "", "zoom_plus", "zoom_moins", "ajuster", "", "grille",
+                    "accrocher", "", "aligner"});
 }
 
 void dessinTable::placer() {
@@ -78,6 +75,7 @@ void dessinTable::connecter() {
             QString("x = %1  y = %2 cm").arg(std::lround(cm.x())).arg(std::lround(cm.y())));
     };
     vue_.au_refus = [this](const std::string& raison) { refuser(raison); };
+    vue_.au_menu = [this](QPoint ecran) { montrer_menu_contextuel(ecran); };
     vue_.a_la_legende = [this] { legende_.setFocus(); };
     proprietes_.au_nombre = [this](std::size_t i, double valeur) { changer_nombre(i, valeur); };
     proprietes_.a_la_sorte = [this](const QString& cle) { changer_sorte(cle.toStdString()); };
@@ -87,6 +85,7 @@ void dessinTable::connecter() {
 
 void dessinTable::preparer_edition() {
     QMenu& m = menu_edition();
+    preparer_presse_papiers();
     action(m, "avancer", "Vers l'a&vant", QKeySequence("Ctrl+Up"), [this] { changer_plan(true); });
     action(m, "reculer", "Vers l'arri&ère", QKeySequence("Ctrl+Down"),
            [this] { changer_plan(false); });
@@ -100,6 +99,8 @@ void dessinTable::preparer_edition() {
 
 void dessinTable::preparer_alignement() {
     QMenu& m = *menu_edition().addMenu("A&ligner");
+    m.menuAction()->setObjectName("aligner");
+    m.setIcon(icone_commande("aligner"));
     struct Commande {
         const char *nom, *texte;
         Bord bord;
@@ -132,17 +133,6 @@ void dessinTable::rafraichir() {
     montrer_legende();
     montrer_liste();
     montrer_comptes();
-}
-
-void dessinTable::outil_change() {
-    const Outil& outil = outils_.en_main();
-    if (outil.forme == Outil::Forme::selection)
-        statusBar()->clearMessage();
-    else
-        statusBar()->showMessage(
-            QString(outil.texte) +
-            " : cliquer, ou tracer avec la souris (Alt ou Ctrl : sans la grille, "
-            "Maj : garder l'outil)");
 }
 
 void dessinTable::montrer_proprietes() {
@@ -179,7 +169,7 @@ void dessinTable::montrer_proprietes() {
         // A block's two kinds do not have the same numbers.
         if (cle == e.cle || sorte_table(cle)->nom != "blocs")
             sortes.push_back({QString::fromUtf8(cle.data(), qsizetype(cle.size())),
-                              formes::nom(cle), formes::couleur(cle)});
+                              formes::nom(cle), icone_objet(cle)});
     proprietes_.montrer(formes::nom(e.cle), champs, sortes, QString::fromStdString(e.cle));
 }
 
@@ -208,7 +198,7 @@ void dessinTable::montrer_liste() {
     const DocumentTable& d = historique_.doc();
     for (std::size_t i = 0; i < d.nombre(); ++i)
         if (d[i].cle != "M")
-            rangees.push_back({i, description(d[i]), [&d, i] { return QIcon(pastille(d[i])); }});
+            rangees.push_back({i, description(d[i]), [&d, i] { return icone_objet(d[i].cle); }});
     liste_.montrer(rangees, historique_.selection());
 }
 

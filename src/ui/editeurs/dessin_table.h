@@ -19,8 +19,6 @@ public:
     dessinTable(QWidget* parent, Foutil& outils, Programme programme);
 
     const DocumentTable& document() const { return historique_.doc(); }
-    /// The tool in hand changed.
-    void outil_change();
 
 protected:
     std::optional<RefusLecture> relire(const std::string& octets) const override;
@@ -29,6 +27,8 @@ protected:
     void dupliquer() override;
     void tout_choisir() override;
     void deplacer(double dx, double dy) override;
+    std::string copier() const override;
+    void coller(const std::string& lignes) override;
 
 private:
     void placer();

@@ -23,6 +23,17 @@ void dessinTable::dupliquer() {
         historique_.changer("Dupliquer", std::move(d), copies);
 }
 
+std::string dessinTable::copier() const {
+    return ::copier(historique_.doc(), historique_.selection());
+}
+
+void dessinTable::coller(const std::string& lignes) {
+    DocumentTable d = historique_.doc();
+    const Selection s = ::coller(d, lignes, vue_.grille());
+    if (!s.empty())
+        historique_.changer("Coller", std::move(d), s);
+}
+
 void dessinTable::tout_choisir() {
     historique_.choisir(vue_.prenables());
 }

@@ -25,7 +25,7 @@ dessinTrajet::dessinTrajet(QWidget* parent, Foutil& outils, Programme programme,
     connecter();
     regler_projet();
     preparer_menus();
-    preparer_presse_papiers();
+    preparer_edition();
     preparer_trajet();
     ecouter(seance.annonces());
 }

@@ -39,6 +39,8 @@ protected:
     void dupliquer() override;
     void tout_choisir() override;
     void deplacer(double dx, double dy) override;
+    std::string copier() const override;
+    void coller(const std::string& lignes) override;
 
 private:
     void projet_change(Lecture) override { regler_projet(); }
@@ -47,7 +49,7 @@ private:
 
     void placer();
     void connecter();
-    void preparer_presse_papiers();
+    void preparer_edition();
     void preparer_trajet();
     void preparer_insertion();
 
@@ -65,9 +67,6 @@ private:
     std::size_t place_d_insertion() const;
     void changer(const QString& nom, DocumentTrajet d, const Selection& s, int fusion = -1);
     void inserer(const std::string& cle);
-    void couper();
-    void copier();
-    void coller();
     void monter(bool vers_le_haut);
     void chercher();
     void retourner(const QString& nom, Retournement r);

@@ -11,20 +11,15 @@
 #include "ui/editeurs/dessin_trajet.h"
 #include "ui/editeurs/difference_trajet.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
 
 #include <numeric>
 
-void dessinTrajet::preparer_presse_papiers() {
+void dessinTrajet::preparer_edition() {
     QMenu& m = menu_edition();
-    action(m, "couper", "Co&uper", QKeySequence::Cut, [this] { couper(); });
-    action(m, "copier", "&Copier", QKeySequence::Copy, [this] { copier(); });
-    action(m, "coller", "C&oller", QKeySequence::Paste, [this] { coller(); });
-    m.addSeparator();
+    preparer_presse_papiers();
     action(m, "monter", "&Monter", QKeySequence("Alt+Up"), [this] { monter(true); });
     action(m, "descendre", "&Descendre", QKeySequence("Alt+Down"), [this] { monter(false); });
     m.addSeparator();
@@ -136,19 +131,11 @@ void dessinTrajet::deplacer(double dx, double dy) {
     changer("Décaler le départ", std::move(d), historique_.selection(), fusion_des_pas);
 }
 
-void dessinTrajet::couper() {
-    copier();
-    retirer();
+std::string dessinTrajet::copier() const {
+    return ::copier(historique_.doc(), historique_.selection());
 }
 
-void dessinTrajet::copier() {
-    if (const Selection& s = historique_.selection(); !s.empty())
-        QGuiApplication::clipboard()->setText(
-            QString::fromStdString(::copier(historique_.doc(), s)));
-}
-
-void dessinTrajet::coller() {
-    const std::string lignes = QGuiApplication::clipboard()->text().toStdString();
+void dessinTrajet::coller(const std::string& lignes) {
     DocumentTrajet d = historique_.doc();
     const Selection s = ::coller(d, place_d_insertion(), lignes);
     if (!s.empty())

@@ -8,6 +8,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QMenu>
 #include <QTimer>
 
 #include <filesystem>
@@ -15,6 +16,7 @@
 #include <optional>
 #include <string>
 
+class ColonnePalette;
 class Fenetres;
 class Foutil;
 class VueEchelle;
@@ -56,6 +58,13 @@ public:
     /// The leaving has happened: what is not saved goes.
     void partir();
 
+    /// The tool in hand changed.
+    void outil_change();
+    /// The palette, where it is docked, comes into this window.
+    void accueillir_palette();
+    /// The palette went elsewhere.
+    void suivre_palette();
+
     /// Offers the drawings that an earlier program did not save. @returns true when one was taken
     /// up
     bool proposer_reprise(Fenetres& f);
@@ -83,10 +92,19 @@ protected:
     virtual void dupliquer() = 0;
     virtual void tout_choisir() = 0;
     virtual void deplacer(double dx, double dy) = 0; ///< cm
+    /// What is chosen as lines of the file, for the clipboard.
+    virtual std::string copier() const = 0;
+    virtual void coller(const std::string& lignes) = 0;
 
     /// Lays the window out; then, at the end of the derived constructor, the menus.
     void assembler(Contenu contenu);
     void preparer_menus();
+    /// The commands of these names in a toolbar; "" parts them.
+    void preparer_barre(std::initializer_list<const char*> noms);
+    void preparer_presse_papiers();
+    /// The commands of these names for the right button; "" parts them.
+    void preparer_menu_contextuel(std::initializer_list<const char*> noms);
+    void montrer_menu_contextuel(QPoint ecran) { contextuel_.popup(ecran); }
     QAction* action(QMenu& menu, const char* nom, const QString& texte, const QKeySequence& touche,
                     std::function<void()> faire, Qt::ConnectionType quand = Qt::DirectConnection);
     QMenu& menu_edition() { return *menu_edition_; }
@@ -117,6 +135,8 @@ private:
     void preparer_edition();
     void preparer_pas();
     void preparer_affichage();
+    void preparer_grille(QMenu& affichage);
+    QAction* commande_ou_trait(const QString& nom);
     bool peut_partir() { return preparer_depart(demander_depart()); }
     void nouveau();
     void choisir_un_fichier();
@@ -129,7 +149,9 @@ private:
     Programme programme_;
     Description description_;
     std::optional<Contenu> contenu_;
+    ColonnePalette* colonne_ = nullptr; ///< none where the palette draws nothing
     QMenu* menu_edition_ = nullptr;
+    QMenu contextuel_{this};
     std::filesystem::path chemin_; ///< empty: never saved
     std::string sur_le_disque_;
     std::string refuses_; ///< another program's bytes that the user did not want

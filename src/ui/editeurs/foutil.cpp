@@ -2,98 +2,46 @@
 
 #include "ui/commun/touches_annulation.h"
 #include "ui/editeurs/formes.h"
+#include "ui/editeurs/icones_dessin.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDrag>
 #include <QFormLayout>
 #include <QGridLayout>
-#include <QGroupBox>
+#include <QLabel>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QPainter>
+#include <QSettings>
 #include <QVBoxLayout>
 
+#include <string_view>
 #include <utility>
 
 namespace {
 
-constexpr int cote_icone = 26;
+constexpr auto cle_ancrage = "palette_ancree";
 
-// Two letters share each of white and black.
-void dessiner_lettre(QPainter& p, const Outil& outil) {
-    const bool sombre = formes::couleur(outil.cle).lightness() < 140;
-    p.setPen(sombre ? Qt::white : Qt::black);
-    QFont police = p.font();
-    police.setPixelSize(12);
-    p.setFont(police);
-    p.drawText(QRectF(0, 0, cote_icone, cote_icone), Qt::AlignCenter, outil.cle);
-}
-
-void dessiner_forme(QPainter& p, const Outil& outil) {
-    const QRectF r(3.5, 5.5, cote_icone - 7, cote_icone - 11);
-    const bool contour = QByteArray(outil.cle).startsWith('D');
-    p.setBrush(contour || outil.forme == Outil::Forme::selection ? QBrush(Qt::NoBrush)
-                                                                 : formes::couleur(outil.cle));
-    const QColor encre = QApplication::palette().color(QPalette::ButtonText);
-    p.setPen(QPen(encre, 1, contour ? Qt::DotLine : Qt::SolidLine));
-    const QPointF c = r.center();
-    switch (outil.forme) {
-    case Outil::Forme::boite:
-        if (QByteArray(outil.cle) == "LE")
-            return p.drawEllipse(r);
-        p.drawRect(r);
-        return contour ? void() : dessiner_lettre(p, outil);
-    case Outil::Forme::cercle:
-        p.drawEllipse(c, 9, 9);
-        return outil.cle[1] == 0 ? dessiner_lettre(p, outil) : void();
-    case Outil::Forme::horizontale:
-        return p.drawLine(QPointF(3, c.y()), QPointF(cote_icone - 3, c.y()));
-    case Outil::Forme::verticale:
-        return p.drawLine(QPointF(c.x(), 3), QPointF(c.x(), cote_icone - 3));
-    case Outil::Forme::libre:
-        return p.drawLine(QPointF(4, cote_icone - 5), QPointF(cote_icone - 4, 5));
-    case Outil::Forme::legende:
-        return p.drawText(QRectF(0, 0, cote_icone, cote_icone), Qt::AlignCenter, "Abc");
-    case Outil::Forme::selection:
-        static constexpr QPointF fleche[] = {{8, 4},   {8, 21},  {12, 17}, {15, 23},
-                                             {18, 22}, {15, 16}, {20, 15}};
-        p.setBrush(encre);
-        p.drawPolygon(fleche, 7);
-    }
-}
-
-QPixmap image(const Outil& outil) {
-    const double densite = qApp->devicePixelRatio();
-    QPixmap pixmap(QSize(cote_icone, cote_icone) * densite);
-    pixmap.setDevicePixelRatio(densite);
-    pixmap.fill(Qt::transparent);
-    QPainter p(&pixmap);
-    p.setRenderHint(QPainter::Antialiasing);
-    dessiner_forme(p, outil);
-    return pixmap;
+QLabel* titre(const char* texte) {
+    auto* label = new QLabel(texte);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    return label;
 }
 
 } // namespace
 
 BoutonOutil::BoutonOutil(const Outil& outil, QWidget* parent) : QToolButton(parent), outil_(outil) {
     setObjectName(outil.nom);
+    setText(outil.legende);
     setToolTip(outil.texte);
     setAccessibleName(outil.texte);
-    setIcon(image(outil));
+    setIcon(icone_outil(outil));
     setIconSize({cote_icone, cote_icone});
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setMaximumHeight(cote_icone + 5);
+    setAutoRaise(true);
     setCheckable(true);
-}
-
-// The tool in hand is seen at a glance, on a dark screen too.
-void BoutonOutil::paintEvent(QPaintEvent* evenement) {
-    QToolButton::paintEvent(evenement);
-    if (!isChecked())
-        return;
-    QPainter p(this);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    p.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 3, 3);
 }
 
 void BoutonOutil::mousePressEvent(QMouseEvent* evenement) {
@@ -113,7 +61,7 @@ void BoutonOutil::mouseMoveEvent(QMouseEvent* evenement) {
     auto* donnees = new QMimeData;
     donnees->setData(format, outil_.nom);
     drag->setMimeData(donnees);
-    drag->setPixmap(image(outil_));
+    drag->setPixmap(icone_outil(outil_).pixmap(iconSize(), devicePixelRatio()));
     drag->setHotSpot({cote_icone / 2, cote_icone / 2});
     drag->exec(Qt::CopyAction);
 }
@@ -121,26 +69,27 @@ void BoutonOutil::mouseMoveEvent(QMouseEvent* evenement) {
 const std::vector<Outil>& Foutil::outils() {
     using F = Outil::Forme;
     static const std::vector<Outil> liste{
-        {"outil_Selection", "Choisir et déplacer", "", F::selection},
-        {"outil_M", "Légende", "M", F::legende},
-        {"outil_L", "Zone L (blanc)", "L", F::boite},
-        {"outil_O", "Zone O (rouge)", "O", F::boite},
-        {"outil_V", "Zone V (noir)", "V", F::boite},
-        {"outil_T", "Zone T (vert)", "T", F::boite},
-        {"outil_U", "Zone U (blanc)", "U", F::boite},
-        {"outil_W", "Zone W (noir)", "W", F::boite},
-        {"outil_PB", "Pièce PB (blanc)", "PB", F::cercle},
-        {"outil_PN", "Pièce PN (noir)", "PN", F::cercle},
-        {"outil_BJ", "Pièce BJ (jaune)", "BJ", F::cercle},
-        {"outil_BB", "Pièce BB (bleu)", "BB", F::cercle},
-        {"outil_X", "Balise gauche", "X", F::cercle},
-        {"outil_Y", "Balise droite", "Y", F::cercle},
-        {"outil_Horizontale", "Ligne horizontale", "LN", F::horizontale},
-        {"outil_Verticale", "Ligne verticale", "LN", F::verticale},
-        {"outil_Ligne", "Ligne libre, selon l'incidence", "LN", F::libre},
-        {"outil_DC", "Bloc rectangulaire", "DC", F::boite},
-        {"outil_DR", "Bloc disque", "DR", F::cercle},
-        {"outil_LE", "Ellipse", "LE", F::boite},
+        {"outil_Selection", "Choisir et déplacer", "Choisir", "", "", F::selection},
+        {"outil_M", "Légende", "Légende", "", "M", F::legende},
+        {"outil_L", "Zone L (blanc)", "L blanc", "Zones", "L", F::boite},
+        {"outil_O", "Zone O (rouge)", "O rouge", "Zones", "O", F::boite},
+        {"outil_V", "Zone V (noir)", "V noir", "Zones", "V", F::boite},
+        {"outil_T", "Zone T (vert)", "T vert", "Zones", "T", F::boite},
+        {"outil_U", "Zone U (blanc)", "U blanc", "Zones", "U", F::boite},
+        {"outil_W", "Zone W (noir)", "W noir", "Zones", "W", F::boite},
+        {"outil_PB", "Pièce PB (blanc)", "PB blanc", "Pièces et balises", "PB", F::cercle},
+        {"outil_PN", "Pièce PN (noir)", "PN noir", "Pièces et balises", "PN", F::cercle},
+        {"outil_BJ", "Pièce BJ (jaune)", "BJ jaune", "Pièces et balises", "BJ", F::cercle},
+        {"outil_BB", "Pièce BB (bleu)", "BB bleu", "Pièces et balises", "BB", F::cercle},
+        {"outil_X", "Balise gauche", "X gauche", "Pièces et balises", "X", F::cercle},
+        {"outil_Y", "Balise droite", "Y droite", "Pièces et balises", "Y", F::cercle},
+        {"outil_Horizontale", "Ligne horizontale", "Horizontale", "Lignes", "LN", F::horizontale},
+        {"outil_Verticale", "Ligne verticale", "Verticale", "Lignes", "LN", F::verticale},
+        {"outil_Ligne", "Ligne libre, selon l'incidence", "Libre", "Lignes", "LN", F::libre},
+        {"outil_LigneBrisee", "Ligne brisée, de clic en clic", "Brisée", "Lignes", "LN", F::brisee},
+        {"outil_DC", "Bloc rectangulaire", "Rectangle", "Blocs et ellipses", "DC", F::boite},
+        {"outil_DR", "Bloc disque", "Disque", "Blocs et ellipses", "DR", F::cercle},
+        {"outil_LE", "Ellipse", "Ellipse", "Blocs et ellipses", "LE", F::boite},
     };
     return liste;
 }
@@ -152,11 +101,15 @@ const Outil* Foutil::outil(const QString& nom) {
     return nullptr;
 }
 
-Foutil::Foutil(QWidget* parent) : QWidget(parent, Qt::Tool) {
+Foutil::Foutil(QWidget* parent)
+    : QWidget(parent, Qt::Tool),
+      bureau_(parent),
+      ancree_(QSettings().value(cle_ancrage, true).toBool()) {
     nommer();
     placer();
     connecter();
     connecter_touches();
+    montrer_ancrage();
     reposer();
 }
 
@@ -169,6 +122,8 @@ void Foutil::nommer() {
     chx_dessinRobot.setObjectName("chx_dessinRobot");
     chx_dessinRobot.setText("Dessin du robot");
     chx_dessinRobot.setToolTip("Ouvre l'éditeur de robot.");
+    ancrage_.setObjectName("ancrage");
+    ancrage_.setAutoRaise(true);
     struct Taille {
         NombreEntier& champ;
         const char *nom, *unite, *bulle;
@@ -191,19 +146,29 @@ void Foutil::nommer() {
 }
 
 QWidget* Foutil::placer_outils() {
-    auto* boite = new QGroupBox("Outils");
+    auto* boite = new QWidget;
     auto* grille = new QGridLayout(boite);
-    grille->setSpacing(3);
-    // What chooses and writes, then a row of zones, of circles, and of lines and the rest.
-    constexpr int par_rangee = 6;
+    grille->setContentsMargins({});
+    grille->setSpacing(1);
+    constexpr int par_rangee = 2;
+    std::string_view groupe;
     int rang = 0;
     for (const Outil& o : outils()) {
+        const bool aux_robots =
+            o.forme == Outil::Forme::selection || o.cle == std::string_view("LN");
+        if (o.groupe != groupe) {
+            groupe = o.groupe;
+            rang += (par_rangee - rang % par_rangee) % par_rangee;
+            QLabel* au_dessus = titre(o.groupe);
+            grille->addWidget(au_dessus, rang / par_rangee, 0, 1, par_rangee);
+            rang += par_rangee;
+            if (!aux_robots)
+                de_la_table_.push_back(au_dessus);
+        }
         auto* bouton = new BoutonOutil(o, boite);
         groupe_.addButton(bouton);
-        if (o.forme != Outil::Forme::selection && o.cle != std::string_view("LN"))
+        if (!aux_robots)
             de_la_table_.push_back(bouton);
-        if (o.forme == Outil::Forme::boite && rang == 2)
-            rang = par_rangee;
         grille->addWidget(bouton, rang / par_rangee, rang % par_rangee);
         ++rang;
     }
@@ -212,8 +177,11 @@ QWidget* Foutil::placer_outils() {
 }
 
 QWidget* Foutil::placer_tailles() {
-    auto* boite = new QGroupBox("Tailles");
+    auto* boite = new QWidget;
     auto* lignes = new QFormLayout(boite);
+    lignes->setContentsMargins({});
+    lignes->setVerticalSpacing(3);
+    lignes->addRow(titre("Tailles"));
     lignes->addRow("&Largeur", &largeur);
     lignes->addRow("&Hauteur", &hauteur);
     lignes->addRow("&Rayon", &rayon);
@@ -229,10 +197,14 @@ QWidget* Foutil::placer_tailles() {
 void Foutil::placer() {
     auto* colonne = new QVBoxLayout(this);
     colonne->setSizeConstraint(QLayout::SetFixedSize);
-    colonne->addWidget(&chx_dessinTable);
-    colonne->addWidget(&chx_dessinRobot);
+    auto* tete = new QGridLayout;
+    tete->addWidget(&chx_dessinTable, 0, 0);
+    tete->addWidget(&chx_dessinRobot, 1, 0);
+    tete->addWidget(&ancrage_, 0, 1, Qt::AlignTop | Qt::AlignRight);
+    colonne->addLayout(tete);
     colonne->addWidget(placer_outils());
     colonne->addWidget(placer_tailles());
+    colonne->addStrut(colonne->minimumSize().width()); // as wide with a robot's few tools
 }
 
 // The palette has nothing to undo: the drawing it belongs to has.
@@ -242,10 +214,49 @@ void Foutil::connecter_touches() {
         action->setShortcuts(touches);
         connect(action, &QAction::triggered, this, [this, commande] { a_l_annulation(commande); });
         addAction(action);
+        touches_ << action;
     };
     relier("annuler", touches_d_annulation());
     relier("retablir", touches_de_retablissement());
     annuler_de_partout(*this);
+}
+
+void Foutil::montrer_ancrage() {
+    const QString quoi =
+        ancree_ ? "Détacher la palette de l'éditeur" : "Ancrer la palette dans l'éditeur";
+    ancrage_.setIcon(icone_commande(ancree_ ? "detacher" : "ancrer"));
+    ancrage_.setToolTip(quoi);
+    ancrage_.setAccessibleName(quoi);
+    for (QAction* a : touches_) // docked, the window it lies in has them
+        a->setEnabled(!ancree_);
+}
+
+void Foutil::ancrer(bool oui) {
+    ancree_ = oui;
+    QSettings().setValue(cle_ancrage, oui);
+    montrer_ancrage();
+    if (!oui) {
+        const QPoint ici = mapToGlobal(QPoint());
+        if (QScrollArea* place = std::exchange(place_, nullptr))
+            place->takeWidget();
+        setParent(bureau_, Qt::Tool);
+        move(ici);
+        show();
+    }
+    if (au_demenagement)
+        au_demenagement();
+}
+
+void Foutil::loger(QScrollArea& place) {
+    if (!ancree_ || place_ == &place)
+        return;
+    if (place_ != nullptr)
+        place_->takeWidget();
+    place_ = &place;
+    place.setWidget(this);
+    show();
+    if (au_demenagement)
+        au_demenagement();
 }
 
 // A robot's outline is made of lines alone.
@@ -259,6 +270,7 @@ void Foutil::montrer_outils(bool table) {
 
 void Foutil::connecter() {
     chx_dessinTable.setChecked(true);
+    connect(&ancrage_, &QToolButton::clicked, this, [this] { ancrer(!ancree_); });
     connect(&chx_dessinTable, &QRadioButton::toggled, this, [this](bool table) {
         montrer_outils(table);
         if (!suit_ && au_choix_du_dessin)

@@ -7,6 +7,7 @@
 #include <QButtonGroup>
 #include <QPointF>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QToolButton>
 #include <QWidget>
 
@@ -17,9 +18,11 @@
 /// One thing that the palette places.
 struct Outil {
     using Forme = FormeOutil;
-    const char* nom; ///< objectName of its button
-    const char* texte;
-    const char* cle; ///< key of the record that it makes
+    const char* nom;     ///< objectName of its button
+    const char* texte;   ///< its tool tip and its name for assistive tools
+    const char* legende; ///< on its button
+    const char* groupe;  ///< the heading over it in the palette
+    const char* cle;     ///< key of the record that it makes
     Forme forme;
 };
 
@@ -33,21 +36,23 @@ public:
 protected:
     void mousePressEvent(QMouseEvent* evenement) override;
     void mouseMoveEvent(QMouseEvent* evenement) override;
-    void paintEvent(QPaintEvent* evenement) override;
 
 private:
     const Outil& outil_;
     QPoint prise_;
 };
 
-/// The editors' palette: what is drawn (table or robot), the tools, the size of what they place.
+/// The editors' palette: what is drawn (table or robot), the tools, the size of what they place. It
+/// lies in the editor that is used, or floats as a window of its own.
 class Foutil final : public QWidget {
 public:
     explicit Foutil(QWidget* parent);
 
     std::function<void()> au_choix_du_dessin; ///< chx_dessinTable or chx_dessinRobot was chosen
     std::function<void()> au_choix_d_outil;
-    /// The keys of the drawing's command of that name ("annuler", "retablir") were pressed here.
+    std::function<void()> au_demenagement; ///< it went elsewhere
+    /// The keys of the drawing's command of that name ("annuler", "retablir") were pressed in its
+    /// window.
     std::function<void(const char* commande)> a_l_annulation;
 
     static const std::vector<Outil>& outils();
@@ -58,6 +63,13 @@ public:
     void reposer() { prendre(outils().front()); }
     /// Shows the tools of the drawing that the user has turned to; opens no window.
     void suivre(GenreFichier genre);
+
+    /// What the user likes, from then on and at the next start.
+    void ancrer(bool oui);
+    bool ancree() const { return ancree_; }
+    /// Docked, it moves there.
+    void loger(QScrollArea& place);
+    bool est_dans(const QScrollArea& place) const { return place_ == &place; }
 
     /// What a tool makes in one click: of the palette's sizes, about a point (cm).
     Fiche creer(const Outil& outil, QPointF centre) const;
@@ -70,12 +82,19 @@ public:
 private:
     void nommer();
     void placer();
+    void placer_ancrage();
+    void montrer_ancrage();
     QWidget* placer_outils();
     QWidget* placer_tailles();
     void montrer_outils(bool table);
     void connecter();
     void connecter_touches();
 
+    QWidget* bureau_; ///< whose window it is when it floats
+    QScrollArea* place_ = nullptr;
+    bool ancree_;
+    QToolButton ancrage_;
+    QList<QAction*> touches_; ///< of the drawing's commands while it floats
     const Outil* en_main_ = nullptr;
     int autre_longueur_ = 10; ///< of the lines of the drawing that is not chosen (cm)
     bool suit_ = false;       ///< the choice of the drawing comes from its window

@@ -2,6 +2,8 @@
 
 #include "ui/editeurs/formes.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QMimeData>
 #include <QPainter>
 
@@ -17,7 +19,50 @@ VueTirable::VueTirable(Foutil& outils, QWidget* parent) : VueEchelle(parent), ou
     setAcceptDrops(true);
 }
 
+bool VueTirable::brise() const {
+    return outils_.en_main().forme == Outil::Forme::brisee;
+}
+
+bool VueTirable::ferme_la_chaine(QPointF pixels) const {
+    constexpr double portee = 8; // logical pixels
+    return chaine_.points().size() > 2 &&
+           (en_pixels(en_point(chaine_.points().front())) - pixels).manhattanLength() <= portee;
+}
+
+void VueTirable::continuer_la_chaine(QPointF pixels, Qt::KeyboardModifiers touches) {
+    const bool fermee = ferme_la_chaine(pixels);
+    if (chaine_.cliquer(fermee ? chaine_.points().front()
+                               : en_vecteur(aimanter(en_cm(pixels), touches))))
+        finir_la_chaine();
+}
+
+// What cannot be added stays in hand, to be taken back or given up.
+void VueTirable::finir_la_chaine() {
+    std::vector<Fiche> lignes = chaine_.lignes();
+    if (!lignes.empty() && !ajouter(std::move(lignes)))
+        return;
+    chaine_ = {};
+    outils_.reposer();
+    update();
+}
+
+void VueTirable::peindre_chaine(QPainter& peintre) const {
+    QPolygonF points;
+    for (const Vecteur cm : chaine_.points())
+        points << en_pixels(en_point(cm));
+    const QColor teinte = palette().color(QPalette::Highlight);
+    const bool ferme = ferme_la_chaine(gestes().ici());
+    peintre.setPen(QPen(teinte, 1, Qt::DashLine));
+    peintre.drawLine(points.back(), ferme ? points.front() : gestes().ici());
+    peintre.setPen(QPen(teinte, 2));
+    peintre.drawPolyline(points);
+    peintre.setBrush(Qt::white);
+    peintre.drawEllipse(points.front(), ferme ? 6 : 4, ferme ? 6 : 4);
+}
+
 void VueTirable::peindre_ebauche(QPainter& peintre) const {
+    if (!chaine_.vide())
+        peindre_chaine(peintre);
     peintre.setBrush(Qt::NoBrush);
     peintre.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DashLine));
     if (ebauche_) {
@@ -40,6 +85,8 @@ Vecteur VueTirable::ecart(QPointF repere, QPointF pixels, Qt::KeyboardModifiers 
 }
 
 void VueTirable::presser(QPointF pixels, Qt::KeyboardModifiers touches) {
+    if (!chaine_.vide() && !brise()) // another tool was taken
+        finir_la_chaine();
     const bool outil = outils_.en_main().forme != Outil::Forme::selection;
     // Choosing refreshes the view: the gesture is known afterwards.
     const Geste geste = outil ? Geste::placer : saisir(pixels, avec_les_autres(touches));
@@ -50,7 +97,7 @@ void VueTirable::glisser(QPointF pixels, Qt::KeyboardModifiers touches) {
     const Outil& outil = outils_.en_main();
     if (!ebauche_ && !a_tire() && !gestes().loin())
         return;
-    if (geste_ == Geste::placer && outil.forme != Outil::Forme::legende)
+    if (geste_ == Geste::placer && !brise() && outil.forme != Outil::Forme::legende)
         ebauche_ = Foutil::tracer(outil, aimanter(en_cm(gestes().depart()), touches),
                                   aimanter(en_cm(pixels), touches));
     else if (geste_ == Geste::deplacer || geste_ == Geste::poignee)
@@ -76,11 +123,13 @@ void VueTirable::relacher(QPointF pixels, Qt::KeyboardModifiers touches) {
 }
 
 void VueTirable::placer(QPointF pixels, Qt::KeyboardModifiers touches) {
+    if (brise())
+        return continuer_la_chaine(pixels, touches);
     const Outil outil = outils_.en_main();
     const auto ebauche = std::exchange(ebauche_, std::nullopt);
     const QPointF fin = aimanter(en_cm(pixels), touches);
     if (ebauche && fin != aimanter(en_cm(gestes().depart()), touches)) // else a click that slipped
-        ajouter(*ebauche);
+        ajouter({*ebauche});
     else
         poser(outil, fin);
     if (!touches.testFlag(Qt::ShiftModifier))
@@ -94,6 +143,7 @@ void VueTirable::survoler(QPointF pixels) {
 
 void VueTirable::abandonner() {
     ebauche_.reset();
+    chaine_ = {};
     outils_.reposer();
     rafraichir();
 }
@@ -108,6 +158,34 @@ void VueTirable::dropEvent(QDropEvent* evenement) {
     if (outil == nullptr || !accepte(*outil))
         return;
     evenement->acceptProposedAction();
+    if (outil->forme == Outil::Forme::brisee) {
+        outils_.prendre(*outil);
+        return continuer_la_chaine(evenement->position(), evenement->modifiers());
+    }
     outils_.reposer();
     poser(*outil, aimanter(en_cm(evenement->position()), evenement->modifiers()));
+}
+
+void VueTirable::keyPressEvent(QKeyEvent* evenement) {
+    const int touche = evenement->key();
+    if (chaine_.vide())
+        return VueEchelle::keyPressEvent(evenement);
+    if (touche == Qt::Key_Backspace)
+        chaine_.reprendre();
+    else if (touche == Qt::Key_Return || touche == Qt::Key_Enter)
+        finir_la_chaine();
+    else
+        VueEchelle::keyPressEvent(evenement);
+    update();
+}
+
+// The right button also cuts a gesture of the left one, or ends a chain.
+void VueTirable::contextMenuEvent(QContextMenuEvent* evenement) {
+    if (!chaine_.vide())
+        return finir_la_chaine();
+    if (QApplication::mouseButtons().testFlag(Qt::LeftButton) || !au_menu)
+        return;
+    if (evenement->reason() == QContextMenuEvent::Mouse)
+        choisir_sous(evenement->pos());
+    au_menu(evenement->globalPos());
 }

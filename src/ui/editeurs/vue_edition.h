@@ -2,6 +2,7 @@
 
 #include "config/document.h"
 #include "edition/choix.h"
+#include "edition/ligne_brisee.h"
 #include "ui/commun/historique.h"
 #include "ui/commun/vue_echelle.h"
 #include "ui/editeurs/foutil.h"
@@ -17,6 +18,7 @@ public:
     VueTirable(Foutil& outils, QWidget* parent);
 
     std::function<void(const std::string&)> au_refus; ///< why a record cannot be added
+    std::function<void(QPoint ecran)> au_menu;        ///< of what is chosen
 
 protected:
     enum class Geste { aucun, placer, cadre, deplacer, poignee };
@@ -36,7 +38,11 @@ protected:
     virtual bool accepte(const Outil& outil) const = 0;
     /// Places a tool's record about a point (cm).
     virtual void poser(const Outil& outil, QPointF cm) = 0;
-    virtual void ajouter(Fiche fiche) = 0;
+    /// @returns false when they cannot be added, which is told
+    virtual bool ajouter(std::vector<Fiche> fiches) = 0;
+    virtual std::optional<std::size_t> objet_sous(QPointF pixels) const = 0;
+    /// Chooses the record under the mouse, unless it is chosen already.
+    virtual void choisir_sous(QPointF pixels) = 0;
     virtual void rafraichir() = 0;
 
     void peindre_ebauche(QPainter& peintre) const;
@@ -50,6 +56,8 @@ protected:
     void abandonner() override;
     void dragEnterEvent(QDragEnterEvent* evenement) final;
     void dropEvent(QDropEvent* evenement) final;
+    void keyPressEvent(QKeyEvent* evenement) final;
+    void contextMenuEvent(QContextMenuEvent* evenement) final;
 
     Foutil& outils_;
     Geste geste_ = Geste::aucun;
@@ -59,6 +67,13 @@ protected:
 private:
     void placer(QPointF pixels, Qt::KeyboardModifiers touches);
 
+    bool brise() const; ///< the chain's tool is in hand
+    void continuer_la_chaine(QPointF pixels, Qt::KeyboardModifiers touches);
+    void finir_la_chaine();
+    bool ferme_la_chaine(QPointF pixels) const;
+    void peindre_chaine(QPainter& peintre) const;
+
+    LigneBrisee chaine_;           ///< between its clicks
     std::optional<Fiche> ebauche_; ///< what the tool in hand is drawing
 };
 
@@ -87,16 +102,23 @@ protected:
     virtual QString nom_du_geste(Geste geste) const = 0;
     virtual QString nom_de_l_ajout(const Fiche& fiche) const = 0;
 
-    void ajouter(Fiche fiche) final {
+    bool ajouter(std::vector<Fiche> fiches) final {
         Doc d = h_.doc();
-        const QString nom = nom_de_l_ajout(fiche);
+        const QString nom =
+            fiches.size() == 1 ? nom_de_l_ajout(fiches.front()) : "Tracer une ligne brisée";
         try {
-            const std::size_t i = creer(d, std::move(fiche));
-            h_.changer(nom, std::move(d), {i});
+            const Choix nouveaux = creer_tous(d, std::move(fiches));
+            h_.changer(nom, std::move(d), nouveaux);
+            return true;
         } catch (const ErreurExecution& erreur) {
             update();
             au_refus(erreur.what());
+            return false;
         }
+    }
+    void choisir_sous(QPointF pixels) final {
+        if (const auto i = objet_sous(pixels); i && !choisi(h_.selection(), *i))
+            h_.choisir({*i});
     }
     void cliquer(Geste, bool en_plus) override {
         h_.choisir(apres_clic(h_.selection(), sous_, en_plus));

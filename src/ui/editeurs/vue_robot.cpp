@@ -117,7 +117,7 @@ VueRobot::Prise VueRobot::prise_sous(QPointF pixels) const {
         return {Geste::poignee, 0, Poignee::reference};
     if (pres(pixels, extremite()))
         return {Geste::poignee, 0, Poignee::extremite};
-    if (const auto i = segment_sous(d, en_vecteur(en_cm(pixels)), prise / pixels_par_cm()))
+    if (const auto i = objet_sous(pixels))
         return {Geste::deplacer, *i};
     if (pres(pixels, roue(-1)) || pres(pixels, roue(1)))
         return {Geste::poignee, 0, Poignee::roue};
@@ -186,12 +186,16 @@ Choix VueRobot::dans(const Bornes& cm) const {
     return segments_dans(h_.doc(), cm);
 }
 
+std::optional<std::size_t> VueRobot::objet_sous(QPointF pixels) const {
+    return segment_sous(h_.doc(), en_vecteur(en_cm(pixels)), prise / pixels_par_cm());
+}
+
 bool VueRobot::accepte(const Outil& outil) const {
     return outil.cle == std::string_view("LN");
 }
 
 void VueRobot::poser(const Outil& outil, QPointF cm) {
-    ajouter(outils_.creer(outil, cm));
+    ajouter({outils_.creer(outil, cm)});
 }
 
 Qt::CursorShape VueRobot::curseur(QPointF pixels) const {

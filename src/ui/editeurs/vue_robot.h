@@ -38,6 +38,7 @@ private:
     QString nom_de_l_ajout(const Fiche&) const override { return "Ajouter un segment"; }
     bool accepte(const Outil& outil) const override;
     void poser(const Outil& outil, QPointF cm) override;
+    std::optional<std::size_t> objet_sous(QPointF pixels) const override;
 
     Prise prise_sous(QPointF pixels) const;
     bool pres(QPointF pixels, QPointF cm) const;

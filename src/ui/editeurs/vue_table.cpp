@@ -142,7 +142,7 @@ void VueTable::poser(const Outil& outil, QPointF cm) {
     if (outil.forme == Outil::Forme::legende)
         a_la_legende();
     else if (outil.forme != Outil::Forme::selection)
-        ajouter(outils_.creer(outil, cm));
+        ajouter({outils_.creer(outil, cm)});
 }
 
 Qt::CursorShape VueTable::curseur(QPointF pixels) const {

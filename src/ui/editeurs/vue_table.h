@@ -35,9 +35,9 @@ private:
     QString nom_de_l_ajout(const Fiche& fiche) const override;
     bool accepte(const Outil&) const override { return true; }
     void poser(const Outil& outil, QPointF cm) override;
+    std::optional<std::size_t> objet_sous(QPointF pixels) const override;
 
     std::optional<std::size_t> poignee_sous(QPointF pixels) const;
-    std::optional<std::size_t> objet_sous(QPointF pixels) const;
     void peindre_choix(QPainter& peintre) const;
     void peindre_legende(QPainter& peintre) const;
 

@@ -39,47 +39,70 @@ Editeurs::Editeurs(QWidget* principale, Seance& seance, Bureau& bureau)
       table_(*new dessinTable(principale, outils_, programme(seance, bureau))),
       robot_(*new dessinRobot(principale, outils_, programme(seance, bureau))),
       trajet_(*new dessinTrajet(principale, outils_, programme(seance, bureau), seance)) {
-    outils_.au_choix_d_outil = [this] { table_.outil_change(); };
-    outils_.au_choix_du_dessin = [this] { montrer_dessin(); };
-    outils_.a_l_annulation = [this](const char* commande) {
-        FenetreEditeur& dessin =
-            outils_.chx_dessinRobot.isChecked() ? static_cast<FenetreEditeur&>(robot_) : table_;
-        dessin.findChild<QAction*>(commande)->trigger();
+    outils_.au_choix_d_outil = [this] {
+        table_.outil_change();
+        robot_.outil_change();
     };
+    outils_.au_choix_du_dessin = [this] { montrer_dessin(); };
+    outils_.au_demenagement = [this] { palette_demenagee(); };
+    outils_.a_l_annulation = [this](const char* commande) {
+        dessin_choisi().findChild<QAction*>(commande)->trigger();
+    };
+}
+
+FenetreEditeur& Editeurs::dessin_choisi() {
+    return outils_.chx_dessinRobot.isChecked() ? static_cast<FenetreEditeur&>(robot_) : table_;
+}
+
+void Editeurs::palette_demenagee() {
+    if (outils_.ancree())
+        dessin_choisi().accueillir_palette();
+    table_.suivre_palette();
+    robot_.suivre_palette();
+    placer_palette();
 }
 
 void Editeurs::montrer() {
     placer();
     montrer_dessin();
+    placer_palette();
     outils_.show();
     outils_.raise();
 }
 
 void Editeurs::montrer_dessin() {
-    const bool robot = outils_.chx_dessinRobot.isChecked();
-    if (robot)
+    FenetreEditeur& dessin = dessin_choisi();
+    if (&dessin == &robot_)
         robot_.regler_table(seance_.etat());
-    QWidget& dessin = robot ? static_cast<QWidget&>(robot_) : table_;
+    dessin.accueillir_palette();
     dessin.show();
     dessin.raise();
     dessin.activateWindow();
 }
 
-// The palette at the left edge of the screen, the drawing beside it; or where the user left them.
+// Where the user left it, else beside the drawing.
+void Editeurs::placer_palette() {
+    if (outils_.ancree() || std::exchange(palette_placee_, true))
+        return;
+    const QRect ecran = principale_.screen()->availableGeometry();
+    outils_.move(ecran.topLeft() + QPoint(8, 32)); // its title bar above
+    retenir_place(outils_);
+}
+
+// At the left edge of the screen, or where the user left them.
 void Editeurs::placer() {
     if (std::exchange(places_, true))
         return;
     const QRect ecran = principale_.screen()->availableGeometry();
     constexpr int marge = 8;
-    outils_.move(ecran.topLeft() + QPoint(marge, 4 * marge)); // its title bar above
-    const int gauche = ecran.left() + outils_.sizeHint().width() + 3 * marge;
+    const int palette = outils_.ancree() ? 0 : outils_.sizeHint().width() + 2 * marge;
+    const int gauche = ecran.left() + palette + marge;
     for (QWidget* dessin : std::initializer_list<QWidget*>{&table_, &robot_}) {
         dessin->move(gauche, ecran.top() + marge);
         dessin->resize(std::min(dessin->width(), ecran.right() - gauche - 2 * marge),
                        std::min(std::max(dessin->height(), 620), ecran.height() - 60));
         retenir_place(*dessin);
     }
-    retenir_place(outils_);
 }
 
 void Editeurs::montrer_trajet(int robot, int numero) {

@@ -34,6 +34,9 @@ private:
     void montrer_dessin();
     void montrer_trajet();
     void placer();
+    void placer_palette();
+    void palette_demenagee();
+    FenetreEditeur& dessin_choisi();
     std::array<FenetreEditeur*, 3> dessins() const { return {&table_, &robot_, &trajet_}; }
 
     QWidget& principale_;
@@ -43,6 +46,7 @@ private:
     dessinTable& table_;
     dessinRobot& robot_;
     dessinTrajet& trajet_;
-    bool places_ = false; ///< the windows have got their first place
+    bool places_ = false;         ///< the windows have got their first place
+    bool palette_placee_ = false; ///< it has floated
     bool trajet_place_ = false;
 };

@@ -1,9 +1,8 @@
 #include "ui/verdict/icones_transport.h"
 
-#include <QApplication>
-#include <QIconEngine>
+#include "ui/commun/icone_peinte.h"
+
 #include <QPainter>
-#include <QPalette>
 
 #include <initializer_list>
 
@@ -88,39 +87,12 @@ void dessiner(QPainter& p, Symbole symbole) {
     }
 }
 
-/// Sharp at any density, readable on any palette.
-class DessinIcone final : public QIconEngine {
-public:
-    explicit DessinIcone(Symbole symbole) : symbole_(symbole) {}
-
-    QIconEngine* clone() const override { return new DessinIcone(symbole_); }
-
-    void paint(QPainter* peintre, const QRect& ou, QIcon::Mode mode, QIcon::State) override {
-        const auto groupe = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        peintre->save();
-        peintre->setRenderHint(QPainter::Antialiasing);
-        peintre->translate(ou.topLeft());
-        peintre->scale(ou.width() / 16.0, ou.height() / 16.0);
-        peintre->setPen(Qt::NoPen);
-        peintre->setBrush(QApplication::palette().color(groupe, QPalette::ButtonText));
-        dessiner(*peintre, symbole_);
-        peintre->restore();
-    }
-
-    QPixmap pixmap(const QSize& taille, QIcon::Mode mode, QIcon::State etat) override {
-        QPixmap image(taille);
-        image.fill(Qt::transparent);
-        QPainter peintre(&image);
-        paint(&peintre, QRect({}, taille), mode, etat);
-        return image;
-    }
-
-private:
-    Symbole symbole_;
-};
-
 } // namespace
 
 QIcon icone(Symbole symbole) {
-    return QIcon(new DessinIcone(symbole)); // the icon deletes it
+    return icone_peinte(16, [symbole](QPainter& p) {
+        p.setBrush(p.pen().color());
+        p.setPen(Qt::NoPen);
+        dessiner(p, symbole);
+    });
 }
