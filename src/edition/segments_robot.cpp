@@ -31,14 +31,6 @@ Choix ajouter(DocumentRobot& robot, const std::vector<Fiche>& nouveaux) {
     return choix;
 }
 
-/// @returns false, nothing changed, when the segment loses its length
-bool remplacer(DocumentRobot& robot, std::size_t i, Fiche segment) {
-    if (formes::sans_etendue(segment) && !formes::sans_etendue(robot[i]))
-        return false;
-    robot.remplacer(i, std::move(segment));
-    return true;
-}
-
 } // namespace
 
 Choix segments(const DocumentRobot& robot) {
@@ -128,10 +120,17 @@ Choix copier_en_miroir(DocumentRobot& robot, const Choix& choix) {
     return ajouter(robot, images);
 }
 
-bool changer_segment(DocumentRobot& robot, std::size_t i, std::size_t champ, double valeur) {
-    Fiche f = robot[i];
-    f.v[champ] = static_cast<float>(valeur);
-    return remplacer(robot, i, std::move(f));
+bool changer_segments(DocumentRobot& robot, const Choix& choix, std::size_t champ, double valeur) {
+    DocumentRobot essai = robot;
+    for (const std::size_t i : segments(robot, choix)) {
+        Fiche f = robot[i];
+        f.v[champ] = static_cast<float>(valeur);
+        if (formes::sans_etendue(f) && !formes::sans_etendue(robot[i]))
+            return false;
+        essai.remplacer(i, std::move(f));
+    }
+    robot = std::move(essai);
+    return true;
 }
 
 bool tirer_bout(DocumentRobot& robot, std::size_t i, std::size_t bout, Vecteur cm) {

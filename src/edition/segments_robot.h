@@ -30,9 +30,9 @@ void deplacer(DocumentRobot& robot, const Choix& choix, Vecteur ecart);
 /// reference point. What lies on the axis or has its image already is not doubled.
 /// @returns them @throws beyond 50 segments
 Choix copier_en_miroir(DocumentRobot& robot, const Choix& choix);
-/// Changes one number of a segment. @returns false, the robot as it was, when it would have no
-/// length
-bool changer_segment(DocumentRobot& robot, std::size_t i, std::size_t champ, double valeur);
+/// Changes one number of segments. @returns false, the robot as it was, when one of them would have
+/// no length
+bool changer_segments(DocumentRobot& robot, const Choix& choix, std::size_t champ, double valeur);
 /// Pulls an end (0 or 1) of a segment. @returns false likewise
 bool tirer_bout(DocumentRobot& robot, std::size_t i, std::size_t bout, Vecteur cm);
 

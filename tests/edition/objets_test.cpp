@@ -150,20 +150,24 @@ TEST(Cadre, prend_ce_qu_il_contient_et_la_souris_ce_qui_est_au_dessus) {
 }
 
 TEST(Mesures, valent_comme_elles_sont_tapees_dans_n_importe_quel_ordre) {
-    constexpr std::size_t angle = 4;
+    using G = Grandeur;
+    constexpr G angle = G::incidence;
     struct Cas {
-        std::vector<std::pair<std::size_t, double>> frappes;
+        std::vector<std::pair<G, double>> frappes;
         std::string_view attendu, ligne = "O,20,20,40,40\n";
     };
     constexpr std::string_view trait = "LN,100,100,130,140\n";
     for (const Cas& c :
-         {Cas{{{0, 90}, {2, 120}}, "O , 90, 20, 120, 40\n"},
-          Cas{{{2, 120}, {0, 90}}, "O , 90, 20, 120, 40\n"},
-          Cas{{{0, 40}}, "O,20,20,40,40\n"}, // for a moment without width
-          Cas{{{0, 40}, {2, 70}}, "O , 40, 20, 70, 40\n"},
+         {Cas{{{G::x1, 90}, {G::x2, 120}}, "O , 90, 20, 120, 40\n"},
+          Cas{{{G::x2, 120}, {G::x1, 90}}, "O , 90, 20, 120, 40\n"},
+          Cas{{{G::x1, 40}}, "O,20,20,40,40\n"}, // for a moment without width
+          Cas{{{G::x1, 40}, {G::x2, 70}}, "O , 40, 20, 70, 40\n"},
           Cas{{{angle, 45}, {angle, 0}}, "LN , 9, 9, 14, 9\n", "LN,9,9,12,13\n"}, // rounded once
-          Cas{{{angle, -90}, {0, 90}, {angle, 0}}, "LN , 90, 100, 141, 100\n", trait},
+          Cas{{{angle, -90}, {G::x1, 90}, {angle, 0}}, "LN , 90, 100, 141, 100\n", trait},
           Cas{{{angle, -135}}, "LN , 100, 100, 65, 65\n", trait},
+          Cas{{{G::x, 90}, {G::largeur, 5}, {G::y, 7}}, "O , 90, 7, 95, 27\n"},
+          Cas{{{G::hauteur, 0}}, "O,20,20,40,40\n"},
+          Cas{{{G::largeur, 32750}}, "O,20,20,40,40\n"}, // beyond what a file can say
           Cas{{{angle, 180}}, "LN,10,80,90,80\n", "LN,10,80,90,80\n"}}) { // beyond x = 0
         DocumentTable d = DocumentTable::depuis("L,0,0,200,200\n" + std::string(c.ligne));
         std::optional<Mesures> m;
@@ -179,6 +183,26 @@ TEST(Mesures, valent_comme_elles_sont_tapees_dans_n_importe_quel_ordre) {
     }
     EXPECT_NEAR(incidence({"LN", {100, 100, 130, 140}, ""}), 53.13, 0.01);
     EXPECT_NEAR(incidence({"LN", {100, 100, 70, 60}, ""}), -126.87, 0.01);
+}
+
+TEST(Mesures, de_plusieurs_objets_a_la_fois) {
+    using G = Grandeur;
+    constexpr std::string_view avant = "M,Nom\nL,0,0,20,30\nO,50,0,70,90\nPB,5,6,7\nLN,0,0,9,9\n";
+    DocumentTable d = DocumentTable::depuis(avant);
+    const Choix boites{0, 1, 2};
+    EXPECT_EQ(grandeurs(d, boites, false), (std::vector{G::x, G::y, G::largeur, G::hauteur}));
+    EXPECT_EQ(grandeurs(d, {1, 3}, false), (std::vector{G::x, G::y}));
+    EXPECT_EQ(grandeurs(d, {1, 4}, true), (std::vector{G::x1, G::y1, G::x2, G::y2}));
+    EXPECT_TRUE(grandeurs(d, {3, 4}, false).empty());
+    EXPECT_EQ(valeur(d, boites, G::largeur), 20);
+    EXPECT_EQ(valeur(d, boites, G::hauteur), std::nullopt);
+    EXPECT_FALSE(taper(d, boites, G::hauteur, 0));
+    EXPECT_FALSE(taper(d, boites, G::x2, 0)) << "the first would lose its width";
+    EXPECT_EQ(d.ecrire(), avant);
+    EXPECT_TRUE(taper(d, boites, G::hauteur, 40));
+    EXPECT_TRUE(taper(d, {1, 3}, G::x, 10));
+    EXPECT_EQ(d.ecrire(),
+              "M,Nom\nL , 10, 0, 30, 40\nO , 50, 0, 70, 40\nPB , 10, 6, 7\nLN,0,0,9,9\n");
 }
 
 TEST(SegmentsRobot, chaque_geste_change_les_segments_choisis) {
@@ -197,11 +221,18 @@ TEST(SegmentsRobot, chaque_geste_change_les_segments_choisis) {
         // Each is the other's image already, written from its other end.
         {[](auto& d) { EXPECT_TRUE(copier_en_miroir(d, {}).empty()); }, avant},
         {[](auto& d) {
-             EXPECT_TRUE(changer_segment(d, 1, 1, 7));
+             EXPECT_TRUE(changer_segments(d, {1}, 1, 7));
              EXPECT_EQ(copier_en_miroir(d, {0, 1}), Choix{3});
          },
          "A,10,5,8\nR , 0, 7, 4, 0\nR,16,0,20,0\nR , 20, 7, 16, 0\nE,1,2,3\n"},
-        {[](auto& d) { EXPECT_FALSE(changer_segment(d, 1, 0, 4)); }, avant},
+        {[](auto& d) {
+             EXPECT_FALSE(changer_segments(d, {1, 2}, 0, 4));
+         },
+         avant},
+        {[](auto& d) {
+             EXPECT_TRUE(changer_segments(d, {0, 1, 2}, 3, 8));
+         },
+         "A,10,5,8\nR , 0, 0, 4, 8\nR , 16, 0, 20, 8\nE,1,2,3\n"},
         {[](auto& d) {
              EXPECT_FALSE(tirer_bout(d, 1, 1, {0.2, -0.4}));
          },

@@ -98,6 +98,7 @@ TEST_F(GestesTable, rien_sans_etendue_n_est_pose_ni_tire_ni_tape) {
 
 TEST_F(GestesTable, une_mesure_qui_ne_peut_pas_etre_prise_attend_ou_est_refusee) {
     ouvrir("L,0,0,200,200\nLN,10,80,90,80\nLN,100,100,130,140\nO,20,20,40,40\n");
+    cocher("coins", true);
     clic(30, 30);
     taper("X1", "40"); // for a moment without width
     EXPECT_EQ(dernier("O"), "O 20 20 40 40");
@@ -116,6 +117,30 @@ TEST_F(GestesTable, une_mesure_qui_ne_peut_pas_etre_prise_attend_ou_est_refusee)
     EXPECT_EQ(texte(doc()[1]), "LN 10 80 90 80");
     EXPECT_EQ(trouver<QDoubleSpinBox>("Incidence").value(), 0);
     EXPECT_TRUE(editeur().statusBar()->currentMessage().startsWith("Refusé"));
+}
+
+TEST_F(GestesTable, plusieurs_objets_se_mesurent_ensemble) {
+    ouvrir(sol);
+    clic(30, 30);
+    clic(70, 70, Qt::ControlModifier);
+    EXPECT_EQ(trouver<QDoubleSpinBox>("Hauteur").text(), "20 cm");
+    auto& largeur = trouver<Nombre>("Largeur");
+    EXPECT_EQ(largeur.text(), " cm") << "20 and 30";
+    taper("Largeur", ""); // nothing typed, nothing changed
+    EXPECT_FALSE(editeur().isWindowModified());
+    taper("Largeur", "20");
+    EXPECT_EQ(dernier("O") + dernier("T"), "O 20 20 40 40T 60 60 80 80");
+    EXPECT_EQ(largeur.text(), "20 cm");
+    commande("annuler"); // one step
+    EXPECT_EQ(doc().ecrire(), sol);
+    auto& sorte = trouver<QComboBox>("sorte");
+    EXPECT_EQ(sorte.currentIndex(), -1);
+    sorte.setCurrentIndex(sorte.findData("V"));
+    EXPECT_EQ(doc().compter({"V"}), 2);
+    commande("annuler");
+    clic(120, 120, Qt::ControlModifier); // a piece has a place, but no width
+    taper("Y", "50");
+    EXPECT_EQ(dernier("O") + dernier("PB"), "O 20 50 40 70PB 120 50 10");
 }
 
 TEST_F(GestesTable, un_geste_finit_avec_son_bouton) {

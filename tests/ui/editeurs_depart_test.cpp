@@ -48,6 +48,7 @@ protected:
 
 TEST_F(Depart, enregistrer_prend_d_abord_ce_qui_est_tape) {
     ouvrir("U,0,0,90,90\r\nO,10,10,80,80\r\n");
+    cocher("coins", true);
     clic(50, 50);
     taper("X1", "35");
     reponses = {true, false};

@@ -103,13 +103,24 @@ QString ChampNombre<Base>::nu(QString texte) const {
     return texte.trimmed();
 }
 
+// Behind the empty field stands its greatest number: any other one that is typed is a change.
+template <typename Base>
+void ChampNombre<Base>::montrer(std::optional<Valeur> valeur) {
+    melange_ = !valeur;
+    this->setValue(valeur.value_or(this->maximum()));
+}
+
 template <typename Base>
 Saisie ChampNombre<Base>::lire(const QString& texte) const {
+    if (melange_ && nu(texte).isEmpty())
+        return {double(this->value()), {}};
     return lire_saisie(nu(texte), chiffres_apres_la_virgule(), this->minimum(), this->maximum());
 }
 
 template <typename Base>
 QString ChampNombre<Base>::textFromValue(Valeur valeur) const {
+    if (melange_)
+        return {};
     QString texte = francais().toString(double(valeur), 'f', chiffres_apres_la_virgule());
     static const QRegularExpression zeros_inutiles(",?0+$");
     if (texte.contains(','))

@@ -24,16 +24,21 @@ class ChampNombre : public Base {
 public:
     explicit ChampNombre(QWidget* parent = nullptr);
 
-    /// What the present text is worth.
-    Saisie saisie() const { return lire(this->text()); }
-
-protected:
     using Valeur = std::conditional_t<std::is_same_v<Base, QSpinBox>, int, double>;
 
+    /// What the present text is worth.
+    Saisie saisie() const { return lire(this->text()); }
+    /// None: the number of several things that differ. The field is empty until one is typed.
+    void montrer(std::optional<Valeur> valeur);
+
+protected:
     QString textFromValue(Valeur valeur) const override;
     Valeur valueFromText(const QString& texte) const override;
     QValidator::State validate(QString& texte, int& position) const override;
     void fixup(QString&) const override {} // what is refused is not mended
+    QAbstractSpinBox::StepEnabled stepEnabled() const override {
+        return melange_ ? QAbstractSpinBox::StepEnabled() : Base::stepEnabled();
+    }
     void focusOutEvent(QFocusEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
 
@@ -44,7 +49,8 @@ private:
     void expliquer();
     void dire_un_refus();
 
-    bool dit_ = false; ///< why the text is no number
+    bool melange_ = false; ///< of things that differ
+    bool dit_ = false;     ///< why the text is no number
 };
 
 extern template class ChampNombre<QSpinBox>;

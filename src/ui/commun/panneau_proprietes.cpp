@@ -20,7 +20,7 @@ void PanneauProprietes::montrer(const QString& titre, const std::vector<Champ>& 
     presents_ = voulus;
     for (std::size_t i = 0; i < champs.size(); ++i) {
         const QSignalBlocker muet(nombres_[i]);
-        nombres_[i]->setValue(champs[i].valeur);
+        nombres_[i]->montrer(champs[i].valeur);
     }
     if (sortes_ != nullptr) {
         const QSignalBlocker muet(sortes_);
@@ -76,7 +76,7 @@ void PanneauProprietes::ajouter_champ(const Champ& champ, std::size_t i) {
     nombre->setAccessibleName(champ.texte);
     nombre->setDecimals(champ.decimales);
     nombre->setRange(champ.mini, champ.maxi);
-    nombre->setValue(champ.valeur);
+    nombre->montrer(champ.valeur);
     nombre->setSuffix(champ.unite);
     connect(nombre, &QDoubleSpinBox::valueChanged, this,
             [this, i](double valeur) { au_nombre(i, valeur); });

@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 /// The exact numbers of what is chosen.
@@ -18,7 +19,8 @@ public:
     struct Champ {
         QString nom; ///< objectName of its box
         QString texte, unite;
-        double mini, maxi, valeur;
+        double mini, maxi;
+        std::optional<double> valeur; ///< none: of several that differ
         int decimales = 0;
     };
     struct Sorte {
@@ -32,6 +34,7 @@ public:
     std::function<void(const QString& cle)> a_la_sorte;
 
     /// @param sortes  the kinds it can become, none: the kind is not shown
+    /// @param sorte   its own, empty for several that differ
     void montrer(const QString& titre, const std::vector<Champ>& champs,
                  const std::vector<Sorte>& sortes = {}, const QString& sorte = {});
     /// A sentence in place of numbers.

@@ -3,6 +3,7 @@
 #include "base/fichiers.h"
 #include "config/document_trajet.h"
 #include "edition/segments_robot.h"
+#include "ui/editeurs/formes.h"
 #include "ui/editeurs/foutil.h"
 
 #include <QMenu>
@@ -159,15 +160,11 @@ void dessinRobot::montrer_segment() {
         return segment_.conseiller("Rien n'est choisi",
                                    "Cliquer un segment montre ses mesures ; tirer sur le fond en "
                                    "choisit plusieurs. Une ligne de la palette en ajoute.");
-    if (s.size() > 1)
-        return segment_.conseiller(QString("%1 segments choisis").arg(s.size()),
-                                   "Ils se déplacent et se copient en miroir ensemble.");
     std::vector<PanneauProprietes::Champ> champs;
-    constexpr const char* noms[] = {"X1", "Y1", "X2", "Y2"};
-    for (std::size_t i = 0; i < 4; ++i)
-        champs.push_back(
-            {noms[i], noms[i], " cm", -32768, 32767, historique_.doc()[s.front()].v[i]});
-    segment_.montrer("Segment", champs);
+    for (const Grandeur g : grandeurs(historique_.doc(), s, true))
+        champs.push_back(formes::champ(historique_.doc(), s, g));
+    segment_.montrer(s.size() == 1 ? "Segment" : QString("%1 segments choisis").arg(s.size()),
+                     champs);
 }
 
 void dessinRobot::montrer_reglages() {
@@ -242,10 +239,8 @@ void dessinRobot::deplacer(double dx, double dy) {
 
 void dessinRobot::changer_segment(std::size_t champ, double valeur) {
     const Selection s = segments_choisis();
-    if (s.size() != 1)
-        return;
     DocumentRobot d = historique_.doc();
-    if (!::changer_segment(d, s.front(), champ, valeur)) {
+    if (!changer_segments(d, s, champ, valeur)) {
         statusBar()->showMessage("Refusé : un segment sans longueur ne se verrait pas");
         return montrer_segment();
     }

@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QMenu>
+#include <QSettings>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -19,6 +20,30 @@ QString description(const Fiche& e) {
     for (std::size_t i = 0; i < nombre_de_champs(e.cle); ++i)
         texte += (i == 0 ? " " : ", ") + QString::number(e.entier(i));
     return texte;
+}
+
+/// The kinds that all of these can become: those of one family whose numbers mean the same.
+std::vector<PanneauProprietes::Sorte> sortes_possibles(const DocumentTable& d, const Selection& s) {
+    const SorteTable* famille = sorte_table(d[s.front()].cle);
+    for (const std::size_t i : s)
+        if (sorte_table(d[i].cle) != famille ||
+            forme_table(d[i].cle) != forme_table(d[s.front()].cle))
+            return {};
+    std::vector<PanneauProprietes::Sorte> sortes;
+    if (famille == nullptr)
+        return sortes;
+    for (const std::string_view cle : famille->cles)
+        if (forme_table(cle) == forme_table(d[s.front()].cle))
+            sortes.push_back({QString::fromUtf8(cle.data(), qsizetype(cle.size())),
+                              formes::nom(cle), icone_objet(cle)});
+    return sortes;
+}
+
+QString sorte_commune(const DocumentTable& d, const Selection& s) {
+    const std::string& cle = d[s.front()].cle;
+    const bool autre =
+        std::any_of(s.begin(), s.end(), [&](std::size_t i) { return d[i].cle != cle; });
+    return autre ? QString() : QString::fromStdString(cle);
 }
 
 } // namespace
@@ -58,7 +83,11 @@ void dessinTable::placer() {
     legende_.setUndoRedoEnabled(false); // the drawing's own steps
     liste_.setObjectName("listeObjets");
     liste_.setAccessibleName("Objets de la table");
+    coins_.setObjectName("coins");
+    coins_.setText("Mesurer par les &coins");
+    coins_.setChecked(QSettings().value("mesures_par_coins", false).toBool());
     lignes->addWidget(&proprietes_);
+    lignes->addWidget(&coins_);
     lignes->addWidget(titre_legende);
     lignes->addWidget(&legende_);
     lignes->addWidget(titre_liste);
@@ -79,6 +108,11 @@ void dessinTable::connecter() {
     vue_.a_la_legende = [this] { legende_.setFocus(); };
     proprietes_.au_nombre = [this](std::size_t i, double valeur) { changer_nombre(i, valeur); };
     proprietes_.a_la_sorte = [this](const QString& cle) { changer_sorte(cle.toStdString()); };
+    connect(&coins_, &QCheckBox::toggled, this, [this](bool oui) {
+        QSettings().setValue("mesures_par_coins", oui);
+        mesures_.reset();
+        montrer_proprietes();
+    });
     connect(&legende_, &QPlainTextEdit::textChanged, this, [this] { changer_legende(); });
     liste_.au_choix = [this](const Selection& s) { historique_.choisir(s); };
 }
@@ -130,6 +164,7 @@ std::optional<RefusLecture> dessinTable::relire(const std::string& octets) const
 void dessinTable::rafraichir() {
     vue_.rafraichir();
     montrer_proprietes();
+    montrer_coins();
     montrer_legende();
     montrer_liste();
     montrer_comptes();
@@ -141,36 +176,29 @@ void dessinTable::montrer_proprietes() {
         return proprietes_.conseiller("Rien n'est choisi",
                                       "Cliquer un objet montre ses mesures ; tirer sur le fond en "
                                       "choisit plusieurs. Un outil de la palette en ajoute.");
-    if (s.size() > 1)
-        return proprietes_.conseiller(QString("%1 objets choisis").arg(s.size()),
-                                      "Ils se déplacent et s'alignent ensemble.");
-    if (historique_.doc()[s.front()].cle == "M")
-        return proprietes_.conseiller("Légende", "Son texte se change ci-dessous.");
-    const Fiche e = mesures().typees;
-    using Champ = PanneauProprietes::Champ;
-    std::vector<Champ> champs;
-    const bool quatre = nombre_de_champs(e.cle) == 4;
-    const bool pion = !quatre && e.cle != "DR";
-    const double mini = pion ? -32768 : 0;
-    const double maxi = pion ? 32767 : DocumentTable::coordonnee_max;
-    if (quatre)
-        for (std::size_t i = 0; i < 4; ++i)
-            champs.push_back({QStringList{"X1", "Y1", "X2", "Y2"}[int(i)],
-                              QStringList{"X1", "Y1", "X2", "Y2"}[int(i)], " cm", mini, maxi,
-                              e.v[i]});
-    else
-        champs = {{"X", "X", " cm", mini, maxi, e.v[0]},
-                  {"Y", "Y", " cm", mini, maxi, e.v[1]},
-                  {"Rayon", "Rayon", " cm", -32768, 32767, e.v[2]}};
-    if (e.cle == "LN")
-        champs.push_back({"Incidence", "Incidence", "°", -180, 180, incidence(e), 1});
-    std::vector<PanneauProprietes::Sorte> sortes;
-    for (const std::string_view cle : sorte_table(e.cle)->cles)
-        // A block's two kinds do not have the same numbers.
-        if (cle == e.cle || sorte_table(cle)->nom != "blocs")
-            sortes.push_back({QString::fromUtf8(cle.data(), qsizetype(cle.size())),
-                              formes::nom(cle), icone_objet(cle)});
-    proprietes_.montrer(formes::nom(e.cle), champs, sortes, QString::fromStdString(e.cle));
+    const bool seul = s.size() == 1;
+    grandeurs_ = grandeurs(historique_.doc(), s, coins_.isChecked());
+    const std::vector<PanneauProprietes::Sorte> sortes = sortes_possibles(historique_.doc(), s);
+    const QString titre = seul ? formes::nom(historique_.doc()[s.front()].cle)
+                               : QString("%1 objets choisis").arg(s.size());
+    if (grandeurs_.empty() && sortes.empty())
+        return proprietes_.conseiller(titre, seul ? "Son texte se change ci-dessous."
+                                                  : "Ils se déplacent et s'alignent ensemble.");
+    std::vector<PanneauProprietes::Champ> champs;
+    for (const Grandeur g : grandeurs_) {
+        champs.push_back(formes::champ(historique_.doc(), s, g));
+        if (seul)
+            champs.back().valeur = valeur(mesures().typees, g); // as they were typed
+    }
+    proprietes_.montrer(titre, champs, sortes, sorte_commune(historique_.doc(), s));
+}
+
+void dessinTable::montrer_coins() {
+    const DocumentTable& d = historique_.doc();
+    const Selection& s = historique_.selection();
+    coins_.setVisible(std::any_of(s.begin(), s.end(), [&](std::size_t i) {
+        return forme_table(d[i].cle) == FormeTable::boite;
+    }));
 }
 
 void dessinTable::montrer_legende() {

@@ -8,6 +8,7 @@
 #include "ui/editeurs/liste_choix.h"
 #include "ui/editeurs/vue_table.h"
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 
@@ -37,6 +38,7 @@ private:
     void preparer_alignement();
     void rafraichir();
     void montrer_proprietes();
+    void montrer_coins();
     void montrer_legende();
     void montrer_liste();
     void montrer_comptes();
@@ -54,6 +56,8 @@ private:
     Historique<DocumentTable> historique_;
     VueTable vue_;
     PanneauProprietes proprietes_;
+    QCheckBox coins_;                 ///< boxes are measured by their corners
+    std::vector<Grandeur> grandeurs_; ///< what the fields show
     QPlainTextEdit legende_;
     ListeChoix liste_;
     std::optional<Mesures> mesures_; ///< typed for the chosen record

@@ -69,12 +69,19 @@ Mesures dessinTable::mesures() const {
 }
 
 void dessinTable::changer_nombre(std::size_t champ, double valeur) {
-    if (historique_.selection().size() != 1)
-        return;
-    Mesures m = mesures();
-    if (taper(m, champ, valeur))
-        return prendre_mesures(std::move(m));
-    statusBar()->showMessage("Refusé : à cet angle, la ligne sortirait des coordonnées permises");
+    const Selection& s = historique_.selection();
+    const Grandeur g = grandeurs_.at(champ);
+    if (s.size() == 1) {
+        Mesures m = mesures();
+        if (taper(m, g, valeur))
+            return prendre_mesures(std::move(m));
+    } else if (DocumentTable d = historique_.doc(); taper(d, s, g, valeur)) {
+        return historique_.changer("Changer une mesure", std::move(d), s);
+    }
+    statusBar()->showMessage(s.size() == 1
+                                 ? "Refusé : l'objet sortirait des coordonnées permises"
+                                 : "Refusé : un des objets sortirait des coordonnées permises ou "
+                                   "ne se verrait plus");
     montrer_proprietes();
 }
 
@@ -101,11 +108,11 @@ QString dessinTable::en_suspens() const {
 
 void dessinTable::changer_sorte(const std::string& cle) {
     const Selection& s = historique_.selection();
-    if (s.size() != 1 || historique_.doc()[s.front()].cle == cle)
-        return;
     DocumentTable d = historique_.doc();
-    ::changer_sorte(d, s.front(), cle);
-    historique_.changer("Changer de sorte", std::move(d), s);
+    for (const std::size_t i : s)
+        ::changer_sorte(d, i, cle);
+    if (!d.memes_fiches(historique_.doc()))
+        historique_.changer("Changer de sorte", std::move(d), s);
 }
 
 void dessinTable::changer_legende() {

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <string>
 
 namespace formes {
@@ -50,6 +51,22 @@ QColor couleur(std::string_view cle) {
     if (sorte != nullptr && sorte->nom == "pièces")
         return couleur_qt(couleur_pion(cle));
     return cle == "LE" ? Qt::white : Qt::black;
+}
+
+PanneauProprietes::Champ champ(const Document& document, const Choix& choix, Grandeur g) {
+    static constexpr const char* noms[] = {"X1", "Y1",      "X2",      "Y2",    "X",
+                                           "Y",  "Largeur", "Hauteur", "Rayon", "Incidence"};
+    const QString nom = noms[static_cast<std::size_t>(g)];
+    const std::optional<double> v = valeur(document, choix, g);
+    if (g == Grandeur::incidence)
+        return {nom, nom, "°", -180, 180, v, 1};
+    const bool libre =
+        g == Grandeur::rayon || std::all_of(choix.begin(), choix.end(), [&](std::size_t i) {
+            const std::string& cle = document[i].cle;
+            return cle == "R" || forme_table(cle) == FormeTable::pion;
+        });
+    return {nom, nom, " cm", libre ? -32768.0 : 0, libre ? 32767.0 : DocumentTable::coordonnee_max,
+            v};
 }
 
 } // namespace formes

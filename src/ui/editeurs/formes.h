@@ -1,6 +1,8 @@
 #pragma once
 
 #include "edition/formes.h"
+#include "edition/mesures.h"
+#include "ui/commun/panneau_proprietes.h"
 
 #include <QPointF>
 #include <QRectF>
@@ -23,5 +25,7 @@ QRectF cadre(const Fiche& e);
 /// "Zone L (blanc)"
 QString nom(std::string_view cle);
 QColor couleur(std::string_view cle);
+/// The field of a measure of these records: its range is what the simulator reads.
+PanneauProprietes::Champ champ(const Document& document, const Choix& choix, Grandeur g);
 
 } // namespace formes
