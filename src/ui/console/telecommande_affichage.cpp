@@ -6,15 +6,7 @@
 #include "seance/seance.h"
 #include "sim/textes_actions.h"
 #include "ui/commun/boites.h"
-
-namespace {
-
-// Readable on the palette's background, light or dark.
-QColor couleur_d_alerte(const QPalette& p) {
-    return p.color(QPalette::Window).lightness() < 128 ? QColor(255, 150, 110) : QColor(176, 36, 0);
-}
-
-} // namespace
+#include "ui/commun/lisible.h"
 
 void Télécommande::actualiser_liste() {
     liste_.clear();
