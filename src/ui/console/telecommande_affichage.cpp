@@ -88,7 +88,7 @@ void Télécommande::indiquer_position() {
 void Télécommande::surligner(const actions::Action* action) {
     const auto teinter = [this](QLineEdit& champ, bool utile) {
         QPalette p = palette();
-        if (utile) {
+        if (utile && champ.isEnabled()) {
             QColor teinte = p.color(QPalette::Highlight);
             teinte.setAlphaF(0.25F);
             p.setColor(QPalette::Base, teinte);
