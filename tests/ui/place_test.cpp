@@ -89,7 +89,8 @@ TEST(Place, des_controles_plus_grands_que_l_ecran_defilent) {
         f.show();
         groupe->show();
         EXPECT_TRUE(QTest::qWaitFor([&] {
-            return !f.findChildren<QScrollArea*>().isEmpty() && ecran.contains(f.frameGeometry());
+            return !f.findChildren<QScrollArea*>().isEmpty() && groupe->height() > f.height() &&
+                   ecran.contains(f.frameGeometry());
         }));
         EXPECT_TRUE(QTest::qWaitForWindowActive(&f));
         boutons.at(38)->setFocus(); // by keys too

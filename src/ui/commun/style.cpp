@@ -1,5 +1,6 @@
 #include "ui/commun/style.h"
 
+#include "ui/commun/icones_messages.h"
 #include "ui/commun/lisible.h"
 
 #include <QApplication>
@@ -99,6 +100,20 @@ public:
             return {texte.width() + icone.width() + 4 * style::ecart, taille.height()};
         return {texte.width() + 3 * style::ecart,
                 texte.height() + icone.height() + 2 * style::ecart};
+    }
+
+    QIcon standardIcon(StandardPixmap image, const QStyleOption* option,
+                       const QWidget* w) const override {
+        const QIcon icone = icone_message(image);
+        return icone.isNull() ? QProxyStyle::standardIcon(image, option, w) : icone;
+    }
+
+    // A word on a button of a box says enough.
+    int styleHint(StyleHint sorte, const QStyleOption* option, const QWidget* w,
+                  QStyleHintReturn* retour) const override {
+        return sorte == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(sorte, option, w, retour);
     }
 
 private:
