@@ -44,6 +44,8 @@ bool rendre_defilante(QWidget& fenetre) {
     fenetre.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     const int barre = fenetre.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &fenetre);
     fenetre.resize(fenetre.size() + QSize(barre, 0));
+    defilement->show(); // the window may be there already
+    seul->activate();
     return true;
 }
 
