@@ -15,6 +15,10 @@ PAQUETS_PROGRAMME=(
     zlib1g-dev
 )
 PAQUETS_WAYLAND=(qt6-wayland) # for a session without X at all
+# What an installed program has besides itself, and the checks of a package.
+PAQUETS_PAQUET=(
+    appstream cmark-gfm desktop-file-utils dpkg-dev file librsvg2-bin libxml2-utils lintian man-db
+)
 # Tests: second compiler, sanitizers, lint, and a small desktop for the end-to-end test.
 PAQUETS_TESTS=(
     at-spi2-core clang clang-format clang-tidy dbus gir1.2-atspi-2.0 libbenchmark-dev libclang-rt-14-dev
@@ -55,7 +59,9 @@ Ce système n'est pas une Debian 12 : rien n'est installé automatiquement. Il f
   - Qt 6.4 ou plus récent avec ses fichiers de développement (Widgets) et son module SVG, CLI11 2.1,
     nlohmann-json 3.11 et zlib ;
   - pour les tests : clang++, clang-format et clang-tidy 14, GoogleTest, ShellCheck, Xvfb, xauth,
-    openbox, poppler-utils, dbus-run-session, at-spi2-core et le module Python pyatspi.
+    openbox, poppler-utils, dbus-run-session, at-spi2-core et le module Python pyatspi ;
+  - pour l'installation : cmark-gfm, rsvg-convert, desktop-file-validate, appstreamcli, xmllint,
+    man, file et dpkg-shlibdeps.
 Sous Debian 12 ce sont les paquets :
 $(printf '%s ' "$@" | fold -s -w 92 | sed 's/^/  /')
 Une fois tout cela en place, relancez avec TAVOLMEX_SANS_INSTALLER=1.

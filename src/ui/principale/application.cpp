@@ -4,7 +4,6 @@
 #include "config/dossier.h"
 #include "ui/commun/application_sure.h"
 #include "ui/commun/ligne_texte.h"
-#include "ui/commun/style.h"
 #include "ui/principale/fin_signalee.h"
 #include "ui/principale/sim1.h"
 
@@ -31,7 +30,7 @@ void dire_et_finir(QtMsgType sorte, const QMessageLogContext&, const QString& te
 void ecouter_la_fin(Sim1& sim, FinSignalee& fin) {
     fin.brancher([&sim](int signal) {
         sim.ecrire_reprises();
-        FinSignalee::finir(signal);
+        systeme::SignauxDeFin::finir(signal);
     });
     QObject::connect(
         qApp, &QGuiApplication::commitDataRequest, &sim, [&sim] { sim.ecrire_reprises(); },
@@ -63,11 +62,12 @@ int executer_application(int& argc, char** argv,
                          const std::function<void(Sim1&)>& prete) {
     qInstallMessageHandler(dire_et_finir);
     QLocale::setDefault(QLocale(QLocale::French, QLocale::France)); // whatever the environment says
-    style::installer();
+    QApplication::setStyle("Fusion");
     FinSignalee fin;
     const ApplicationSure application(argc, argv);
     QApplication::setApplicationName("Tavolmex");
     QApplication::setOrganizationName("Tavolmex");
+    QApplication::setDesktopFileName("org.tavolmex.tavolmex"); // the menu entry's name
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QTranslator francais;
     if (francais.load("qtbase_fr", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -1,0 +1,10 @@
+# Read by cpack for each kind of package: which arrangement of the programs goes into it.
+set(arrangement dossier)
+if(CPACK_GENERATOR STREQUAL "DEB")
+    set(arrangement systeme)
+else()
+    set(CPACK_PACKAGING_INSTALL_PREFIX /)
+    set(CPACK_PACKAGE_FILE_NAME Tavolmex-${CPACK_PACKAGE_VERSION})
+endif()
+list(GET CPACK_BUILD_SOURCE_DIRS 1 construction)
+set(CPACK_INSTALL_CMAKE_PROJECTS "${construction};Tavolmex;${arrangement};/")

@@ -1,0 +1,20 @@
+# cpack makes a Debian package and a folder that runs where it is unpacked.
+set(CPACK_PACKAGE_NAME tavolmex)
+set(CPACK_PACKAGE_VENDOR "les auteurs de Tavolmex")
+set(CPACK_PACKAGE_CONTACT "les auteurs de Tavolmex <equipe@tavolmex.invalid>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "simulator of a contest robot and its trajectories")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+    "Plays the match of a two-wheeled contest robot on a table that one draws,\n records trajectories with a remote control, checks the whole match and turns\n the trajectories into PICBASIC code. Windows, messages and manual are French.")
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_GENERATOR DEB TGZ)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Qt loads these by name: SVG pictures, its own texts in French.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, qt6-translations-l10n")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland")
+set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_CURRENT_SOURCE_DIR}/CPackParSorte.cmake)
+include(CPack)
