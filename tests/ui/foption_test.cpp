@@ -1,6 +1,5 @@
 #include "ui/banc.h"
 
-#include <QAccessible>
 #include <QMenu>
 #include <QRadioButton>
 
@@ -127,28 +126,6 @@ TEST_F(Options, un_clic_sur_le_libelle_ne_le_coche_pas) {
     cliquer("Check4");
     QTest::keyClick(&trouver("Check4"), Qt::Key_Space);
     EXPECT_FALSE(trouver<QCheckBox>("Check4").isChecked());
-}
-
-TEST_F(Options, chaque_controle_a_un_nom_pour_les_outils_d_assistance) {
-    demarrer();
-    cocher("utiliDamier", true);
-    for (const char* bouton : {"Command5", "dessinAire", "generer", "Aide"})
-        cliquer(bouton);
-    trouver<QRadioButton>("chx_dessinRobot").setChecked(true);
-    trouver<QPushButton>("Choisir").click();
-    trouver<QPushButton>("visu_gene").click();
-    options().montrer(); // the console hides it
-    for (const QWidget* controle : sim->findChildren<QWidget*>()) {
-        if (controle->objectName().isEmpty() || controle->objectName().startsWith("qt_") ||
-            !controle->isVisible())
-            continue;
-        QAccessibleInterface* outil =
-            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(controle)); // Qt's signature
-        ASSERT_NE(outil, nullptr);
-        const bool muette = dynamic_cast<const LigneTexte*>(controle) != nullptr; // before a run
-        EXPECT_EQ(outil->text(QAccessible::Name).isEmpty(), muette)
-            << controle->objectName().toStdString();
-    }
 }
 
 } // namespace

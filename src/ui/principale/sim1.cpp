@@ -54,7 +54,6 @@ void Sim1::nommer() {
     setMinimumSize(160, 160);
     Timer.setTimerType(Qt::PreciseTimer);
     Table.setAccessibleName("Aire de jeu");
-    Table.setAccessibleDescription("Affiche les options");
     Table.setContextMenuPolicy(Qt::CustomContextMenu);
     logo.setAccessibleName("Logo");
 }
@@ -75,6 +74,7 @@ void Sim1::connecter() {
             if (bilan.fin)
                 fins.push_back(*bilan.fin);
         barre_.montrer_fins(std::move(fins));
+        decrire_la_table();
     });
 }
 

@@ -111,6 +111,8 @@ private:
     void changer_vitesse(double vitesse);
     void montrer_rythme();
     void titrer();
+    /// The table in words, for assistive tools: at rest and in a pause, not at every tick.
+    void decrire_la_table();
     /// A command with its key, which the options window and the console answer too.
     QAction& commande(const char* nom, const QString& texte, const QKeySequence& touche,
                       std::function<void()> procedure);

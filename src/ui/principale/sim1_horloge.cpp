@@ -1,4 +1,5 @@
 // The match's clock: its pace, its pause, its single steps.
+#include "analyse/resume_table.h"
 #include "ui/commun/vitesses.h"
 #include "ui/console/telecommande.h"
 #include "ui/principale/sim1.h"
@@ -63,6 +64,7 @@ void Sim1::avancer_d_un_pas() {
         return;
     seance_.moteur().Timer_Timer();
     barre_.avancer(e->TempsEcoule);
+    decrire_la_table();
 }
 
 void Sim1::changer_vitesse(double vitesse) {
@@ -86,6 +88,13 @@ void Sim1::montrer_rythme() {
     pause_->setChecked(suspendue_);
     barre_.suspendre(suspendue_);
     titrer();
+    decrire_la_table();
+}
+
+void Sim1::decrire_la_table() {
+    const std::string texte =
+        Timer.isActive() ? "Le match court. En pause, la table se décrit." : resume_de_la_table(*e);
+    Table.setAccessibleDescription(texte_qt(texte) + " Un clic affiche les options.");
 }
 
 // The bare caption is the default project's.
