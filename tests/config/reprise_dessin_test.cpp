@@ -3,8 +3,14 @@
 #include "config/document_robot.h"
 #include "config/document_table.h"
 #include "outils/dossier_temporaire.h"
+#include "outils/pannes.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -53,6 +59,35 @@ TEST(DessinFige, un_fichier_abime_est_refuse) {
     }
     for (const char* autre : {"", "x", "99999999999999999999:", "5:abc", "-1:", "3:abc"})
         EXPECT_THROW(lire_dessin(autre), ErreurExecution) << autre;
+}
+
+// Killed at any instant: what was written whole is never lost.
+TEST(RepriseDessin, tue_a_tout_instant_le_dernier_dessin_ecrit_est_propose) {
+    const std::vector<std::string> etats{"", "premier", "deuxieme", "troisieme"};
+    bool finie = false;
+    for (int pas = 1; !finie; ++pas) {
+        const DossierTemporaire d;
+        std::array<int, 2> tube{};
+        ASSERT_EQ(::pipe(tube.data()), 0);
+        finie = tuer_au_pas(pas, [&] {
+            RepriseDessin reprise(d.chemin(), GenreFichier::table);
+            for (std::size_t i = 1; i < etats.size(); ++i) {
+                reprise.ecrire({"/f", etats[i], ""});
+                static_cast<void>(!::write(tube[1], "x", 1));
+            }
+        });
+        ::close(tube[1]);
+        std::array<char, 8> recu{};
+        const auto ecrits = static_cast<std::size_t>(::read(tube[0], recu.data(), recu.size()));
+        ::close(tube[0]);
+        RepriseDessin suivante(d.chemin(), GenreFichier::table);
+        const std::string trouve =
+            suivante.prendre_la_suivante() ? suivante.lire().sur_le_disque : "";
+        EXPECT_TRUE(trouve == etats.at(ecrits) ||
+                    trouve == etats.at(std::min<std::size_t>(3, ecrits + 1)))
+            << pas << " : " << ecrits << " " << trouve;
+        EXPECT_TRUE(!finie || ecrits == 3);
+    }
 }
 
 } // namespace

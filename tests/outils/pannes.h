@@ -28,10 +28,9 @@ private:
     void (*ancien_)(int) = nullptr;
 };
 
-/// Runs `action` in a child that is killed at its `arret`-th system call. @returns true when it
-/// ended by itself before
+/// Runs `action` in a child that is killed at its `arret`-th system call. @returns how many it made
 template <typename Action>
-bool tuer_au_pas(int arret, Action action) {
+int pas_avant_la_mort(int arret, Action action) {
     const pid_t enfant = ::fork();
     if (enfant == 0) {
         if (::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0)
@@ -42,13 +41,20 @@ bool tuer_au_pas(int arret, Action action) {
     }
     int etat = 0;
     ::waitpid(enfant, &etat, 0);
-    for (int pas = 0; WIFSTOPPED(etat) && pas < arret; ++pas) {
+    int pas = 0;
+    for (; WIFSTOPPED(etat) && pas < arret; ++pas) {
         ::ptrace(PTRACE_SYSCALL, enfant, nullptr, nullptr);
         ::waitpid(enfant, &etat, 0);
     }
-    if (!WIFSTOPPED(etat))
-        return true;
-    ::kill(enfant, SIGKILL);
-    ::waitpid(enfant, &etat, 0);
-    return false;
+    if (WIFSTOPPED(etat)) {
+        ::kill(enfant, SIGKILL);
+        ::waitpid(enfant, &etat, 0);
+    }
+    return pas;
+}
+
+/// The same. @returns true when it ended by itself before
+template <typename Action>
+bool tuer_au_pas(int arret, Action action) {
+    return pas_avant_la_mort(arret, action) < arret;
 }
