@@ -3,11 +3,15 @@ function(reglages cible)
     target_compile_features(${cible} PUBLIC cxx_std_20)
     set_target_properties(${cible} PROPERTIES CXX_EXTENSIONS OFF)
     target_include_directories(${cible} PUBLIC ${PROJECT_SOURCE_DIR}/src)
-    target_compile_options(${cible} PRIVATE
-        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
-        -Woverloaded-virtual -Wnon-virtual-dtor
-        # Results must not depend on whether the compiler fuses a product and a sum.
-        -ffp-contract=off)
+    if(MSVC) # its /fp:precise, the default, fuses no product and sum
+        target_compile_options(${cible} PRIVATE /W4 /utf-8 /permissive-)
+    else()
+        target_compile_options(${cible} PRIVATE
+            -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+            -Woverloaded-virtual -Wnon-virtual-dtor
+            # Results must not depend on whether the compiler fuses a product and a sum.
+            -ffp-contract=off)
+    endif()
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
         # g++ 12 raises it falsely on sums of strings (its bug 105651).
         target_compile_options(${cible} PRIVATE -Wno-restrict)

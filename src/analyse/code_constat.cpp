@@ -59,7 +59,7 @@ std::optional<CodeDuRobot> code_du_projet(const Projet& projet) {
     try {
         const auto fichier = projet.chemin(" PourGenerer10.ini");
         return CodeDuRobot{relire_entree(lire_octets(fichier), fichier),
-                           fichier.lexically_relative(projet.dossier_application())};
+                           fichier.lexically_relative(projet.dossier_application()).string()};
     } catch (const ErreurExecution&) {
         return std::nullopt; // none, or the generator says why it cannot be read
     }

@@ -6,7 +6,7 @@
 Constat constat_de(const ErreurDeLecture& erreur, const std::filesystem::path& dossier) {
     const std::string_view raison = rogner(erreur.raison); // without the key's padding
     Constat c{.genre = Genre::lecture,
-              .fichier = erreur.fichier.lexically_relative(dossier),
+              .fichier = erreur.fichier.lexically_relative(dossier).string(),
               .texte = "lecture impossible : " + std::string(raison) +
                        ". Le match est joué sans la suite de ce fichier, avec des données de "
                        "secours : corrigez-le d'abord."};
@@ -20,7 +20,8 @@ Constat constat_de(const ErreurDeLecture& erreur, const std::filesystem::path& d
 Provenance provenance_de(const Projet& projet) {
     Provenance p;
     for (int n = 1; n <= robots_des_fichiers; ++n) {
-        p.fichier(n) = projet.chemin_trajet(n).lexically_relative(projet.dossier_application());
+        p.fichier(n) =
+            projet.chemin_trajet(n).lexically_relative(projet.dossier_application()).string();
         p.lignes(n) = projet.lignes_trajet(n);
     }
     p.code = code_du_projet(projet);

@@ -3,18 +3,16 @@
 #include "base/raisons.h"
 #include "base/visible.h"
 
-#include <array>
 #include <cerrno>
 #include <utility>
 
 // The system's own texts are English or follow the locale.
 std::string raison_systeme(int numero) {
-    constexpr std::array<std::pair<int, const char*>, 26> connues{{
+    static constexpr std::pair<int, const char*> connues[] = {
         {ENOENT, "le fichier n'existe pas"},
         {EACCES, "accès refusé"},
         {EPERM, "opération interdite"},
         {ENOSPC, "le disque est plein"},
-        {EDQUOT, "l'espace disque accordé est épuisé"},
         {EROFS, "le disque est en lecture seule"},
         {EISDIR, "c'est un dossier"},
         {ENOTDIR, "une partie du chemin n'est pas un dossier"},
@@ -33,10 +31,15 @@ std::string raison_systeme(int numero) {
         {ENOMEM, "la mémoire manque"},
         {ENXIO, "le périphérique ne répond pas"},
         {ENODEV, "le périphérique n'existe pas"},
-        {ESTALE, "le disque du réseau ne répond plus"},
         {EXDEV, "le fichier est sur un autre disque"},
         {EAGAIN, "le fichier est occupé"},
-    }};
+#ifdef EDQUOT // not on every system
+        {EDQUOT, "l'espace disque accordé est épuisé"},
+#endif
+#ifdef ESTALE
+        {ESTALE, "le disque du réseau ne répond plus"},
+#endif
+    };
     for (const auto& [n, texte] : connues) {
         if (n == numero)
             return texte;

@@ -1,11 +1,8 @@
 #include "base/fichiers.h"
 
 #include "base/brouillon.h"
+#include "base/systeme.h"
 #include "base/texte.h"
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -17,51 +14,9 @@
 #include <vector>
 
 namespace fs = std::filesystem;
+using systeme::Descripteur;
 
 namespace {
-
-constexpr std::string_view pas_ordinaire = "ce n'est pas un fichier ordinaire";
-
-// An open file that closes itself; fermer() reports what close() says.
-class Descripteur {
-public:
-    explicit Descripteur(int numero) : numero_(numero) {}
-    Descripteur(const Descripteur&) = delete;
-    Descripteur& operator=(const Descripteur&) = delete;
-    ~Descripteur() { fermer(); }
-
-    int numero() const { return numero_; }
-    bool ouvert() const { return numero_ >= 0; }
-    bool fermer() {
-        const int n = numero_;
-        numero_ = -1;
-        return n < 0 || ::close(n) == 0;
-    }
-
-private:
-    int numero_;
-};
-
-bool ecrire_tout(int numero, std::string_view octets) {
-    while (!octets.empty()) {
-        const ssize_t n = ::write(numero, octets.data(), octets.size());
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0)
-            return false;
-        octets.remove_prefix(static_cast<std::size_t>(n));
-    }
-    return true;
-}
-
-mode_t droits_voulus(const fs::path& chemin) {
-    struct stat etat {};
-    if (::stat(chemin.c_str(), &etat) == 0)
-        return etat.st_mode & 07777U;
-    const mode_t masque = ::umask(0);
-    ::umask(masque);
-    return 0666U & ~masque;
-}
 
 // The file that a rename must replace: the one a symbolic link points to, even if it is missing.
 fs::path cible_reelle(const fs::path& chemin) {
@@ -76,31 +31,33 @@ fs::path cible_reelle(const fs::path& chemin) {
     return cible;
 }
 
-// A rename would replace a device or a write-protected file without asking.
-void refuser_si_intouchable(const fs::path& chemin, const fs::path& cible) {
-    struct stat etat {};
-    if (::stat(cible.c_str(), &etat) != 0)
-        return;
-    if (S_ISDIR(etat.st_mode))
+void exiger_un_fichier(const fs::path& chemin, const systeme::Infos& infos) {
+    if (infos.sorte == systeme::Sorte::dossier)
         throw ErreurFichier(chemin, EISDIR);
-    if (!S_ISREG(etat.st_mode))
-        throw ErreurFichier(chemin, pas_ordinaire);
-    if (::access(cible.c_str(), W_OK) != 0)
+    if (infos.sorte != systeme::Sorte::ordinaire)
+        throw ErreurFichier(chemin, "ce n'est pas un fichier ordinaire");
+}
+
+// A rename would replace a device or a write-protected file without asking.
+void refuser_si_intouchable(const fs::path& chemin, const std::string& cible) {
+    const auto infos = systeme::infos(cible.c_str());
+    if (!infos)
+        return;
+    exiger_un_fichier(chemin, *infos);
+    if (!systeme::peut_ecrire(cible.c_str()))
         throw ErreurFichier(chemin, errno);
 }
 
 void vider_dossier_sur_disque(const fs::path& dossier) {
-    const Descripteur d(::open(dossier.empty() ? "." : dossier.c_str(), O_RDONLY | O_DIRECTORY));
-    if (d.ouvert())
-        ::fsync(d.numero()); // best effort: the rename itself has succeeded
+    const std::string chemin = dossier.empty() ? "." : dossier.string();
+    const Descripteur d(chemin.c_str(), systeme::Ouverture::dossier);
+    d.vers_le_disque(); // best effort: the rename itself has succeeded
 }
 
 // Present local time as "2026-03-01_14h05m09": copies sort by date, and no character of it is
 // special to a shell.
 std::string date_et_heure() {
-    const std::time_t maintenant = std::time(nullptr);
-    std::tm champs{};
-    ::localtime_r(&maintenant, &champs);
+    const std::tm champs = systeme::heure_locale(std::time(nullptr)).value_or(std::tm{});
     std::array<char, 32> tampon{};
     const std::size_t n = std::strftime(tampon.data(), tampon.size(), "%Y-%m-%d_%Hh%Mm%S", &champs);
     return {tampon.data(), n};
@@ -139,25 +96,19 @@ std::vector<std::pair<long, fs::path>> versions_numerotees(const fs::path& chemi
 }
 
 std::string lire(const char* chemin, std::size_t maximum, TropGrand trop_grand) {
-    // Non-blocking, so that a FIFO in place of the file cannot hold the program up.
-    const Descripteur d(::open(chemin, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    struct stat etat {};
-    if (!d.ouvert() || ::fstat(d.numero(), &etat) != 0)
+    const Descripteur d(chemin, systeme::Ouverture::lecture);
+    const auto infos = d.ouvert() ? d.infos() : std::nullopt;
+    if (!infos)
         throw ErreurFichier(chemin, errno);
-    if (S_ISDIR(etat.st_mode))
-        throw ErreurFichier(chemin, EISDIR);
-    if (!S_ISREG(etat.st_mode))
-        throw ErreurFichier(chemin, pas_ordinaire);
-    auto taille = static_cast<std::size_t>(etat.st_size);
+    exiger_un_fichier(chemin, *infos);
+    auto taille = static_cast<std::size_t>(infos->taille);
     if (taille > maximum && trop_grand == TropGrand::refuse)
         throw ErreurFichier(chemin, "le fichier est trop grand");
     taille = std::min(taille, maximum);
     std::string octets(taille, '\0');
     std::size_t lus = 0;
     while (lus < taille) {
-        const ssize_t n = ::read(d.numero(), octets.data() + lus, taille - lus);
-        if (n < 0 && errno == EINTR)
-            continue;
+        const std::ptrdiff_t n = d.lire(octets.data() + lus, taille - lus);
         if (n < 0)
             throw ErreurFichier(chemin, errno);
         if (n == 0)
@@ -171,7 +122,7 @@ std::string lire(const char* chemin, std::size_t maximum, TropGrand trop_grand) 
 } // namespace
 
 std::string lire_octets(const fs::path& chemin, std::size_t maximum) {
-    return lire_octets_natif(chemin.c_str(), maximum);
+    return lire_octets_natif(chemin.string().c_str(), maximum);
 }
 
 std::string lire_octets_natif(const char* chemin, std::size_t maximum) {
@@ -179,33 +130,34 @@ std::string lire_octets_natif(const char* chemin, std::size_t maximum) {
 }
 
 std::string lire_debut(const fs::path& chemin, std::size_t maximum) {
-    return lire(chemin.c_str(), maximum, TropGrand::coupe);
+    return lire(chemin.string().c_str(), maximum, TropGrand::coupe);
 }
 
 void remplacer_fichier(const fs::path& chemin, std::string_view octets) {
-    const fs::path cible = cible_reelle(chemin);
+    const fs::path place = cible_reelle(chemin);
+    const std::string cible = place.string();
     refuser_si_intouchable(chemin, cible);
-    retirer_brouillons(cible.parent_path());
+    retirer_brouillons(place.parent_path());
     std::string brouillon;
-    Descripteur d(creer_brouillon(cible.parent_path(), brouillon));
+    Descripteur d = creer_brouillon(place.parent_path(), brouillon);
     if (!d.ouvert())
         throw ErreurFichier(chemin, errno);
     // Keeps the draft locked, and so from being removed, between the closing and the renaming.
-    const Descripteur verrou(::fcntl(d.numero(), F_DUPFD_CLOEXEC, 0));
-    const bool ecrit =
-        ecrire_tout(d.numero(), octets) && ::fchmod(d.numero(), droits_voulus(cible)) == 0 &&
-        ::fsync(d.numero()) == 0 && d.fermer() && ::rename(brouillon.c_str(), cible.c_str()) == 0;
+    const Descripteur verrou = d.doubler();
+    const bool ecrit = d.ecrire_tout(octets) && d.prendre_les_droits(cible.c_str()) &&
+                       d.vers_le_disque() && d.fermer() &&
+                       systeme::renommer(brouillon.c_str(), cible.c_str());
     if (!ecrit) {
         const int erreur = errno;
-        ::unlink(brouillon.c_str());
+        systeme::supprimer(brouillon.c_str());
         throw ErreurFichier(chemin, erreur);
     }
-    vider_dossier_sur_disque(cible.parent_path());
+    vider_dossier_sur_disque(place.parent_path());
 }
 
 fs::path trouver_fichier(const fs::path& dossier, std::string_view nom) {
     // Put together as text: a name that begins with a separator stays below the directory.
-    fs::path exact(dossier.native() + "/" + std::string(nom));
+    fs::path exact(dossier.string() + "/" + std::string(nom));
     std::error_code erreur;
     if (fs::exists(exact, erreur))
         return exact;

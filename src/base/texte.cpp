@@ -3,8 +3,6 @@
 #include "base/marque.h"
 #include "base/visible.h"
 
-#include <iconv.h>
-
 #include <algorithm>
 #include <bit>
 #include <cstring>
@@ -13,44 +11,6 @@
 static_assert(std::endian::native == std::endian::little);
 
 namespace {
-
-// One conversion by the C library; what it cannot convert becomes `remplacement`.
-class Convertisseur {
-public:
-    Convertisseur(const char* vers, const char* depuis) : etat_(iconv_open(vers, depuis)) {
-        // iconv_open's own sign of failure is the pointer -1.
-        if (etat_ == reinterpret_cast<iconv_t>(-1)) // NOLINT
-            throw ErreurExecution("ce système ne sait pas convertir un texte Windows-1252");
-    }
-    Convertisseur(const Convertisseur&) = delete;
-    Convertisseur& operator=(const Convertisseur&) = delete;
-    ~Convertisseur() { iconv_close(etat_); }
-
-    std::string convertir(std::string_view texte, std::string_view remplacement,
-                          bool entree_utf8) const {
-        std::string entree(texte);
-        std::string resultat(texte.size() * 3, '\0'); // a byte gives at most three
-        char* source = entree.data();
-        std::size_t reste = entree.size();
-        char* sortie = resultat.data();
-        std::size_t place = resultat.size();
-        while (reste > 0 &&
-               iconv(etat_, &source, &reste, &sortie, &place) == static_cast<std::size_t>(-1)) {
-            const std::size_t saut =
-                entree_utf8 ? std::max<std::size_t>(1, longueur_sequence({source, reste})) : 1;
-            std::memcpy(sortie, remplacement.data(), remplacement.size());
-            sortie += remplacement.size();
-            place -= remplacement.size();
-            source += saut;
-            reste -= saut;
-        }
-        resultat.resize(resultat.size() - place);
-        return resultat;
-    }
-
-private:
-    iconv_t etat_;
-};
 
 // Letters whose case differs beyond ASCII: U+00C0..U+00DE and U+00E0..U+00FE lie in the second
 // byte after C3, less the signs × and ÷; Œ œ are C5 92, C5 93; Ÿ is C5 B8 and ÿ C3 BF.
@@ -156,13 +116,7 @@ std::string en_utf8(std::string octets) {
         octets.erase(0, marque_utf8.size());
     if (est_utf8(octets))
         return octets;
-    return Convertisseur("UTF-8", "WINDOWS-1252").convertir(octets, "\xEF\xBF\xBD", false);
-}
-
-std::string encoder(std::string_view texte, Encodage encodage) {
-    if (encodage == Encodage::utf8)
-        return std::string(texte);
-    return Convertisseur("WINDOWS-1252", "UTF-8").convertir(texte, "?", true);
+    return utf8_de_windows1252(octets);
 }
 
 std::string majuscules(std::string_view texte) {

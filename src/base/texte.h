@@ -27,8 +27,8 @@ Encodage encodage_de(std::string_view octets);
 
 /// The bytes of a text file as UTF-8: a UTF-8 byte-order mark is dropped, bytes that are not valid
 /// UTF-8 are read as Windows-1252 (its five unassigned bytes become U+FFFD).
-/// @throws ErreurExecution when the system cannot convert Windows-1252 (encoder likewise)
 std::string en_utf8(std::string octets);
+std::string utf8_de_windows1252(std::string_view octets);
 
 /// UTF-8 to the bytes of `encodage`; a character that Windows-1252 lacks becomes "?".
 std::string encoder(std::string_view texte, Encodage encodage);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/systeme.h"
+
 #include <filesystem>
 #include <optional>
 
@@ -11,15 +13,15 @@ public:
     /// made
     static std::optional<Verrou> prendre(const std::filesystem::path& fichier);
 
-    Verrou(Verrou&& autre) noexcept;
+    Verrou(Verrou&& autre) = default;
     Verrou& operator=(Verrou&& autre) noexcept;
     ~Verrou();
 
 private:
-    Verrou(std::filesystem::path fichier, int numero)
-        : fichier_(std::move(fichier)), numero_(numero) {}
+    Verrou(std::filesystem::path fichier, systeme::Descripteur d)
+        : fichier_(std::move(fichier)), descripteur_(std::move(d)) {}
     void rendre();
 
     std::filesystem::path fichier_;
-    int numero_; ///< file descriptor, -1: moved away
+    systeme::Descripteur descripteur_; ///< closed: moved away
 };

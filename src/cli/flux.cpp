@@ -2,9 +2,6 @@
 
 #include "base/raisons.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <cstdio>
 #include <iostream>
@@ -16,14 +13,6 @@ ErreurFichier erreur_de_flux(const char* nom, int numero) {
 }
 
 } // namespace
-
-void occuper_les_descripteurs() {
-    for (const int numero : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        // The lowest free number is the one that opening takes.
-        if (::fcntl(numero, F_GETFD) == -1 && errno == EBADF)
-            ::open("/dev/null", numero == STDIN_FILENO ? O_WRONLY : O_RDONLY);
-    }
-}
 
 std::optional<ErreurFichier> terminer_la_sortie() {
     const int avant = errno; // of a writing that failed earlier

@@ -8,11 +8,6 @@
 
 // The three standard streams, as the shell hands them over: open, closed, full or unreadable.
 
-/// Puts something in the place of a closed standard descriptor, against which every reading and
-/// writing fails: else the first file that is opened would take its number, and would receive what
-/// is meant for the terminal. To be called before anything is opened.
-void occuper_les_descripteurs();
-
 /// Writes out what standard output still holds. @returns why the user did not get all of it;
 /// nothing when he did
 std::optional<ErreurFichier> terminer_la_sortie();

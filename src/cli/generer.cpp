@@ -1,3 +1,4 @@
+#include "base/systeme.h"
 #include "base/texte.h"
 #include "base/visible.h"
 #include "cli/choix.h"
@@ -8,8 +9,6 @@
 #include "codegen/generateur.h"
 #include "config/dossier.h"
 #include "record/origine.h"
-
-#include <unistd.h>
 
 #include <iostream>
 #include <memory>
@@ -31,7 +30,7 @@ struct ChoixGenerer {
 bool repondre(const ChoixGenerer& choix, std::string_view question) {
     if (!choix.ecraser.empty())
         return choix.ecraser == "oui";
-    if (::isatty(STDIN_FILENO) == 0)
+    if (!systeme::est_un_terminal(systeme::Flux::entree))
         return false;
     std::cerr << visible(question) << " [o/N] " << std::flush;
     const std::string reponse = minuscules(rogner(lire_ligne().value_or("")));
@@ -60,7 +59,7 @@ void avertir(const Demande& demande, const Apercu& apercu) {
 // What the generation will be answered, as far as it is known.
 bool ecrasera(const ChoixGenerer& choix) {
     if (choix.ecraser.empty() && !choix.apercu)
-        return ::isatty(STDIN_FILENO) != 0;
+        return systeme::est_un_terminal(systeme::Flux::entree);
     return choix.ecraser == "oui";
 }
 

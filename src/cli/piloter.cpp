@@ -1,5 +1,6 @@
 #include "cli/verbes.h"
 
+#include "base/systeme.h"
 #include "cli/choix.h"
 #include "cli/commande.h"
 #include "cli/fenetres_pilotees.h"
@@ -7,8 +8,6 @@
 #include "cli/sortie.h"
 #include "record/console.h"
 #include "sim/textes_actions.h"
-
-#include <unistd.h>
 
 #include <cstdio>
 #include <iostream>
@@ -36,7 +35,7 @@ public:
     FenetresPiloter(Etat& etat, std::string reponse)
         : FenetresPilotees(etat, std::cerr), reponse_(std::move(reponse)) {}
 
-    bool interactif() const { return ::isatty(STDIN_FILENO) != 0; }
+    bool interactif() const { return systeme::est_un_terminal(systeme::Flux::entree); }
 
     bool question(std::string_view texte, std::string_view explication = {}) override {
         FenetresTerminal::message(texte);

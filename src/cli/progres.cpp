@@ -1,6 +1,6 @@
 #include "cli/progres.h"
 
-#include <unistd.h>
+#include "base/systeme.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -22,7 +22,9 @@ std::string barre_de_progres(const std::string& titre, int pour_cent) {
 }
 
 Progres::Progres(std::string titre, std::int64_t total)
-    : titre_(std::move(titre)), total_(total), actif_(::isatty(STDERR_FILENO) == 1) {}
+    : titre_(std::move(titre)),
+      total_(total),
+      actif_(systeme::est_un_terminal(systeme::Flux::erreurs)) {}
 
 Progres::~Progres() {
     if (visible_)

@@ -1,10 +1,9 @@
 #include "cli/sortie.h"
 
 #include "base/fichiers.h"
+#include "base/systeme.h"
 #include "base/texte.h"
 #include "base/visible.h"
-
-#include <unistd.h>
 
 #include <cerrno>
 #include <fstream>
@@ -18,7 +17,7 @@ std::filesystem::path place_demandee(const std::string& chemin) {
 
 void ecrire_resultat(const std::filesystem::path& chemin, std::string_view octets) {
     if (chemin == "-") {
-        if (::isatty(STDOUT_FILENO) == 1)
+        if (systeme::est_un_terminal(systeme::Flux::sortie))
             std::cout << visible(octets, "\t\n");
         else
             std::cout << octets;
@@ -45,7 +44,7 @@ void ecrire_lignes(std::ostream& flux, std::string_view texte) {
         ecrire_ligne(flux, *ligne);
 }
 
-SortieDeLignes::SortieDeLignes() : terminal_(::isatty(STDOUT_FILENO) == 1) {}
+SortieDeLignes::SortieDeLignes() : terminal_(systeme::est_un_terminal(systeme::Flux::sortie)) {}
 
 void SortieDeLignes::ligne(std::string_view texte) const {
     if (terminal_)

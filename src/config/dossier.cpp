@@ -1,9 +1,7 @@
 #include "config/dossier.h"
 
 #include "base/erreurs.h"
-
-#include <pwd.h>
-#include <unistd.h>
+#include "base/systeme.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -15,19 +13,6 @@ namespace {
 fs::path variable(const char* nom) {
     const char* valeur = std::getenv(nom);
     return valeur != nullptr ? fs::path(valeur) : fs::path();
-}
-
-fs::path dossier_personnel() {
-    fs::path home = variable("HOME");
-    if (!home.empty())
-        return home;
-    const passwd* compte = ::getpwuid(::geteuid());
-    return compte != nullptr ? fs::path(compte->pw_dir) : fs::path();
-}
-
-fs::path dossier_executable() {
-    std::error_code erreur;
-    return fs::read_symlink("/proc/self/exe", erreur).parent_path();
 }
 
 // Absolute; "." and double separators go, ".." stays as it is (it may lie behind a link).
@@ -48,9 +33,10 @@ fs::path dossier_application(const std::optional<fs::path>& demande) {
         return absolu(*demande);
     if (const fs::path voulu = variable("TAVOLMEX_DOSSIER"); !voulu.empty())
         return absolu(voulu);
-    if (fs::path ici = dossier_executable(); !ici.empty() && ::access(ici.c_str(), W_OK) == 0)
+    fs::path ici = systeme::programme().parent_path();
+    if (!ici.empty() && systeme::peut_ecrire(ici.string().c_str()))
         return ici;
-    return absolu(dossier_personnel() / "Tavolmex");
+    return absolu(systeme::dossier_personnel() / "Tavolmex");
 }
 
 void entrer_dans_dossier(const fs::path& dossier) {

@@ -112,7 +112,7 @@ std::string nom_de_fichier(std::string_view projet, std::string_view suffixe) {
 // Put together as text: whatever the suffix, the file lies below the directory.
 std::filesystem::path chemin_de_projet(const std::filesystem::path& configuration,
                                        std::string_view projet, std::string_view suffixe) {
-    return {configuration.native() + "/" + nom_de_fichier(projet, suffixe)};
+    return {configuration.string() + "/" + nom_de_fichier(projet, suffixe)};
 }
 
 std::filesystem::path fichier_de_projet(const std::filesystem::path& configuration,

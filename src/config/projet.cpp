@@ -49,7 +49,7 @@ Projet::Projet(Etat& etat, Fenetres& fenetres, fs::path dossier_application)
     : etat_(etat),
       fenetres_(fenetres),
       dossier_(std::move(dossier_application)),
-      configuration_(dossier_configuration() / "") {}
+      configuration_((dossier_configuration() / "").string()) {}
 
 const fs::path& Projet::dossier_application() const {
     return dossier_;
@@ -119,7 +119,7 @@ bool Projet::lire(std::string_view projet, std::string_view suite, const Entier1
         try {
             return lire_octets_natif(chemin.c_str(), taille_lisible);
         } catch (const ErreurFichier&) {
-            chemin = fichier_de_projet(dossier_configuration(), projet, suite).native();
+            chemin = fichier_de_projet(dossier_configuration(), projet, suite).string();
             return lire_octets_natif(chemin.c_str(), taille_lisible);
         }
     };

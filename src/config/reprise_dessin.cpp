@@ -16,7 +16,7 @@ constexpr int rang_max = 50;
 std::string texte_dessin(const DessinGarde& dessin) {
     EcritureFigee texte;
     texte.mettre(marque);
-    texte.mettre(dessin.fichier.native());
+    texte.mettre(dessin.fichier.string());
     texte.mettre(dessin.sur_le_disque);
     texte.mettre(dessin.document);
     return texte.texte();
@@ -81,7 +81,7 @@ void RepriseDessin::ranger() {
 void RepriseDessin::mettre_de_cote() {
     const fs::path fichier = chemin(rang_, suffixe.data());
     std::error_code erreur;
-    fs::rename(fichier, fichier.native() + ".illisible", erreur);
+    fs::rename(fichier, fichier.string() + ".illisible", erreur);
     effacer();
 }
 

@@ -1,8 +1,8 @@
 #include "feuille/fichiers.h"
 
+#include "base/systeme.h"
 #include "config/projet.h"
 
-#include <sys/stat.h>
 #include <zlib.h>
 
 #include <array>
@@ -22,14 +22,14 @@ std::string crc32_de(std::string_view octets) {
 
 FichierDeFeuille decrire(const std::filesystem::path& chemin) {
     FichierDeFeuille fichier{chemin.filename().string(), "absent", ""};
-    struct stat infos {};
-    if (::stat(chemin.c_str(), &infos) != 0 || !S_ISREG(infos.st_mode))
+    const auto infos = systeme::infos(chemin.string().c_str());
+    if (!infos || infos->sorte != systeme::Sorte::ordinaire)
         return fichier;
     std::ifstream flux(chemin, std::ios::binary);
     const std::string octets{std::istreambuf_iterator<char>(flux), {}};
     if (flux.bad())
         return fichier;
-    fichier.date = date_lisible(infos.st_mtime);
+    fichier.date = date_lisible(infos->modifie);
     fichier.somme = crc32_de(octets);
     return fichier;
 }
@@ -37,11 +37,11 @@ FichierDeFeuille decrire(const std::filesystem::path& chemin) {
 } // namespace
 
 std::string date_lisible(std::time_t instant) {
-    std::tm local{};
+    const auto local = systeme::heure_locale(instant);
     std::array<char, 32> texte{};
-    if (::localtime_r(&instant, &local) == nullptr)
+    if (!local)
         return "";
-    return {texte.data(), std::strftime(texte.data(), texte.size(), "%d/%m/%Y %H:%M", &local)};
+    return {texte.data(), std::strftime(texte.data(), texte.size(), "%d/%m/%Y %H:%M", &*local)};
 }
 
 std::vector<FichierDeFeuille> fichiers_du_projet(const Projet& projet, int robots) {

@@ -129,13 +129,13 @@ TEST(RemplacerFichier, retire_ce_qu_un_programme_tue_a_laisse_et_rien_d_autre) {
     ASSERT_TRUE(WIFSIGNALED(etat));
     ASSERT_EQ(entrees(d.chemin()), 3) << "f, the notes and the child's draft";
     std::string vivant;
-    const int ouvert = creer_brouillon(d.chemin(), vivant);
+    systeme::Descripteur ouvert = creer_brouillon(d.chemin(), vivant);
     EXPECT_EQ(d.lire("f"), "ancien");
     remplacer_fichier(d / "f", "nouveau");
     EXPECT_EQ(d.lire("f"), "nouveau");
     EXPECT_EQ(entrees(d.chemin()), 3);
     EXPECT_TRUE(fs::exists(vivant));
-    ::close(ouvert);
+    ouvert.fermer();
     retirer_brouillons(d.chemin());
     EXPECT_FALSE(fs::exists(vivant));
     EXPECT_EQ(d.lire(".tavolmex-notes"), "à l'équipe");

@@ -83,6 +83,11 @@ TEST(EnUtf8, garde_l_utf8_valide_et_lit_le_reste_en_windows_1252) {
     EXPECT_EQ(encoder("Défaut 🤖!", Encodage::windows1252), "D\xE9"
                                                                "faut ?!");
     EXPECT_EQ(encoder("cass\xE9", Encodage::windows1252), "cass?");
+    for (int c = 1; c < 256; ++c) {
+        const std::string octet(1, static_cast<char>(c));
+        const bool attribue = std::string("\x81\x8D\x8F\x90\x9D").find(octet) == std::string::npos;
+        EXPECT_EQ(encoder(en_utf8(octet), Encodage::windows1252), attribue ? octet : "?") << c;
+    }
 }
 
 TEST(Casse, ascii_et_accents_francais_sans_toucher_aux_signes) {

@@ -22,14 +22,12 @@ constexpr int ecart_du_cadre = 60;
 constexpr int cadre_connu_ms = 250;
 
 // Controls that need more room than the screen has can be scrolled.
-// @returns whether it came to that
-bool rendre_defilante(QWidget& fenetre) {
+void rendre_defilante(QWidget& fenetre) {
     QLayout* controles = fenetre.layout();
     const QSize place = fenetre.screen()->availableGeometry().size() - cadre(fenetre);
     if (controles == nullptr || qobject_cast<QMainWindow*>(&fenetre) != nullptr ||
         controles->minimumSize().boundedTo(place) == controles->minimumSize())
-        return false;
-    controles->setSizeConstraint(QLayout::SetDefaultConstraint);
+        return;
     auto* contenu = new QWidget;
     contenu->setLayout(controles); // takes the controls along
     auto* defilement = new QScrollArea;
@@ -41,12 +39,8 @@ bool rendre_defilante(QWidget& fenetre) {
     seul->setContentsMargins({});
     seul->addWidget(defilement);
     fenetre.setMinimumSize(0, 0);
-    fenetre.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     const int barre = fenetre.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &fenetre);
     fenetre.resize(fenetre.size() + QSize(barre, 0));
-    defilement->show(); // the window may be there already
-    seul->activate();
-    return true;
 }
 
 // Within the limits that its controls set.
@@ -83,9 +77,6 @@ protected:
             montrer();
         if (evenement->type() == QEvent::Hide)
             retenir();
-        if (objet == &fenetre_ && evenement->type() == QEvent::LayoutRequest)
-            QMetaObject::invokeMethod(
-                this, [this] { suivre_les_controles(); }, Qt::QueuedConnection);
         return false;
     }
 
@@ -101,12 +92,6 @@ private:
         });
         if (!taille_)
             taille_ = fenetre_.size();
-    }
-
-    // Some appear later: a note, a list of warnings.
-    void suivre_les_controles() {
-        if (fenetre_.isVisible() && rendre_defilante(fenetre_))
-            ramener_dans_l_ecran(fenetre_);
     }
 
     bool deplacee() const {

@@ -6,7 +6,15 @@
 #include "seance/seance.h"
 #include "sim/textes_actions.h"
 #include "ui/commun/boites.h"
-#include "ui/commun/lisible.h"
+
+namespace {
+
+// Readable on the palette's background, light or dark.
+QColor couleur_d_alerte(const QPalette& p) {
+    return p.color(QPalette::Window).lightness() < 128 ? QColor(255, 150, 110) : QColor(176, 36, 0);
+}
+
+} // namespace
 
 void Télécommande::actualiser_liste() {
     liste_.clear();
@@ -88,7 +96,7 @@ void Télécommande::indiquer_position() {
 void Télécommande::surligner(const actions::Action* action) {
     const auto teinter = [this](QLineEdit& champ, bool utile) {
         QPalette p = palette();
-        if (utile && champ.isEnabled()) {
+        if (utile) {
             QColor teinte = p.color(QPalette::Highlight);
             teinte.setAlphaF(0.25F);
             p.setColor(QPalette::Base, teinte);

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "base/systeme.h"
+
 #include <QSocketNotifier>
 
-#include <csignal>
 #include <functional>
 #include <memory>
 
@@ -10,19 +11,10 @@
 /// To be made before the application object: its threads inherit what they do not take.
 class FinSignalee {
 public:
-    FinSignalee();
-    FinSignalee(const FinSignalee&) = delete;
-    FinSignalee& operator=(const FinSignalee&) = delete;
-    ~FinSignalee();
-
     /// From the event loop's start on. @param au_signal  what to do when one has come
     void brancher(std::function<void(int signal)> au_signal);
 
-    /// Ends the program at once as that signal does: nothing else of it runs.
-    [[noreturn]] static void finir(int signal);
-
 private:
-    sigset_t avant_{};
-    int numero_; ///< file descriptor
+    systeme::SignauxDeFin signaux_;
     std::unique_ptr<QSocketNotifier> annonce_;
 };

@@ -1,3 +1,4 @@
+#include "base/systeme.h"
 #include "base/version.h"
 #include "base/visible.h"
 #include "ui/feuille/exporter_sans_affichage.h"
@@ -5,7 +6,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <csignal>
 #include <cstdlib>
 #include <iostream>
 
@@ -56,7 +56,7 @@ int executer(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
-    std::signal(SIGXFSZ, SIG_IGN); // a file that grows past its limit is an error, not the end
+    systeme::preparer_le_processus();
     try {
         return executer(argc, argv);
     } catch (const std::exception& erreur) {

@@ -1,9 +1,8 @@
 #include "ui/principale/surveillance.h"
 
 #include "base/fichiers.h"
+#include "base/systeme.h"
 #include "ui/commun/boites.h"
-
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <functional>
@@ -34,11 +33,12 @@ std::filesystem::path Surveillance::fichier(std::size_t k) const {
 // A file that is missing or cannot be read keeps its print: it counts again once it is back.
 Surveillance::Empreinte Surveillance::empreinte(const std::filesystem::path& fichier,
                                                 const Empreinte& connue) {
-    struct stat s {};
-    if (::stat(fichier.c_str(), &s) != 0)
+    const auto infos = systeme::infos(fichier.string().c_str());
+    if (!infos)
         return connue;
-    const std::array<std::int64_t, 4> version{static_cast<std::int64_t>(s.st_ino), s.st_size,
-                                              s.st_ctim.tv_sec, s.st_ctim.tv_nsec};
+    const std::array<std::int64_t, 4> version{infos->numero,
+                                              static_cast<std::int64_t>(infos->taille),
+                                              infos->changement_s, infos->changement_ns};
     if (version == connue.version)
         return connue;
     try {

@@ -91,7 +91,8 @@ void dessiner(QPainter& p, Symbole symbole) {
 
 QIcon icone(Symbole symbole) {
     return icone_peinte(16, [symbole](QPainter& p) {
-        remplir(p);
+        p.setBrush(p.pen().color());
+        p.setPen(Qt::NoPen);
         dessiner(p, symbole);
     });
 }

@@ -2,7 +2,6 @@
 
 #include "analyse/phrases.h"
 #include "ui/commun/boites.h"
-#include "ui/commun/style.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -140,7 +139,8 @@ void VueFrise::peindre_boucle(QPainter& peintre) const {
         peintre.setPen(palette().color(QPalette::HighlightedText));
         peintre.drawText(drapeau, Qt::AlignCenter, nom);
     };
-    QFont petite = style::petite_police(font());
+    QFont petite = font();
+    petite.setPixelSize(10);
     petite.setBold(true);
     peintre.setFont(petite);
     if (d_.fin_boucle()) {
