@@ -168,8 +168,8 @@ void repeindre(benchmark::State& state) {
             banc.e.ZoneRedessin = {0, banc.e.XMax, 0, banc.e.YMax};
             peindre_table(banc.e, s);
             banc.e.ZoneRedessin = avant;
-            for (const Contours::Trait& t : contours)
-                s.ligne(t.x1, t.y1, t.x2, t.y2, t.couleur);
+            for (const Trait& t : contours.traits())
+                s.ligne(t.a.x, t.a.y, t.b.x, t.b.y, couleurs::cyan);
         },
         [&] { table.repaint(region); });
 }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <string>
 #include <utility>
 
@@ -129,22 +130,19 @@ void Silhouette::peindre(double x, double y, double cap, Surface& s) const {
     s.opacite(opacite_du_fond);
     s.reunion(places, couleur);
     s.opacite(1);
+    const Forme points = reperes(x, y, cap);
+    s.polygone(std::span(points).subspan(1), couleur);
+    peindre_numero(points.front(), s);
+}
+
+// The number stands behind the middle, where paths begin.
+Forme Silhouette::reperes(double x, double y, double cap) const {
     const double base = avant_ - 0.35 * taille_;
-    s.polygone(placee({{avant_ - retrait * taille_, milieu_},
-                       {base, milieu_ + taille_ / 5},
-                       {base, milieu_ - taille_ / 5}},
-                      x, y, cap),
-               couleur);
-    peindre_numero(place_du_numero(x, y, cap), s);
-}
-
-PointTable Silhouette::pointe(double x, double y, double cap) const {
-    return placee({{avant_ - retrait * taille_, milieu_}}, x, y, cap).front();
-}
-
-// Behind the middle, where paths begin.
-PointTable Silhouette::place_du_numero(double x, double y, double cap) const {
-    return placee({{arriere_ + 0.4 * taille_, milieu_}}, x, y, cap).front();
+    return placee({{arriere_ + 0.4 * taille_, milieu_},
+                   {avant_ - retrait * taille_, milieu_},
+                   {base, milieu_ + taille_ / 5},
+                   {base, milieu_ - taille_ / 5}},
+                  x, y, cap);
 }
 
 double Silhouette::rayon_du_numero(double cm_par_pixel) const {

@@ -21,9 +21,8 @@ public:
     void peindre(double x, double y, double cap, Surface& s) const;
 
     // Some of it, where it must be painted in microseconds.
-    /// Where the number goes, and the tip of the mark, at a pose.
-    PointTable place_du_numero(double x, double y, double cap) const;
-    PointTable pointe(double x, double y, double cap) const;
+    /// Where the number goes at a pose, then the three corners of the mark.
+    Forme reperes(double x, double y, double cap) const;
     void peindre_numero(PointTable milieu, Surface& s) const;
     /// Radius of its disc, pixels; 0 where it could not be read.
     double rayon_du_numero(double cm_par_pixel) const;

@@ -30,6 +30,11 @@ struct PointTable {
     double x, y;
 };
 
+/// A straight line in table coordinates (cm).
+struct Trait {
+    PointTable a, b;
+};
+
 using Forme = std::vector<PointTable>;
 
 /// A drawing surface in table coordinates (cm, y upwards). One implementation paints in the window,

@@ -85,13 +85,16 @@ void SurfaceQt::ligne(double x1, double y1, double x2, double y2, Couleur couleu
     if (!finis({x1, y1, x2, y2}))
         return;
     choisir_trait(couleur);
-    QPointF a = repere_.point(x1, y1);
-    QPointF b = repere_.point(x2, y2);
-    if (x1 == x2)
-        a.rx() = b.rx() = au_milieu_du_pixel(a.x());
-    if (y1 == y2)
-        a.ry() = b.ry() = au_milieu_du_pixel(a.y());
-    peintre_.drawLine(a, b);
+    peintre_.drawLine(en_pixels({{x1, y1}, {x2, y2}}));
+}
+
+void SurfaceQt::lignes(std::span<const Trait> traits, Couleur couleur) {
+    lignes_.clear();
+    for (const Trait& t : traits)
+        if (finis({t.a.x, t.a.y, t.b.x, t.b.y}))
+            lignes_.push_back(en_pixels(t));
+    choisir_trait(couleur);
+    peintre_.drawLines(lignes_.data(), static_cast<int>(lignes_.size()));
 }
 
 void SurfaceQt::cercle(double x, double y, double rayon, Couleur couleur) {
@@ -130,6 +133,16 @@ QPolygonF SurfaceQt::en_pixels(std::span<const PointTable> points) const {
         if (finis({p.x, p.y}))
             resultat << repere_.point(p.x, p.y);
     return resultat;
+}
+
+QLineF SurfaceQt::en_pixels(const Trait& trait) const {
+    QPointF a = repere_.point(trait.a.x, trait.a.y);
+    QPointF b = repere_.point(trait.b.x, trait.b.y);
+    if (trait.a.x == trait.b.x)
+        a.rx() = b.rx() = au_milieu_du_pixel(a.x());
+    if (trait.a.y == trait.b.y)
+        a.ry() = b.ry() = au_milieu_du_pixel(a.y());
+    return {a, b};
 }
 
 void SurfaceQt::chemin(std::span<const PointTable> points, Couleur couleur) {

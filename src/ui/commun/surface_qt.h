@@ -3,6 +3,7 @@
 #include "draw/surface.h"
 
 #include <QColor>
+#include <QLineF>
 #include <QPointF>
 #include <QPolygonF>
 #include <QRectF>
@@ -58,6 +59,8 @@ public:
     /// The tool tip is left out: a painter has none.
     void repere(PointTable centre, double rayon, Couleur couleur, std::string_view bulle) override;
     void texte(PointTable milieu, double hauteur, Couleur couleur, std::string_view texte) override;
+    /// Lines of one colour: several times faster than one after the other.
+    void lignes(std::span<const Trait> traits, Couleur couleur);
     double cm_par_pixel() const override { return 1 / repere_.pixels_x(1); }
 
 private:
@@ -67,9 +70,11 @@ private:
     void choisir_fond();
     void choisir_plein(Couleur couleur);
     QPolygonF en_pixels(std::span<const PointTable> points) const;
+    QLineF en_pixels(const Trait& trait) const;
     void lisser(bool oui);
 
     QPainter& peintre_;
+    std::vector<QLineF> lignes_; ///< of one call, kept for its memory
     QSizeF taille_;
     Repere repere_;
     double densite_; ///< device pixels per logical pixel

@@ -136,8 +136,7 @@ void Table::peindre_contours(QPainter& peintre) {
     SurfaceQt surface(peintre, size());
     regler(surface, e);
     peindre_silhouettes(peintre, surface);
-    for (const Contours::Trait& t : contours_)
-        surface.ligne(t.x1, t.y1, t.x2, t.y2, t.couleur);
+    surface.lignes(contours_.traits(), couleurs::cyan);
 }
 
 // While nothing runs the robot files may have changed.
@@ -153,7 +152,7 @@ void Table::noter_poses() {
     }
 }
 
-void Table::peindre_silhouettes(QPainter& peintre, Surface& surface) {
+void Table::peindre_silhouettes(QPainter& peintre, SurfaceQt& surface) {
     for (const PoseDessinee& p : poses_) {
         const Silhouette& silhouette = silhouettes_[static_cast<std::size_t>(p.robot)];
         if (!e.en_course)
@@ -161,25 +160,23 @@ void Table::peindre_silhouettes(QPainter& peintre, Surface& surface) {
         else
             peindre_vite(p, silhouette, peintre, surface);
     }
-    surface.epaisseur(1);
 }
 
-// A tick has no time for more than a stroke towards the front and a picture of the number.
+// A tick has no time for more than the mark's outline and a picture of the number.
 void Table::peindre_vite(const PoseDessinee& p, const Silhouette& silhouette, QPainter& peintre,
-                         Surface& surface) {
-    const PointTable place = silhouette.place_du_numero(p.x, p.y, p.cap);
-    const PointTable pointe = silhouette.pointe(p.x, p.y, p.cap);
+                         SurfaceQt& surface) {
+    const Forme r = silhouette.reperes(p.x, p.y, p.cap);
     const double rayon = silhouette.rayon_du_numero(surface.cm_par_pixel());
-    if (!(std::isfinite(place.x + place.y) && rayon > 0))
+    if (!(std::isfinite(r[0].x + r[0].y) && rayon > 0))
         return;
-    surface.epaisseur(3);
-    surface.ligne(place.x, place.y, pointe.x, pointe.y, couleur_robot(p.robot));
+    surface.lignes(std::array{Trait{r[1], r[2]}, Trait{r[2], r[3]}, Trait{r[3], r[1]}},
+                   couleur_robot(p.robot));
     QImage& numero = numeros_[static_cast<std::size_t>(p.robot)];
     const int cote = 2 * static_cast<int>(std::ceil(rayon * devicePixelRatioF()));
     if (numero.width() != cote)
         numero = image_du_numero(silhouette, cote, devicePixelRatioF(), surface.cm_par_pixel());
     const double demi = cote / devicePixelRatioF() / 2;
-    const QPointF ici = repere().point(place.x, place.y) - QPointF(demi, demi);
+    const QPointF ici = repere().point(r[0].x, r[0].y) - QPointF(demi, demi);
     peintre.drawImage(ici.toPoint(), numero);
 }
 
@@ -199,8 +196,7 @@ void Table::peindre_directement(QPainter& peintre) {
     SurfaceQt surface(peintre, size());
     regler(surface, e);
     peindre_table(e, surface, Echelle);
-    for (const Contours::Trait& t : contours_)
-        surface.ligne(t.x1, t.y1, t.x2, t.y2, t.couleur);
+    surface.lignes(contours_.traits(), couleurs::cyan);
 }
 
 void Table::effacer_robots() {
@@ -222,12 +218,9 @@ void Table::signaler_robots() {
 void Table::calculer_rectangles() {
     nombre_rectangles_ = 0;
     const Repere r = repere();
-    for (const Contours::Trait& t : contours_) {
-        if (!std::isfinite(t.x1 + t.y1 + t.x2 + t.y2))
-            continue;
-        const QRectF boite = r.boite(t.x1, t.y1, t.x2, t.y2);
-        ajouter_rectangle(boite);
-    }
+    for (const Trait& t : contours_.traits())
+        if (std::isfinite(t.a.x + t.a.y + t.b.x + t.b.y))
+            ajouter_rectangle(r.boite(t.a.x, t.a.y, t.b.x, t.b.y));
     if (e.en_course) // what is painted then lies within the outline
         return;
     for (const PoseDessinee& p : poses_)

@@ -11,30 +11,26 @@
 
 #include <array>
 #include <functional>
+#include <span>
 #include <vector>
 
 /// The robots' outlines as they were last drawn, in a list of fixed length.
 class Contours final : public SurfaceVide {
 public:
-    struct Trait {
-        double x1, y1, x2, y2;
-        Couleur couleur;
-    };
-    static constexpr int capacite = robots_max * (points_max / 2 + 1);
+    static constexpr std::size_t capacite = robots_max * (points_max / 2 + 1);
 
     void vider() { nombre_ = 0; }
     bool vide() const { return nombre_ == 0; }
-    const Trait* begin() const { return traits_.data(); }
-    const Trait* end() const { return traits_.data() + nombre_; }
+    std::span<const Trait> traits() const { return std::span(traits_).first(nombre_); }
 
-    void ligne(double x1, double y1, double x2, double y2, Couleur couleur) override {
+    void ligne(double x1, double y1, double x2, double y2, Couleur /*couleur*/) override {
         if (nombre_ < capacite)
-            traits_[static_cast<std::size_t>(nombre_++)] = {x1, y1, x2, y2, couleur};
+            traits_[nombre_++] = {{x1, y1}, {x2, y2}};
     }
 
 private:
     std::array<Trait, capacite> traits_{};
-    int nombre_ = 0;
+    std::size_t nombre_ = 0;
 };
 
 /// The drawing surface of the main window. The first painting is a straight one. From the second
@@ -88,9 +84,9 @@ private:
         int robot;
         float x, y, cap;
     };
-    void peindre_silhouettes(QPainter& peintre, Surface& surface);
+    void peindre_silhouettes(QPainter& peintre, SurfaceQt& surface);
     void peindre_vite(const PoseDessinee& p, const Silhouette& silhouette, QPainter& peintre,
-                      Surface& surface);
+                      SurfaceQt& surface);
     void peindre_directement(QPainter& peintre);
     void peindre_robots();
     void effacer_robots();
