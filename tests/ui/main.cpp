@@ -1,6 +1,7 @@
 #include "outils/dossier_temporaire.h"
 #include "ui/commun/application_sure.h"
 #include "ui/commun/ligne_texte.h"
+#include "ui/commun/style.h"
 
 #include <QSettings>
 #include <gtest/gtest.h>
@@ -31,7 +32,7 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(dire);
     const DossierTemporaire reglages; // not the user's own
     qputenv("XDG_CONFIG_HOME", reglages.chemin().c_str());
-    QApplication::setStyle("Fusion");
+    style::installer();
     const ApplicationSure application(argc, argv);
     QApplication::setOrganizationName("Tavolmex");
     QSettings::setDefaultFormat(QSettings::IniFormat);

@@ -1,6 +1,7 @@
 #include "ui/commun/place.h"
 
 #include "ui/banc.h"
+#include "ui/commun/ligne_texte.h"
 
 #include <QPushButton>
 #include <QScreen>
@@ -71,23 +72,62 @@ TEST(Place, meme_trop_grande_ou_sans_place_retenue_elle_s_ouvre_entiere) {
 }
 
 TEST(Place, des_controles_plus_grands_que_l_ecran_defilent) {
-    QSettings().clear();
     const QRect ecran = QGuiApplication::primaryScreen()->availableGeometry();
-    FenetrePlacee f;
-    auto* colonne = new QVBoxLayout(&f);
-    for (int i = 0; i < 40; ++i)
-        colonne->addWidget(new QPushButton(QString("bouton %1").arg(i)));
-    const auto boutons = f.findChildren<QPushButton*>();
-    f.show();
-    EXPECT_TRUE(ecran.contains(f.frameGeometry()));
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&f));
-    boutons.at(38)->setFocus(); // by keys too
-    QTest::keyClick(boutons.at(38), Qt::Key_Tab);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !boutons.last()->visibleRegion().isEmpty(); }));
-    f.hide();
-    f.show(); // once
-    EXPECT_EQ(f.findChildren<QScrollArea*>().size(), 1);
+    for (const bool plus_tard : {false, true}) { // in a window of fixed size
+        QSettings().clear();
+        FenetrePlacee f;
+        auto* groupe = new QWidget;
+        auto* colonne = new QVBoxLayout(groupe);
+        for (int i = 0; i < 40; ++i)
+            colonne->addWidget(new QPushButton(QString("bouton %1").arg(i)));
+        auto* contenu = new QVBoxLayout(&f);
+        contenu->addWidget(groupe);
+        if (plus_tard)
+            contenu->setSizeConstraint(QLayout::SetFixedSize);
+        groupe->setHidden(plus_tard);
+        const auto boutons = f.findChildren<QPushButton*>();
+        f.show();
+        groupe->show();
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            return !f.findChildren<QScrollArea*>().isEmpty() && groupe->height() > f.height() &&
+                   ecran.contains(f.frameGeometry());
+        }));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&f));
+        boutons.at(38)->setFocus(); // by keys too
+        QTest::keyClick(boutons.at(38), Qt::Key_Tab);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !boutons.last()->visibleRegion().isEmpty(); }));
+        f.hide();
+        f.show(); // once
+        EXPECT_EQ(f.findChildren<QScrollArea*>().size(), 1);
+    }
     QSettings().clear();
+}
+
+class EcranEtroit : public Banc {};
+
+// 1280 x 720 at 150 %, less a window's frame.
+TEST_F(EcranEtroit, chaque_fenetre_tient_sans_defiler) {
+    dossier.ecrire("Configuration/depart.bas", "A:\r\n\tReturn\r\n");
+    demarrer();
+    for (const char* bouton : {"Command5", "dessinAire", "generer", "Aide"})
+        trouver<QPushButton>(bouton).click();
+    for (const char* bouton : {"Choisir", "visu_gene"})
+        trouver<QPushButton>(bouton).click();
+    for (const char* action : {"menu_analyse", "menu_trajet", "menu_restaurer"})
+        sim->findChild<QAction*>(action)->trigger();
+    options().show(); // the generator hides it
+    const QSize place = QSize(1280, 720) * 2 / 3 - QSize(4, 38);
+    QStringList vues;
+    for (const QWidget* fenetre : QApplication::topLevelWidgets()) {
+        const QSize besoin = fenetre->minimumSize().expandedTo(fenetre->minimumSizeHint());
+        if (!fenetre->isVisible())
+            continue;
+        vues << fenetre->objectName();
+        EXPECT_EQ(besoin.boundedTo(place), besoin) << vues.last().toStdString();
+    }
+    EXPECT_GE(vues.size(), 9) << vues.join(' ').toStdString();
+    auto& mess = dynamic_cast<LigneTexte&>(trouver("Mess"));
+    EXPECT_LE(mess.largeur_minimale(), sim->width());
 }
 
 TEST(Place, revient_sur_un_ecran_qui_existe) {

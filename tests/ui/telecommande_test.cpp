@@ -1,6 +1,7 @@
 #include "ui/banc_telecommande.h"
 
 #include "sim/actions.h"
+#include "ui/commun/icones_actions.h"
 
 #include <QKeyEvent>
 
@@ -160,6 +161,29 @@ TEST_F(ConsoleFenetre, la_liste_change_l_enregistrement) {
     EXPECT_EQ(e().TrajAction(1, 2), actions::DROITE);
     EXPECT_EQ(e().XRobot(1), 80);
     EXPECT_EQ(liste.currentRow(), 1);
+}
+
+/// How many pixels differ to the eye.
+int ecarts(const QImage& a, const QImage& b) {
+    int n = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x)
+            n += std::abs(qAlpha(a.pixel(x, y)) - qAlpha(b.pixel(x, y))) > 64 ? 1 : 0;
+    return n;
+}
+
+TEST(IconesActions, a_gauche_le_miroir_d_a_droite_et_aucune_comme_une_autre) {
+    const auto image = [](const Nom10& nom) {
+        return icone_action(*actions::trouver(nom)).pixmap(32, 32).toImage();
+    };
+    for (const actions::Action& a : actions::boutons) {
+        EXPECT_LT(ecarts(image(a.nom), image(a.miroir).mirrored(a.nom != a.miroir, false)), 4)
+            << a.legende;
+        for (const actions::Action& autre : actions::boutons)
+            EXPECT_TRUE(autre.nom == a.nom || ecarts(image(a.nom), image(autre.nom)) > 20)
+                << a.legende << autre.legende;
+    }
+    EXPECT_LT(ecarts(image(actions::RECULE), image(actions::AVANCE).mirrored(false, true)), 4);
 }
 
 } // namespace

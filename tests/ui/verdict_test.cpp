@@ -43,6 +43,7 @@ protected:
 TEST_F(LeVerdict, dit_fin_marge_arrivee_et_constats_et_suit_les_fichiers) {
     demarrer();
     attendre("Robot 1 pas fini à 90 s · arrivée x = 20 cm, y = 22 cm, cap = 270° · 3 constats");
+    EXPECT_TRUE(trouver("verdict").accessibleDescription().startsWith("Projet Defaut · 1 robot."));
     const std::pair<const char*, const char*> cas[] = {
         {"Init,100,30,0\r\nAvance,150\r\nFIN\r\n",
          "Fin à 1,51 s · marge 88,49 s · arrivée x = 250 cm, y = 30 cm, cap = 0° · 1 constat"},

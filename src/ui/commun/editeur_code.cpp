@@ -1,6 +1,7 @@
 #include "ui/commun/editeur_code.h"
 
 #include "codegen/lexique.h"
+#include "ui/commun/lisible.h"
 
 #include <QFontDatabase>
 #include <QMouseEvent>
@@ -24,8 +25,8 @@ private:
 
 QTextCharFormat couleur(const QPalette& palette, const char* clair, const char* sombre) {
     QTextCharFormat format;
-    const bool fond_sombre = palette.color(QPalette::Base).lightness() < 128;
-    format.setForeground(QColor(fond_sombre ? sombre : clair));
+    format.setForeground(
+        lisible(QColor(est_sombre(palette) ? sombre : clair), {palette.color(QPalette::Base)}));
     return format;
 }
 
@@ -67,7 +68,7 @@ void ColorationPicbasic::highlightBlock(const QString& texte) {
 
 ColorationDifference::ColorationDifference(QTextDocument* document, const QPalette& palette)
     : QSyntaxHighlighter(document) {
-    const bool sombre = palette.color(QPalette::Base).lightness() < 128;
+    const bool sombre = est_sombre(palette);
     ajoute_.setForeground(QColor(sombre ? "#a5e6a5" : "#0b5d1e"));
     ajoute_.setBackground(QColor(sombre ? "#16361b" : "#e3f6e5"));
     retire_.setForeground(QColor(sombre ? "#f2b0b0" : "#8f1d1d"));
@@ -89,6 +90,8 @@ VueCode::VueCode() : marge_(new Marge(*this)) {
     setReadOnly(true);
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    constexpr int tabulation = 4;
+    setTabStopDistance(tabulation * QFontMetricsF(font()).horizontalAdvance(' '));
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     connect(this, &QPlainTextEdit::updateRequest, this, [this] { marge_->update(); });
     placer_marge();

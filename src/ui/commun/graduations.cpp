@@ -1,5 +1,7 @@
 #include "ui/commun/graduations.h"
 
+#include "ui/commun/style.h"
+
 #include <QPainter>
 #include <QPalette>
 
@@ -31,9 +33,7 @@ void peindre_regle(QPainter& peintre, const Axe& axe, Qt::Orientation sens, int 
     peintre.fillRect(QRect({}, couchee ? taille : taille.transposed()),
                      couleurs.color(QPalette::Window));
     peintre.setPen(couleurs.color(QPalette::WindowText));
-    QFont petite = police;
-    petite.setPixelSize(10);
-    peintre.setFont(petite);
+    peintre.setFont(style::petite_police(police));
     const double entre = axe.pas_lisible(pas, 48); // two numbers
     const double petit = entre / 5;
     axe.graduer(petit, [&](double valeur, double pixel) {

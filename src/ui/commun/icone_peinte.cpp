@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QIconEngine>
 #include <QPainter>
-#include <QPalette>
 
 #include <utility>
 
@@ -11,14 +10,14 @@ namespace {
 
 class IconePeinte final : public QIconEngine {
 public:
-    IconePeinte(double cote, std::function<void(QPainter&)> peindre)
-        : cote_(cote), peindre_(std::move(peindre)) {}
+    IconePeinte(double cote, std::function<void(QPainter&)> peindre, QPalette::ColorRole encre)
+        : cote_(cote), peindre_(std::move(peindre)), encre_(encre) {}
 
-    QIconEngine* clone() const override { return new IconePeinte(cote_, peindre_); }
+    QIconEngine* clone() const override { return new IconePeinte(cote_, peindre_, encre_); }
 
     void paint(QPainter* peintre, const QRect& ou, QIcon::Mode mode, QIcon::State) override {
         const auto groupe = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const QColor encre = QApplication::palette().color(groupe, QPalette::ButtonText);
+        const QColor encre = QApplication::palette().color(groupe, encre_);
         peintre->save();
         peintre->setRenderHint(QPainter::Antialiasing);
         peintre->translate(ou.topLeft());
@@ -40,10 +39,16 @@ public:
 private:
     double cote_;
     std::function<void(QPainter&)> peindre_;
+    QPalette::ColorRole encre_;
 };
 
 } // namespace
 
-QIcon icone_peinte(double cote, std::function<void(QPainter&)> peindre) {
-    return QIcon(new IconePeinte(cote, std::move(peindre))); // the icon deletes it
+QIcon icone_peinte(double cote, std::function<void(QPainter&)> peindre, QPalette::ColorRole encre) {
+    return QIcon(new IconePeinte(cote, std::move(peindre), encre)); // the icon deletes it
+}
+
+void remplir(QPainter& peintre) {
+    peintre.setBrush(peintre.pen().color());
+    peintre.setPen(Qt::NoPen);
 }

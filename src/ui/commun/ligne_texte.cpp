@@ -114,17 +114,33 @@ int LigneTexte::fin_du_texte() const {
     return fin;
 }
 
-int LigneTexte::hauteur(int largeur) const {
-    constexpr std::string_view etat = "     Durée : 1 mn 30 s     Action 100/100 en cours : "
-                                      "BALISE DRO  -100/100 cm Incidence:359.5 Nbre carreaux:100";
+void LigneTexte::mesurer() const {
+    constexpr std::string_view etat =
+        "     Durée : 1 mn 30 s     Action 100/100 en cours : "
+        "BALISE DRO  -100/100 cm Incidence:-359.9999 Nbre carreaux:100";
     constexpr std::string_view capteur = "Xm=100 Ym=300 Xextr=100 Yextr=300d=300 dmin=300 d2=300";
     const std::string_view usuel = sorte_ == Sorte::etat ? etat : capteur;
-    if (largeurs_.entiere == 0) {
-        const auto mesurer = [this](std::string_view t) {
-            return fontMetrics().horizontalAdvance(texte_qt(t)) + 2 * marge;
-        };
-        largeurs_ = {mesurer(usuel), mesurer(rogner(usuel.substr(0, coupes(usuel).mesure)))};
-    }
+    if (largeurs_.entiere != 0)
+        return;
+    const auto large = [this](std::string_view t) {
+        return fontMetrics().horizontalAdvance(texte_qt(t)) + 2 * marge;
+    };
+    const Coupes c = coupes(usuel);
+    const std::size_t milieu = std::min(c.action, c.mesure);
+    largeurs_ = {.entiere = large(usuel),
+                 .debut = large(rogner(usuel.substr(0, c.mesure))),
+                 .coupee = std::max({large(rogner(usuel.substr(0, milieu))),
+                                     large(rogner(usuel.substr(milieu, c.mesure - milieu))),
+                                     large(usuel.substr(c.mesure))})};
+}
+
+int LigneTexte::largeur_minimale() const {
+    mesurer();
+    return largeurs_.coupee;
+}
+
+int LigneTexte::hauteur(int largeur) const {
+    mesurer();
     const int au_plus = sorte_ == Sorte::etat ? rangees_max : 2;
     const int lignes = std::min(au_plus, largeurs_.entiere <= largeur ? 1
                                          : largeurs_.debut <= largeur ? 2

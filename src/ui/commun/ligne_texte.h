@@ -34,6 +34,9 @@ public:
     /// usual text asks; for a free text as many as it needs to be read whole.
     int hauteur(int largeur) const;
 
+    /// Narrower than this a usual text is cut off.
+    int largeur_minimale() const;
+
     /// Tells the assistive tools about this class; once, before the first window.
     static void installer_accessibilite();
 
@@ -48,6 +51,7 @@ private:
     static constexpr int rangees_max = 3;
 
     void changer(const Contenu& contenu);
+    void mesurer() const;
     int hauteur_du_texte(int largeur) const;
     void ranger();
     void ecrire_rangee(int numero, std::string_view texte);
@@ -58,6 +62,7 @@ private:
     struct Largeurs {
         int entiere = 0;
         int debut = 0;
+        int coupee = 0; ///< of the widest line when there are as many as there may be
     };
 
     Sorte sorte_;

@@ -22,12 +22,14 @@ constexpr int ecart_du_cadre = 60;
 constexpr int cadre_connu_ms = 250;
 
 // Controls that need more room than the screen has can be scrolled.
-void rendre_defilante(QWidget& fenetre) {
+// @returns whether it came to that
+bool rendre_defilante(QWidget& fenetre) {
     QLayout* controles = fenetre.layout();
     const QSize place = fenetre.screen()->availableGeometry().size() - cadre(fenetre);
     if (controles == nullptr || qobject_cast<QMainWindow*>(&fenetre) != nullptr ||
         controles->minimumSize().boundedTo(place) == controles->minimumSize())
-        return;
+        return false;
+    controles->setSizeConstraint(QLayout::SetDefaultConstraint);
     auto* contenu = new QWidget;
     contenu->setLayout(controles); // takes the controls along
     auto* defilement = new QScrollArea;
@@ -39,8 +41,12 @@ void rendre_defilante(QWidget& fenetre) {
     seul->setContentsMargins({});
     seul->addWidget(defilement);
     fenetre.setMinimumSize(0, 0);
+    fenetre.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     const int barre = fenetre.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &fenetre);
     fenetre.resize(fenetre.size() + QSize(barre, 0));
+    defilement->show(); // the window may be there already
+    seul->activate();
+    return true;
 }
 
 // Within the limits that its controls set.
@@ -77,6 +83,9 @@ protected:
             montrer();
         if (evenement->type() == QEvent::Hide)
             retenir();
+        if (objet == &fenetre_ && evenement->type() == QEvent::LayoutRequest)
+            QMetaObject::invokeMethod(
+                this, [this] { suivre_les_controles(); }, Qt::QueuedConnection);
         return false;
     }
 
@@ -92,6 +101,12 @@ private:
         });
         if (!taille_)
             taille_ = fenetre_.size();
+    }
+
+    // Some appear later: a note, a list of warnings.
+    void suivre_les_controles() {
+        if (fenetre_.isVisible() && rendre_defilante(fenetre_))
+            ramener_dans_l_ecran(fenetre_);
     }
 
     bool deplacee() const {

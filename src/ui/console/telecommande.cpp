@@ -4,6 +4,7 @@
 #include "seance/seance.h"
 #include "ui/commun/boites.h"
 #include "ui/commun/bureau.h"
+#include "ui/commun/icones_commandes.h"
 #include "ui/commun/place.h"
 
 #include <QAction>
@@ -71,6 +72,7 @@ void Télécommande::Active_Desactive(bool Status) {
 void Télécommande::Debut_Fin_Enr(bool Status) {
     Active_Desactive(!Status && console_.phase() == Console::Phase::repos);
     Command9.setText(Status ? "Début Enr." : "Fin Enr.");
+    Command9.setIcon(icone(Status ? Commande::enregistrer_le_trajet : Commande::arreter));
     for (QWidget* controle :
          std::initializer_list<QWidget*>{&TextA, &TextX, &TextY, &NbRO, &VScroll1})
         controle->setEnabled(Status);

@@ -6,15 +6,7 @@
 #include "seance/seance.h"
 #include "sim/textes_actions.h"
 #include "ui/commun/boites.h"
-
-namespace {
-
-// Readable on the palette's background, light or dark.
-QColor couleur_d_alerte(const QPalette& p) {
-    return p.color(QPalette::Window).lightness() < 128 ? QColor(255, 150, 110) : QColor(176, 36, 0);
-}
-
-} // namespace
+#include "ui/commun/lisible.h"
 
 void Télécommande::actualiser_liste() {
     liste_.clear();
@@ -96,7 +88,7 @@ void Télécommande::indiquer_position() {
 void Télécommande::surligner(const actions::Action* action) {
     const auto teinter = [this](QLineEdit& champ, bool utile) {
         QPalette p = palette();
-        if (utile) {
+        if (utile && champ.isEnabled()) {
             QColor teinte = p.color(QPalette::Highlight);
             teinte.setAlphaF(0.25F);
             p.setColor(QPalette::Base, teinte);

@@ -1,7 +1,10 @@
 // How the console looks: names, captions, keys and places of its controls.
 #include "ui/commun/boites.h"
+#include "ui/commun/icones_actions.h"
+#include "ui/commun/icones_commandes.h"
 #include "ui/commun/nombre.h"
 #include "ui/commun/separateur.h"
+#include "ui/commun/style.h"
 #include "ui/commun/touches_annulation.h"
 #include "ui/console/telecommande.h"
 
@@ -20,6 +23,8 @@ struct Bouton {
     const char* bulle;
 };
 
+constexpr int rangee_des_balises = 3; ///< two buttons instead of three
+
 // As seen from above the robot: ahead is up, left is left.
 constexpr std::array<Bouton, actions::boutons.size()> boutons{{
     {actions::VIRAVGA, 0, 0, Qt::Key_Home, "Alt+Début", "Vire en avant vers la gauche"},
@@ -31,8 +36,8 @@ constexpr std::array<Bouton, actions::boutons.size()> boutons{{
     {actions::VIRARGA, 2, 0, Qt::Key_End, "Alt+Fin", "Vire en arrière vers la gauche"},
     {actions::RECULE, 2, 1, Qt::Key_Down, "Alt+Bas", "Recule de la distance donnée"},
     {actions::VIRARDR, 2, 2, Qt::Key_PageDown, "Alt+Page bas", "Vire en arrière vers la droite"},
-    {actions::BALISE_GAU, 3, 0, Qt::Key_G, "Alt+G", "Cherche la balise gauche"},
-    {actions::BALISE_DRO, 3, 2, Qt::Key_D, "Alt+D", "Cherche la balise droite"},
+    {actions::BALISE_GAU, rangee_des_balises, 0, Qt::Key_G, "Alt+G", "Cherche la balise gauche"},
+    {actions::BALISE_DRO, rangee_des_balises, 1, Qt::Key_D, "Alt+D", "Cherche la balise droite"},
 }};
 
 /// Its index among the console's buttons.
@@ -65,6 +70,7 @@ void Télécommande::nommer() {
         Command4.at(k).setObjectName("Command4");
         Command4.at(k).setProperty("index", int(k));
         Command4.at(k).setText(texte_qt(actions::boutons[k].legende));
+        Command4.at(k).setIcon(icone_action(actions::boutons[k]));
     }
     constexpr std::array<const char*, nb_legendes> legendes{"Numéro du robot :",
                                                             "Position initiale :",
@@ -87,6 +93,7 @@ void Télécommande::nommer() {
     NbRO.setObjectName("NbRO");
     Command9.setObjectName("Command9");
     Command9.setText("Début Enr.");
+    Command9.setIcon(icone(Commande::enregistrer_le_trajet));
     Command9.setToolTip("Commence ou finit l'enregistrement (Alt+E)");
     Command2.setObjectName("Command2");
     Command2.setText("Masquer");
@@ -139,50 +146,59 @@ void Télécommande::nommer_champs() {
 
 void Télécommande::placer() {
     auto* gauche = new QVBoxLayout;
+    gauche->setSpacing(style::ecart);
     gauche->addLayout(placer_robot());
-    gauche->addWidget(&Command9);
-    gauche->addWidget(&reprendre_);
+    auto* enregistrement = new QHBoxLayout;
+    for (QPushButton* bouton : {&Command9, &reprendre_})
+        enregistrement->addWidget(bouton, 1);
+    gauche->addLayout(enregistrement);
     gauche->addWidget(separateur());
     gauche->addLayout(placer_action());
     gauche->addLayout(placer_boutons());
     gauche->addStretch();
     gauche->addWidget(&Command2);
     auto* rangee = new QHBoxLayout(this);
-    rangee->setSpacing(14);
+    rangee->setContentsMargins(style::marge, style::marge, style::marge, style::marge);
+    rangee->setSpacing(2 * style::ecart_de_groupe);
     rangee->addLayout(gauche);
     rangee->addLayout(placer_liste(), 1);
 }
 
 QLayout* Télécommande::placer_robot() {
-    auto* grille = new QGridLayout;
-    grille->setColumnStretch(4, 1);
+    auto* colonne = new QVBoxLayout;
     auto* numero = new QHBoxLayout;
+    numero->setSpacing(style::ecart_serre);
     NbRO.setAlignment(Qt::AlignCenter);
     NbRO.setFrameStyle(int(QFrame::Panel) | int(QFrame::Sunken));
     NbRO.setMinimumWidth(NbRO.fontMetrics().averageCharWidth() * 4);
-    VScroll1.setFixedHeight(48);
+    VScroll1.setFixedHeight(style::hauteur_barre_nombre);
+    numero->addWidget(&Label1.at(l_numero));
+    numero->addSpacing(style::ecart);
     numero->addWidget(&NbRO, 0, Qt::AlignVCenter);
     numero->addWidget(&VScroll1);
     numero->addStretch();
-    grille->addWidget(&Label1.at(l_numero), 0, 0);
-    grille->addLayout(numero, 0, 1, 1, 4);
-    grille->addWidget(&Label1.at(l_position), 1, 0);
-    const std::initializer_list<std::tuple<Legende, QLineEdit*, Legende>> lignes{
-        {l_x, &TextX, l_cm_x}, {l_y, &TextY, l_cm_y}, {l_cap, &TextA, l_degre_cap}};
-    int rang = 1;
-    for (const auto& [nom, champ, unite] : lignes) {
-        grille->addWidget(&Label1.at(nom), rang, 1);
-        grille->addWidget(champ, rang, 2);
-        grille->addWidget(&Label1.at(unite), rang, 3);
-        ++rang;
+    auto* pose = new QHBoxLayout;
+    pose->setSpacing(style::ecart_serre);
+    for (const auto& [nom, champ, unite] :
+         std::initializer_list<std::tuple<Legende, QLineEdit*, Legende>>{
+             {l_x, &TextX, l_cm_x}, {l_y, &TextY, l_cm_y}, {l_cap, &TextA, l_degre_cap}}) {
+        pose->addWidget(&Label1.at(nom));
+        pose->addWidget(champ);
+        pose->addWidget(&Label1.at(unite));
+        pose->addStretch();
     }
-    grille->addWidget(&indication_, rang, 0, 1, 5);
+    colonne->addLayout(numero);
+    colonne->addWidget(&Label1.at(l_position));
+    colonne->addLayout(pose);
+    colonne->addWidget(&indication_);
     indication_.hide();
-    return grille;
+    return colonne;
 }
 
 QLayout* Télécommande::placer_action() {
     auto* grille = new QGridLayout;
+    grille->setHorizontalSpacing(style::ecart);
+    grille->setVerticalSpacing(style::ecart_serre);
     grille->setColumnStretch(3, 1);
     grille->addWidget(&Label1.at(l_action), 0, 0, 1, 4);
     grille->addWidget(&Label1.at(l_longueur), 1, 0);
@@ -195,17 +211,24 @@ QLayout* Télécommande::placer_action() {
 }
 
 QLayout* Télécommande::placer_boutons() {
+    constexpr int colonnes = 6; // two or three for a button
     auto* grille = new QGridLayout;
-    for (const Bouton& bouton : boutons)
-        grille->addWidget(&Command4.at(rang(bouton)), bouton.ligne, bouton.colonne);
-    for (int colonne = 0; colonne < 3; ++colonne)
+    grille->setSpacing(style::ecart_serre);
+    for (const Bouton& b : boutons) {
+        QPushButton& bouton = Command4.at(rang(b));
+        const int largeur = b.ligne == rangee_des_balises ? 3 : 2;
+        if (b.ligne != rangee_des_balises)
+            style::mettre_l_icone_au_dessus(bouton);
+        grille->addWidget(&bouton, b.ligne, b.colonne * largeur, 1, largeur);
+    }
+    for (int colonne = 0; colonne < colonnes; ++colonne)
         grille->setColumnStretch(colonne, 1);
-    grille->setRowMinimumHeight(3, Command4[0].sizeHint().height() + 8);
     return grille;
 }
 
 QLayout* Télécommande::placer_liste() {
     auto* colonne = new QVBoxLayout;
+    colonne->setSpacing(style::ecart);
     auto* titre = new QLabel("Actions enregistrées :");
     titre->setBuddy(&liste_);
     liste_.setMinimumWidth(liste_.fontMetrics().averageCharWidth() * 36);

@@ -115,6 +115,7 @@ Foutil::Foutil(QWidget* parent)
 
 void Foutil::nommer() {
     setObjectName("Foutil");
+    setAccessibleName("Outils");
     setWindowTitle("Outils");
     chx_dessinTable.setObjectName("chx_dessinTable");
     chx_dessinTable.setText("Dessin de la table");

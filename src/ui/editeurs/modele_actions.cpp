@@ -4,6 +4,7 @@
 #include "edition/actions_trajet.h"
 #include "sim/actions.h"
 #include "ui/commun/boites.h"
+#include "ui/commun/lisible.h"
 #include "ui/commun/nombre.h"
 
 #include <QApplication>
@@ -170,8 +171,7 @@ const ModeleActions::Suspens* ModeleActions::suspens(const QModelIndex& index) c
 }
 
 QColor ModeleActions::alerte() const {
-    return QApplication::palette().color(QPalette::Base).lightness() < 128 ? QColor(255, 150, 110)
-                                                                           : QColor(176, 36, 0);
+    return couleur_d_alerte(QApplication::palette());
 }
 
 QVariant ModeleActions::data(const QModelIndex& index, int role) const {

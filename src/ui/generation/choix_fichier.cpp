@@ -229,7 +229,7 @@ QLayout* ChoixFichier::disposer(const QString& legende) {
         grille->addWidget(new QLabel(legende), 2, 0);
     grille->setRowStretch(1, 1);
     for (QWidget* liste : std::initializer_list<QWidget*>{&dossiers, &fichiers})
-        liste->setMinimumSize(170, 96);
+        liste->setMinimumSize(170, 72);
     return grille;
 }
 

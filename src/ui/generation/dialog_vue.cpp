@@ -69,7 +69,7 @@ void Dialog::placer() {
     apercu_.setReadOnly(true);
     apercu_.setLineWrapMode(QPlainTextEdit::NoWrap);
     apercu_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    apercu_.setMinimumHeight(90);
+    apercu_.setMinimumHeight(72);
     titre_apercu_.setWordWrap(true);
     compte_rendu_.setObjectName("compte_rendu");
     compte_rendu_.setWordWrap(true);

@@ -4,6 +4,7 @@
 #include "config/dossier.h"
 #include "ui/commun/application_sure.h"
 #include "ui/commun/ligne_texte.h"
+#include "ui/commun/style.h"
 #include "ui/principale/fin_signalee.h"
 #include "ui/principale/sim1.h"
 
@@ -62,7 +63,7 @@ int executer_application(int& argc, char** argv,
                          const std::function<void(Sim1&)>& prete) {
     qInstallMessageHandler(dire_et_finir);
     QLocale::setDefault(QLocale(QLocale::French, QLocale::France)); // whatever the environment says
-    QApplication::setStyle("Fusion");
+    style::installer();
     FinSignalee fin;
     const ApplicationSure application(argc, argv);
     QApplication::setApplicationName("Tavolmex");

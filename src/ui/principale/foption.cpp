@@ -2,6 +2,7 @@
 
 #include "sim/damier.h"
 #include "ui/commun/bureau.h"
+#include "ui/commun/icones_commandes.h"
 #include "ui/commun/place.h"
 #include "ui/principale/ouvrir.h"
 
@@ -62,6 +63,7 @@ void FOption::montrer_course(bool en_cours) {
          std::initializer_list<QWidget*>{&Check1, &Check2, &NbRO, &VScroll1, &Check4})
         reglage->setEnabled(!en_cours);
     Command1.setText(en_cours ? "Arrêter" : "Démarrer");
+    Command1.setIcon(icone(en_cours ? Commande::arreter : Commande::demarrer, true));
 }
 
 void FOption::Check1_Click(bool coche) {

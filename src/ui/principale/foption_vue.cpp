@@ -1,5 +1,7 @@
 // How the options window looks: names, captions, tool tips and places of its controls.
+#include "ui/commun/icones_commandes.h"
 #include "ui/commun/separateur.h"
+#include "ui/commun/style.h"
 #include "ui/principale/foption.h"
 
 #include <QGridLayout>
@@ -85,6 +87,8 @@ void FOption::nommer() {
 void FOption::placer() {
     auto* colonne = new QVBoxLayout(this);
     colonne->setSizeConstraint(QLayout::SetFixedSize);
+    colonne->setContentsMargins(style::marge, style::marge, style::marge, style::marge);
+    colonne->setSpacing(style::ecart);
     for (QCheckBox* boite : {&Check1, &Check2, &Check3})
         colonne->addWidget(boite);
     colonne->addLayout(placer_robots());
@@ -98,11 +102,12 @@ void FOption::placer() {
 
 QLayout* FOption::placer_robots() {
     retablir_plage();
-    VScroll1.setFixedHeight(76);
+    VScroll1.setFixedHeight(style::hauteur_barre_nombre);
     NbRO.setAlignment(Qt::AlignCenter);
     NbRO.setFrameStyle(int(QFrame::Panel) | int(QFrame::Sunken));
     NbRO.setMinimumWidth(NbRO.fontMetrics().averageCharWidth() * 4);
     auto* rangee = new QHBoxLayout;
+    rangee->setSpacing(style::ecart_serre);
     rangee->addWidget(&Check4);
     rangee->addStretch();
     rangee->addWidget(&NbRO, 0, Qt::AlignVCenter);
@@ -131,11 +136,21 @@ QLayout* FOption::placer_carreaux() {
 
 QLayout* FOption::placer_boutons() {
     auto* colonne = new QVBoxLayout;
-    for (QPushButton* bouton :
-         {&Command1, &Command2, &Command5, &dessinAire, &generer, &Aide, &Command4}) {
-        bouton->setEnabled(false); // until a procedure is given to it
-        colonne->addWidget(bouton);
+    colonne->setSpacing(style::ecart_serre);
+    for (const auto& [bouton, commande] : std::initializer_list<std::pair<QPushButton&, Commande>>{
+             {Command1, Commande::demarrer},
+             {Command2, Commande::charger},
+             {Command5, Commande::telecommande},
+             {dessinAire, Commande::creer},
+             {generer, Commande::generer},
+             {Aide, Commande::aide},
+             {Command4, Commande::quitter}}) {
+        bouton.setEnabled(false); // until a procedure is given to it
+        bouton.setIcon(icone(commande, &bouton == &Command1));
+        style::aligner_a_gauche(bouton);
+        colonne->addWidget(&bouton);
     }
+    style::mettre_en_avant(Command1);
     Command1.setMinimumHeight(Command1.sizeHint().height() * 4 / 3);
     return colonne;
 }

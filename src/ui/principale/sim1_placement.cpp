@@ -50,12 +50,14 @@ MesuresEcran Sim1::mesures(int largeur_lignes) const {
 void Sim1::Init_Table() {
     // The read-outs take more lines where the table is narrow.
     MesuresEcran m = mesures(ecran_maximal);
-    m = mesures(pixels(::Init_Table(*e, m).largeur_Table));
+    const int lignes = std::max(Mess.largeur_minimale(), Info.largeur_minimale());
+    m = mesures(std::max(lignes, pixels(::Init_Table(*e, m).largeur_Table)));
     const Disposition d = ::Init_Table(*e, m);
     Table.Echelle = d.Echelle;
     taille_dessinee_ = {e->XMax, e->YMax};
     taille_Table_ = {pixels(d.largeur_Table), pixels(d.hauteur_Table)};
-    resize(pixels(d.largeur_fenetre - m.cadre_horizontal),
+    // A table narrower than what is to be read stands in the middle.
+    resize(std::max(lignes, pixels(d.largeur_fenetre - m.cadre_horizontal)),
            pixels(d.hauteur_fenetre - m.cadre_vertical) + BarreMatch::hauteur);
     placer();
     placer_options();

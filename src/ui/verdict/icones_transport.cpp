@@ -91,8 +91,7 @@ void dessiner(QPainter& p, Symbole symbole) {
 
 QIcon icone(Symbole symbole) {
     return icone_peinte(16, [symbole](QPainter& p) {
-        p.setBrush(p.pen().color());
-        p.setPen(Qt::NoPen);
+        remplir(p);
         dessiner(p, symbole);
     });
 }

@@ -31,7 +31,8 @@ void LigneVerdict::ecrire(const TexteVerdict& texte) {
     const QString entier = texte_qt(texte.entier());
     setText(entier);
     setAccessibleName("Verdict du match : " + entier);
-    setToolTip(entier + "\nClic ou F7 : la liste des constats");
+    setAccessibleDescription(texte_qt(texte.projet) + ". Ouvre la liste des constats");
+    setToolTip(texte_qt(texte.projet) + "\n" + entier + "\nClic ou F7 : la liste des constats");
     update();
 }
 
@@ -73,13 +74,27 @@ std::vector<LigneVerdict::Rangee> LigneVerdict::ranger(const std::vector<Morceau
     return rangees;
 }
 
+std::size_t LigneVerdict::rangees_possibles() const {
+    return static_cast<std::size_t>(
+        std::max(0, (height() - 2 * marge_verticale) / fontMetrics().height()));
+}
+
+// The project above its verdict, where there is a row for it.
 std::vector<LigneVerdict::Rangee> LigneVerdict::rangees() const {
+    std::vector<Rangee> toutes = rangees_du_verdict();
+    if (toutes.size() < rangees_possibles())
+        toutes.insert(toutes.begin(),
+                      {{fontMetrics().elidedText(texte_qt(texte_.projet), Qt::ElideRight,
+                                                 width() - 2 * marge)}});
+    return toutes;
+}
+
+std::vector<LigneVerdict::Rangee> LigneVerdict::rangees_du_verdict() const {
     const Morceau fin{texte_qt(texte_.fin)};
     const Morceau marge_restante{texte_qt(texte_.marge)};
     const Morceau arrivee{texte_qt(texte_.arrivee)};
     const Morceau constats{texte_qt(texte_.constats), true};
-    const std::size_t possibles = static_cast<std::size_t>(
-        std::clamp((height() - 2 * marge_verticale) / fontMetrics().height(), 1, 2));
+    const std::size_t possibles = std::clamp<std::size_t>(rangees_possibles(), 1, 2);
     const auto tient = [&](const std::vector<Rangee>& rangees) {
         return rangees.size() <= possibles && std::ranges::all_of(rangees, [&](const Rangee& r) {
                    return r.size() > 1 || largeur(r.front()) <= width() - 2 * marge;
@@ -115,7 +130,8 @@ void LigneVerdict::paintEvent(QPaintEvent*) {
     QPainter peintre(this);
     const std::vector<Rangee> toutes = rangees();
     const int h = fontMetrics().height();
-    const int haut = height() - marge_verticale - static_cast<int>(toutes.size()) * h;
+    const int hauteur = static_cast<int>(toutes.size()) * h;
+    const int haut = std::max(marge_verticale, (height() - hauteur) / 2);
     int y = haut + fontMetrics().ascent();
     for (const Rangee& rangee : toutes) {
         peindre_rangee(peintre, rangee, y);
@@ -125,7 +141,7 @@ void LigneVerdict::paintEvent(QPaintEvent*) {
         return;
     QStyleOptionFocusRect focus;
     focus.initFrom(this);
-    focus.rect = QRect(1, haut - 1, width() - 2, height() - haut);
+    focus.rect = QRect(1, haut - 1, width() - 2, hauteur + 2);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &peintre, this);
 }
 

@@ -6,8 +6,9 @@
 
 #include <vector>
 
-/// The verdict, at the bottom of the place it is given: all of it on one or two lines, or as many
-/// parts as fit, the findings first. A click opens their list.
+/// The verdict, in the middle of the place it is given: all of it on one or two lines, or as many
+/// parts as fit, the findings first; above it the project, where a line is left. A click opens
+/// their list.
 class LigneVerdict final : public QAbstractButton {
 public:
     explicit LigneVerdict(QWidget* parent);
@@ -32,7 +33,9 @@ private:
     QFont police(bool lien) const;
     int largeur(const Morceau& morceau) const;
     std::vector<Rangee> ranger(const std::vector<Morceau>& morceaux) const;
+    std::size_t rangees_possibles() const;
     std::vector<Rangee> rangees() const;
+    std::vector<Rangee> rangees_du_verdict() const;
     void peindre_rangee(QPainter& peintre, const Rangee& rangee, int y) const;
 
     TexteVerdict texte_;

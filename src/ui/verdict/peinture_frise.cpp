@@ -2,6 +2,7 @@
 
 #include "draw/couleurs_robots.h"
 #include "ui/commun/boites.h"
+#include "ui/commun/style.h"
 #include "ui/commun/surface_qt.h"
 
 #include <QPainter>
@@ -11,8 +12,7 @@
 
 namespace {
 
-constexpr int taille_police = 11; ///< pixels
-constexpr int bord = 2;           ///< of an action within its lane
+constexpr int bord = 2; ///< of an action within its lane
 
 /// How a kind of action looks: a colour that the colour-blind tell apart too, and a pattern for
 /// whoever sees none.
@@ -81,10 +81,10 @@ public:
           m_(contenu.analyse->match),
           places_(places),
           axe_(axe),
-          couleurs_(couleurs) {
-        QFont petite = p.font();
-        petite.setPixelSize(taille_police);
-        p.setFont(petite);
+          couleurs_(couleurs),
+          usuelle_(p.font()),
+          petite_(style::petite_police(usuelle_)) {
+        p.setFont(petite_);
     }
 
     void peindre() {
@@ -106,10 +106,8 @@ private:
     void peindre_fond() {
         p.fillRect(QRect({}, places_.taille), couleurs_.color(QPalette::Window));
         p.setClipRect(places_.temps());
-        peindre_regle(p, axe_, Qt::Horizontal, places_.taille.width(), couleurs_, p.font(), 0.01);
-        QFont petite = p.font();
-        petite.setPixelSize(taille_police);
-        p.setFont(petite);
+        peindre_regle(p, axe_, Qt::Horizontal, places_.taille.width(), couleurs_, usuelle_, 0.01);
+        p.setFont(petite_);
         for (int i = 1; i <= places_.robots; ++i)
             p.fillRect(places_.piste(i),
                        couleurs_.color(i % 2 == 0 ? QPalette::AlternateBase : QPalette::Base));
@@ -204,6 +202,7 @@ private:
     const DispositionFrise& places_;
     const Axe& axe_;
     const QPalette& couleurs_;
+    const QFont usuelle_, petite_;
 };
 
 } // namespace

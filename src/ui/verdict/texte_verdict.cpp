@@ -51,6 +51,8 @@ TexteVerdict texte_du_verdict(const Analyse& a, std::optional<std::int32_t> chan
                               int constats, int masques) {
     const auto fin = fin_des_plans(a);
     TexteVerdict t;
+    t.projet = (a.projet.empty() ? "Projet sans nom" : "Projet " + a.projet) + " · " +
+               compte(a.match.NbRobot, "robot");
     t.fin = fin ? "Fin à " + secondes(*fin) : avec_majuscule(sans_fin(a));
     if (fin)
         t.marge = marge_de(*fin, changement);

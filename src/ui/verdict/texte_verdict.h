@@ -8,12 +8,13 @@
 
 /// The verdict in parts, so that a narrow place can do without some. A part may be empty.
 struct TexteVerdict {
+    std::string projet;   ///< "Projet Finale · 2 robots"
     std::string fin;      ///< "Fin à 42,18 s"
     std::string marge;    ///< "marge 47,82 s (+1,20 s)"
     std::string arrivee;  ///< "arrivée x = 120 cm, y = 80 cm, cap = 90°"
     std::string constats; ///< "2 constats, 1 genre masqué"
 
-    /// All of it in one line.
+    /// All that is said of the match in one line.
     std::string entier() const;
 };
 

@@ -2,6 +2,7 @@
 
 #include "analyse/phrases.h"
 #include "ui/commun/boites.h"
+#include "ui/commun/style.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -139,8 +140,7 @@ void VueFrise::peindre_boucle(QPainter& peintre) const {
         peintre.setPen(palette().color(QPalette::HighlightedText));
         peintre.drawText(drapeau, Qt::AlignCenter, nom);
     };
-    QFont petite = font();
-    petite.setPixelSize(10);
+    QFont petite = style::petite_police(font());
     petite.setBold(true);
     peintre.setFont(petite);
     if (d_.fin_boucle()) {
