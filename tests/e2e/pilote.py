@@ -10,6 +10,10 @@ import gi
 gi.require_version("Atspi", "2.0")
 import pyatspi  # noqa: E402  (only after the version above)
 
+CONTROLES = {"push button", "check box", "radio button", "toggle button", "text", "combo box",
+             "spin button", "slider", "list", "table", "tree table", "page tab", "menu item"}
+TABULATION, BAS = 0xFF09, 0xFF54  # symbols of keys
+CODES = {"Control_L": 37}  # of the virtual server's keyboard
 DELAI = 20.0  # seconds before a wait is given up
 
 
@@ -96,6 +100,16 @@ class Programme:
         pyatspi.Registry.generateMouseEvent(place.x + place.width // 2,
                                             place.y + place.height // 2, "b1c")
 
+    def touche(self, symbole, *avec):
+        """A key by its symbol, under the keys `avec` held down."""
+        clavier = pyatspi.Registry.generateKeyboardEvent
+        tenues = [CODES[nom] for nom in avec]
+        for code in tenues:
+            clavier(code, None, pyatspi.KEY_PRESS)
+        clavier(symbole if isinstance(symbole, int) else ord(symbole), None, pyatspi.KEY_SYM)
+        for code in tenues:
+            clavier(code, None, pyatspi.KEY_RELEASE)
+
     def basculer(self, motif):
         """Toggles a check box and waits until it shows so."""
         avant = self.coche(motif)
@@ -107,6 +121,12 @@ class Programme:
 
     def actif(self, role, motif):
         return self.objet(role, motif).getState().contains(pyatspi.STATE_ENABLED)
+
+    def sans_nom(self):
+        """The visible controls that assistive tools could not tell from others."""
+        return [f"{a.getRoleName()} de « {a.parent.name} »" for a in descendants(self.racine)
+                if a.getRoleName() in CONTROLES and not a.name and visible(a)
+                and a.parent.getRoleName() != "text"]  # Qt's own button that empties a field
 
     def code_de_fin(self):
         return self.processus.wait(timeout=DELAI)

@@ -46,6 +46,7 @@ void jouer_le_cas(const DossierTemporaire& d, const CasTue& cas) {
     mots.insert(mots.end(), cas.commande.begin(), cas.commande.end());
     mots.insert(mots.end(), {"--dossier", "."});
     std::vector<char*> argv;
+    argv.reserve(mots.size());
     for (std::string& mot : mots)
         argv.push_back(mot.data());
     executer_ligne_de_commande(static_cast<int>(argv.size()), argv.data());

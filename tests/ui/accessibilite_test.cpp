@@ -111,10 +111,15 @@ private:
     void visiter(QAccessibleInterface& a, const QString& fenetre) {
         const QString objet = a.object() != nullptr ? a.object()->objectName() : "";
         const bool de_qt = objet.startsWith("qt_");
-        if (doit_avoir_un_nom(a) && a.text(QAccessible::Name).isEmpty() && !de_qt)
+        // A list that unfolds gives its present choice for a name.
+        const bool nommee = a.role() == QAccessible::ComboBox
+                                ? !a.relations(QAccessible::Label).isEmpty() ||
+                                      !a.text(QAccessible::Description).isEmpty()
+                                : !a.text(QAccessible::Name).isEmpty();
+        if (doit_avoir_un_nom(a) && !nommee && !de_qt)
             noter("sans nom", fenetre,
                   objet + (a.object() != nullptr ? a.object()->metaObject()->className() : "?"));
-        if (porte_ses_cases(a))
+        if (porte_ses_cases(a) || qobject_cast<QFileDialog*>(a.object()) != nullptr) // Qt's own
             return;
         for (int i = 0; i < a.childCount(); ++i)
             if (QAccessibleInterface* enfant = a.child(i); enfant && !enfant->state().invisible)

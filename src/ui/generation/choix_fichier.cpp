@@ -206,6 +206,8 @@ void ChoixFichier::nommer(const Controles& c) {
         controle.setObjectName(objet);
         controle.setToolTip(bulle);
         controle.setAccessibleName(QString("%1 %2").arg(QString(genre), QString(c.quoi)));
+        // A list that unfolds is called by its present choice.
+        controle.setAccessibleDescription(controle.accessibleName());
     };
     nom(lecteurs, c.lecteur, c.bulle_lecteur, "Lecteur");
     nom(dossiers, c.dossier, c.bulle_dossier, "Répertoire");

@@ -27,6 +27,7 @@ void OuvGeneration::nommer() {
     setWindowTitle("Boîte de dialogue");
     Lect_Gen.setObjectName("Lect_Gen");
     Lect_Gen.setAccessibleName("Lecteur du fichier généré");
+    Lect_Gen.setAccessibleDescription(Lect_Gen.accessibleName()); // its name is its present choice
     Rep_Gen.setObjectName("Rep_Gen");
     Rep_Gen.setAccessibleName("Répertoire du fichier généré");
     NomFicGenere.setObjectName("NomFicGenere");
