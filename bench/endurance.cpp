@@ -5,17 +5,19 @@
 #include "ui/principale/sim1.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QPushButton>
+#include <QTimer>
 
 #include <malloc.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <memory>
 
 namespace {
 
@@ -40,36 +42,53 @@ void dire(const char* quoi, long fait) {
     std::fflush(stdout);
 }
 
-void charger(Sim1& sim, long nombre) {
-    for (long n = 1; n <= nombre; ++n) {
-        sim.seance().etat().NomProjet = n % 2 == 0 ? "Defaut" : "Essai";
-        sim.seance().recharger();
-        QApplication::processEvents();
-        if (n % (nombre / 10) == 0)
-            dire("chargements", n);
+// In the event loop, a step at a time: what is to be deleted later goes meanwhile.
+class Endurance final : public QObject {
+public:
+    Endurance(Sim1& sim, long chargements, std::chrono::seconds duree)
+        : sim_(sim),
+          demarrer_(*sim.findChild<QPushButton*>("Command1")),
+          chargements_(chargements),
+          duree_(duree) {
+        dire("depart", 0);
+        pas_.callOnTimeout(this, [this] { faits_ < chargements_ ? charger() : jouer(); });
+        pas_.start(0);
     }
-}
 
-void jouer(Sim1& sim, std::chrono::seconds duree) {
-    auto& demarrer = *sim.findChild<QPushButton*>("Command1");
-    for (int i = 0; i < 20; ++i) // up to the highest speed
-        sim.findChild<QAction*>("menu_plus_vite")->trigger();
-    long matchs = 0;
-    const auto debut = Horloge::now();
-    for (auto dite = debut; Horloge::now() - debut < duree;) {
-        if (demarrer.text() == "Démarrer") {
-            demarrer.click();
-            ++matchs;
-        }
-        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        if (Horloge::now() - dite >= duree / 10) {
-            dite = Horloge::now();
-            dire("matchs", matchs);
-        }
+private:
+    void charger() {
+        sim_.seance().etat().NomProjet = ++faits_ % 2 == 0 ? "Defaut" : "Essai";
+        sim_.seance().recharger();
+        if (faits_ % (chargements_ / 10) == 0)
+            dire("chargements", faits_);
+        if (faits_ < chargements_)
+            return;
+        for (int i = 0; i < 20; ++i) // up to the highest speed
+            sim_.findChild<QAction*>("menu_plus_vite")->trigger();
+        debut_ = dite_ = Horloge::now();
+        pas_.setInterval(1);
     }
-}
+    void jouer() {
+        if (demarrer_.text() == "Démarrer") {
+            demarrer_.click();
+            ++matchs_;
+        }
+        if (Horloge::now() - dite_ >= duree_ / 10) {
+            dite_ = Horloge::now();
+            dire("matchs", matchs_);
+        }
+        if (Horloge::now() - debut_ >= duree_)
+            std::_Exit(0);
+    }
 
-} // namespace
+    Sim1& sim_;
+    QPushButton& demarrer_;
+    long chargements_;
+    std::chrono::seconds duree_;
+    QTimer pas_;
+    long faits_ = 0, matchs_ = 0;
+    Horloge::time_point debut_, dite_;
+};
 
 // endurance [LOADS [SECONDS]]
 int main(int argc, char** argv) {
@@ -79,10 +98,8 @@ int main(int argc, char** argv) {
     const DossierTemporaire dossier;
     ::setenv("XDG_CONFIG_HOME", dossier.chemin().c_str(), 1);
     int un = 1;
+    std::unique_ptr<Endurance> endurance;
     return executer_application(un, argv, dossier.chemin(), [&](Sim1& sim) {
-        dire("depart", 0);
-        charger(sim, chargements);
-        jouer(sim, duree);
-        std::_Exit(0);
+        endurance = std::make_unique<Endurance>(sim, std::max(10L, chargements), duree);
     });
 }
