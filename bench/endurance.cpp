@@ -90,6 +90,8 @@ private:
     Horloge::time_point debut_, dite_;
 };
 
+} // namespace
+
 // endurance [LOADS [SECONDS]]
 int main(int argc, char** argv) {
     const long chargements = argc > 1 ? std::atol(argv[1]) : 1000;
