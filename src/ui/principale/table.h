@@ -17,7 +17,7 @@
 /// The robots' outlines as they were last drawn, in a list of fixed length.
 class Contours final : public SurfaceVide {
 public:
-    static constexpr std::size_t capacite = robots_max * (points_max / 2 + 1);
+    static constexpr std::size_t capacite = std::size_t{robots_max} * (points_max / 2 + 1);
 
     void vider() { nombre_ = 0; }
     bool vide() const { return nombre_ == 0; }
