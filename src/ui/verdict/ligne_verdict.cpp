@@ -79,10 +79,10 @@ std::size_t LigneVerdict::rangees_possibles() const {
         std::max(0, (height() - 2 * marge_verticale) / fontMetrics().height()));
 }
 
-// The project above its verdict, where there is a row for it.
+// The project above its verdict, where there is a row for it and no read-out beside it.
 std::vector<LigneVerdict::Rangee> LigneVerdict::rangees() const {
     std::vector<Rangee> toutes = rangees_du_verdict();
-    if (toutes.size() < rangees_possibles())
+    if (x() == 0 && toutes.size() < rangees_possibles())
         toutes.insert(toutes.begin(),
                       {{fontMetrics().elidedText(texte_qt(texte_.projet), Qt::ElideRight,
                                                  width() - 2 * marge)}});
