@@ -147,6 +147,21 @@ std::string projet_du_nom(std::string_view nom, GenreFichier genre) {
     return std::string(nom.substr(0, nom.size() - fin));
 }
 
+std::string projet_nomme_par(std::string_view fichier) {
+    constexpr std::string_view fin = ".INI";
+    constexpr std::string_view generation = " POURGENERER10";
+    if (!majuscules(fichier).ends_with(fin))
+        return "";
+    const std::string_view nom = fichier.substr(0, fichier.size() - fin.size());
+    for (const auto genre : {GenreFichier::table, GenreFichier::robot, GenreFichier::trajet})
+        if (std::string projet = projet_du_nom(nom, genre); !projet.empty())
+            return projet;
+    if (!majuscules(nom).ends_with(generation))
+        return "";
+    const std::string_view projet = nom.substr(0, nom.size() - generation.size());
+    return raison_projet_impossible(projet).empty() ? std::string(projet) : "";
+}
+
 std::string proposer_nom(std::string_view nom, GenreFichier genre) {
     std::string propre(nom);
     std::erase_if(propre, est_interdit);

@@ -36,5 +36,7 @@ std::filesystem::path fichier_d_editeur(const std::filesystem::path& configurati
 /// The project whose file `nom` + ".ini" is, "" when it belongs to none: "Essai Table" is a table
 /// of "Essai", "Essai Robot2" a robot, "Essai Trajet1" a trajectory.
 std::string projet_du_nom(std::string_view nom, GenreFichier genre);
+/// The project that a file of Configuration belongs to by its name, "" when there is none.
+std::string projet_nomme_par(std::string_view fichier);
 /// The nearest name that is possible and belongs to a project.
 std::string proposer_nom(std::string_view nom, GenreFichier genre);

@@ -15,6 +15,13 @@ Seance::Seance(Etat& etat, Fenetres& fenetres, Hote& hote,
       moteur_(etat, fenetres),
       reprise_(etat, projet_.dossier_configuration()) {}
 
+bool Seance::trajet_non_sauve() const {
+    for (int i = 0; i <= robots_max; ++i)
+        if (etat_.TrajetModifie(i))
+            return true;
+    return false;
+}
+
 bool Seance::demarrer() {
     return etape([this] { lire_projet(); }) && etape([this] { hote_.appliquer_reglages(); }) &&
            etape([this] { dessiner(); });

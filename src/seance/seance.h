@@ -26,6 +26,8 @@ public:
     Reprise& reprise() { return reprise_; }
     Annonces& annonces() { return annonces_; }
     bool en_marche() const { return hote_.en_marche(); }
+    /// A recorded path would be lost if the trajectories were read again.
+    bool trajet_non_sauve() const;
     bool terminee() const { return hote_.terminee(); }
 
     /// The start-up up to the first drawing: reads the project, applies its settings, draws. A step

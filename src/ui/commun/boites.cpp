@@ -1,6 +1,8 @@
 #include "ui/commun/boites.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -19,6 +21,14 @@ void preparer(QMessageBox& boite, const char* nom, QMessageBox::Icon image, std:
     boite.setTextFormat(Qt::PlainText); // a path may look like markup
     boite.setText(texte_qt(texte));
     boite.setInformativeText(texte_qt(explication));
+    boite.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* copier = new QAction(&boite); // a selected part is copied by its label
+    copier->setShortcut(QKeySequence::Copy);
+    QObject::connect(copier, &QAction::triggered, &boite, [&boite] {
+        QApplication::clipboard()->setText(
+            (boite.text() + "\n\n" + boite.informativeText()).trimmed());
+    });
+    boite.addAction(copier);
 }
 
 // Only its buttons answer: what closes the box otherwise decides nothing.

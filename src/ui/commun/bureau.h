@@ -15,6 +15,8 @@ public:
 
     /// Loads the project that the user has just chosen, and offers its unsaved recording.
     virtual void charger_projet_choisi() = 0;
+    /// At least so many robots, 1..9.
+    virtual void montrer_robots(int nombre) = 0;
     /// A recording has come back: as many robots as it needs, and the console goes on with it.
     virtual void continuer_enregistrement() = 0;
     /// Escape: ends the console's action, else the run. @returns false when nothing runs

@@ -31,6 +31,9 @@ public:
         std::function<void(const std::string& projet)> charger; ///< makes a project the current one
         std::function<void(const std::filesystem::path&)> ecrit =
             {}; ///< right after a file was written
+        /// Reads a project again when it is the current one. @returns false when it is not, or when
+        /// the user has to be asked
+        std::function<bool(const std::string& projet)> relire = {};
     };
 
     /// What tells one editor's window from another's.
@@ -45,6 +48,9 @@ public:
 
     /// Opens a file in place of the present drawing. @returns false after an error (told)
     bool ouvrir(const std::filesystem::path& chemin);
+    /// The same for the file of a project just made: saving needs no more questions, and its name
+    /// is proposed.
+    void ouvrir_nouveau(const std::filesystem::path& chemin);
     /// Writes the drawing, whatever is needed asked before; then offers to load its project.
     bool genererFic(const std::filesystem::path& chemin);
     bool enregistrer();
@@ -156,6 +162,7 @@ private:
     std::string sur_le_disque_;
     std::string refuses_; ///< another program's bytes that the user did not want
     bool remplacement_accepte_ = false;
+    std::string nom_propose_; ///< for "Enregistrer sous...", without ".ini"
     RepriseDessin reprise_;
     QTimer attente_reprise_{this}; ///< gathers the changes of half a second
     Veilleur veilleur_{[this] { verifier_disque(); }};

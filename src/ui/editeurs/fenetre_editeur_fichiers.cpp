@@ -32,6 +32,7 @@ void FenetreEditeur::nouveau() {
 // The drawing that was there is not wanted any more.
 void FenetreEditeur::autre_fichier() {
     remplacement_accepte_ = false;
+    nom_propose_.clear();
     ecrire_reprise();
     montrer_titre();
     vue().ajuster();
@@ -65,6 +66,13 @@ bool FenetreEditeur::ouvrir(const std::filesystem::path& chemin) {
         boites_.message(erreur.what());
         return false;
     }
+}
+
+void FenetreEditeur::ouvrir_nouveau(const std::filesystem::path& chemin) {
+    if (!ouvrir(chemin))
+        return;
+    remplacement_accepte_ = true;
+    nom_propose_ = chemin.stem().string();
 }
 
 // Another program has saved the file: it is read again, after a question when that would lose
@@ -160,8 +168,9 @@ void FenetreEditeur::proposer_de_charger() {
     std::error_code erreur;
     const bool a_sa_place =
         std::filesystem::equivalent(chemin_.parent_path(), programme_.configuration, erreur);
-    if (a_sa_place && !projet.empty() &&
-        boites_.question("Doit-on charger le projet " + projet + " maintenant ?"))
+    if (!a_sa_place || projet.empty() || (programme_.relire && programme_.relire(projet)))
+        return;
+    if (boites_.question("Doit-on charger le projet " + projet + " maintenant ?"))
         programme_.charger(projet);
 }
 
@@ -181,6 +190,8 @@ bool FenetreEditeur::enregistrer() {
 bool FenetreEditeur::enregistrer_sous() {
     outils_.suivre(description_.genre);
     nouveauProjet dialogue(this, description_.genre, programme_.configuration);
+    if (!nom_propose_.empty())
+        dialogue.proposer(nom_propose_);
     dialogue.generer = [this](const std::filesystem::path& chemin) { return genererFic(chemin); };
     return dialogue.exec() == QDialog::Accepted;
 }

@@ -36,6 +36,11 @@ nouveauProjet::nouveauProjet(QWidget* parent, GenreFichier genre,
     nomProjet.selectAll();
 }
 
+void nouveauProjet::proposer(const std::string& nom) {
+    nomProjet.setText(texte_qt(nom));
+    nomProjet.selectAll();
+}
+
 void nouveauProjet::placer() {
     auto* grille = new QGridLayout(this);
     grille->addWidget(&Label1, 0, 0);

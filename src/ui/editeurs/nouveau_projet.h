@@ -21,6 +21,9 @@ public:
 
     GenererFic generer;
 
+    /// Another name than "Defaut" to begin with.
+    void proposer(const std::string& nom);
+
 private:
     void placer();
     void OKButton_Click();

@@ -86,6 +86,11 @@ void Dialog::Form_Load() {
     entree_.dossiers.aller(dernier(cle_entree));
 }
 
+void Dialog::partir_de(const std::filesystem::path& programme) {
+    depart_.dossiers.aller(programme.parent_path());
+    depart_.fichiers.choisir(programme.filename().string());
+}
+
 void Dialog::retenir_dossiers() const {
     QSettings reglages;
     reglages.setValue(cle_depart, texte_qt(depart_.dossiers.chemin().string()));

@@ -35,6 +35,8 @@ public:
     ~Dialog() override;
 
     void Form_Load();
+    /// Chooses the program that the code goes into.
+    void partir_de(const std::filesystem::path& programme);
     void generer_Click();
     void rep_defaut_Click(bool coche);
     void Choisir_Click();

@@ -2,7 +2,9 @@
 
 #include "base/visible.h"
 #include "config/dossier.h"
+#include "config/projets.h"
 #include "ui/commun/application_sure.h"
+#include "ui/commun/garde.h"
 #include "ui/commun/ligne_texte.h"
 #include "ui/commun/style.h"
 #include "ui/principale/fin_signalee.h"
@@ -15,6 +17,7 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -38,7 +41,34 @@ void ecouter_la_fin(Sim1& sim, FinSignalee& fin) {
         Qt::DirectConnection);
 }
 
-int executer(const std::filesystem::path& dossier, FinSignalee& fin,
+// A misspelt name would make a new project.
+void exiger_projet_present(const std::filesystem::path& configuration, const std::string& projet) {
+    const std::vector<std::string> presents = lister_projets(configuration);
+    if (projet == "Defaut" || std::ranges::find(presents, projet) != presents.end())
+        return;
+    std::string texte = "aucun projet « " + projet + " » dans " + configuration.string();
+    for (const std::string& present : presents)
+        texte += (&present == &presents.front() ? " ; il y a " : ", ") + present;
+    throw ErreurExecution(texte);
+}
+
+void preparer(Sim1& sim, const std::string& projet) {
+    if (projet.empty())
+        return;
+    exiger_projet_present(sim.seance().projet().dossier_configuration(), projet);
+    sim.seance().projet().imposer_projet(projet);
+}
+
+void poursuivre(Sim1& sim, const Demarrage& demarrage) {
+    garde(sim.seance().fenetres(), [&] {
+        if (!demarrage.fichier.empty())
+            sim.ouvrir_fichier(demarrage.fichier);
+        if (demarrage.demarrer)
+            sim.demarrer_match();
+    });
+}
+
+int executer(const std::filesystem::path& dossier, FinSignalee& fin, const Demarrage& demarrage,
              const std::function<void(Sim1&)>& prete) {
     std::optional<int> code;
     Sim1 sim(dossier, [&code](int sortie) {
@@ -46,7 +76,10 @@ int executer(const std::filesystem::path& dossier, FinSignalee& fin,
         QCoreApplication::exit(sortie);
     });
     ecouter_la_fin(sim, fin);
+    preparer(sim, demarrage.projet);
     sim.Form_Load();
+    if (!code)
+        poursuivre(sim, demarrage);
     // After the windows are painted: the icon is a picture to be read.
     constexpr int apres_les_fenetres_ms = 20;
     QTimer::singleShot(apres_les_fenetres_ms, &sim,
@@ -58,8 +91,7 @@ int executer(const std::filesystem::path& dossier, FinSignalee& fin,
 
 } // namespace
 
-int executer_application(int& argc, char** argv,
-                         const std::optional<std::filesystem::path>& dossier,
+int executer_application(int& argc, char** argv, const Demarrage& demarrage,
                          const std::function<void(Sim1&)>& prete) {
     qInstallMessageHandler(dire_et_finir);
     QLocale::setDefault(QLocale(QLocale::French, QLocale::France)); // whatever the environment says
@@ -74,7 +106,7 @@ int executer_application(int& argc, char** argv,
     if (francais.load("qtbase_fr", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&francais);
     LigneTexte::installer_accessibilite();
-    const std::filesystem::path racine = dossier_application(dossier);
+    const std::filesystem::path racine = dossier_application(demarrage.dossier);
     entrer_dans_dossier(racine);
-    return executer(racine, fin, prete);
+    return executer(racine, fin, demarrage, prete);
 }

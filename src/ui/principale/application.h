@@ -3,13 +3,21 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <string>
 
 class Sim1;
 
+/// What the command line asks of the start.
+struct Demarrage {
+    std::optional<std::filesystem::path> dossier; ///< application directory
+    std::string projet{};            ///< in place of the settings' own; empty: none is asked for
+    std::filesystem::path fichier{}; ///< to be opened as if it were dropped
+    bool demarrer = false;           ///< the match
+};
+
 /// Opens the windows and runs the program until it ends.
-/// @param dossier  application directory, if one is asked for
 /// @param prete    called with the main window after the start-up, before the first event
 /// @returns the exit code
-int executer_application(int& argc, char** argv,
-                         const std::optional<std::filesystem::path>& dossier,
+/// @throws ErreurExecution when there is no such project
+int executer_application(int& argc, char** argv, const Demarrage& demarrage,
                          const std::function<void(Sim1&)>& prete = {});

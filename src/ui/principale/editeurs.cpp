@@ -20,6 +20,14 @@ void charger_projet(Seance& seance, Bureau& bureau, const std::string& projet) {
     bureau.charger_projet_choisi();
 }
 
+/// The loaded project's own file was saved: nothing is asked where nothing can be lost.
+bool relire(Seance& seance, const std::string& projet) {
+    if (projet != seance.etat().NomProjet || seance.en_marche() || seance.trajet_non_sauve())
+        return false;
+    garde(seance.fenetres(), [&] { seance.relire_tout(); });
+    return true;
+}
+
 FenetreEditeur::Programme programme(Seance& seance, Bureau& bureau) {
     return {seance.projet().dossier_configuration(),
             [&](const std::string& projet) {
@@ -27,7 +35,8 @@ FenetreEditeur::Programme programme(Seance& seance, Bureau& bureau) {
             },
             [&](const std::filesystem::path& fichier) {
                 seance.annonces().annoncer(&Ecouteur::fichier_ecrit, fichier);
-            }};
+            },
+            [&](const std::string& projet) { return relire(seance, projet); }};
 }
 
 } // namespace
@@ -35,10 +44,12 @@ FenetreEditeur::Programme programme(Seance& seance, Bureau& bureau) {
 Editeurs::Editeurs(QWidget* principale, Seance& seance, Bureau& bureau)
     : principale_(*principale),
       seance_(seance),
+      bureau_(bureau),
       outils_(*new Foutil(principale)),
       table_(*new dessinTable(principale, outils_, programme(seance, bureau))),
       robot_(*new dessinRobot(principale, outils_, programme(seance, bureau))),
-      trajet_(*new dessinTrajet(principale, outils_, programme(seance, bureau), seance)) {
+      trajet_(*new dessinTrajet(principale, outils_, programme(seance, bureau), seance)),
+      premiere_page_(*new PremierePage(seance.projet().dossier_configuration())) {
     outils_.au_choix_d_outil = [this] {
         table_.outil_change();
         robot_.outil_change();
@@ -48,6 +59,10 @@ Editeurs::Editeurs(QWidget* principale, Seance& seance, Bureau& bureau)
     outils_.a_l_annulation = [this](const char* commande) {
         dessin_choisi().findChild<QAction*>(commande)->trigger();
     };
+    table_.addToolBar(&premiere_page_); // which is its owner from now on
+    table_.insertToolBarBreak(&premiere_page_);
+    premiere_page_.hide();
+    premiere_page_.a_la_creation = [this](const PremierePage::Demande& d) { creer(d); };
 }
 
 FenetreEditeur& Editeurs::dessin_choisi() {
@@ -64,6 +79,7 @@ void Editeurs::palette_demenagee() {
 
 void Editeurs::montrer() {
     placer();
+    premiere_page_.proposer();
     montrer_dessin();
     placer_palette();
     outils_.show();
@@ -75,9 +91,37 @@ void Editeurs::montrer_dessin() {
     if (&dessin == &robot_)
         robot_.regler_table(seance_.etat());
     dessin.accueillir_palette();
+    accueillir(dessin);
     dessin.show();
     dessin.raise();
     dessin.activateWindow();
+}
+
+// The first page goes with the drawing that is shown.
+void Editeurs::accueillir(FenetreEditeur& dessin) {
+    auto* ancienne = static_cast<QMainWindow*>(premiere_page_.parentWidget());
+    if (premiere_page_.isHidden() || ancienne == &dessin)
+        return;
+    ancienne->removeToolBarBreak(&premiere_page_);
+    ancienne->removeToolBar(&premiere_page_);
+    dessin.addToolBar(&premiere_page_);
+    dessin.insertToolBarBreak(&premiere_page_);
+    premiere_page_.show();
+}
+
+void Editeurs::creer(const PremierePage::Demande& demande) {
+    if (!peut_partir({&table_, &robot_}))
+        return;
+    const std::filesystem::path dossier = seance_.projet().dossier_configuration();
+    creer_projet(dossier, demande.nom, demande.fichiers);
+    premiere_page_.hide();
+    robot_.ouvrir_nouveau(chemin_de_projet(dossier, demande.nom, " Robot1.ini"));
+    table_.ouvrir_nouveau(chemin_de_projet(dossier, demande.nom, " Table.ini"));
+    if (!seance_.fenetres().question("Doit-on charger le projet " + demande.nom + " maintenant ?"))
+        return;
+    charger_projet(seance_, bureau_, demande.nom);
+    if (demande.exemple)
+        bureau_.montrer_robots(2);
 }
 
 // Where the user left it, else beside the drawing.
@@ -123,15 +167,15 @@ void Editeurs::montrer_trajet() {
     trajet_.activateWindow();
 }
 
-bool Editeurs::peut_partir() {
-    std::array<FenetreEditeur::Depart, 3> reponses{};
-    for (std::size_t i = 0; i < reponses.size(); ++i) {
-        reponses.at(i) = dessins().at(i)->demander_depart();
-        if (reponses.at(i) == FenetreEditeur::Depart::annuler)
+bool Editeurs::peut_partir(const std::vector<FenetreEditeur*>& dessins) {
+    std::vector<FenetreEditeur::Depart> reponses;
+    for (FenetreEditeur* dessin : dessins) {
+        reponses.push_back(dessin->demander_depart());
+        if (reponses.back() == FenetreEditeur::Depart::annuler)
             return false;
     }
     for (std::size_t i = 0; i < reponses.size(); ++i)
-        if (!dessins().at(i)->preparer_depart(reponses.at(i)))
+        if (!dessins[i]->preparer_depart(reponses[i]))
             return false;
     return true;
 }

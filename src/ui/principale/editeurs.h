@@ -4,8 +4,9 @@
 #include "ui/editeurs/dessin_table.h"
 #include "ui/editeurs/dessin_trajet.h"
 #include "ui/editeurs/foutil.h"
+#include "ui/principale/premiere_page.h"
 
-#include <array>
+#include <vector>
 
 class Bureau;
 class Seance;
@@ -22,7 +23,7 @@ public:
     void montrer_trajet(int robot, int numero);
     /// Asks about all unsaved changes, then saves what is to be saved; discards nothing yet.
     /// @returns false when the user does not want to leave
-    bool peut_partir();
+    bool peut_partir() { return peut_partir(dessins()); }
     /// The program ends: what is not saved goes.
     void partir();
     /// Offers the drawings that an earlier program did not save.
@@ -32,20 +33,26 @@ public:
 
 private:
     void montrer_dessin();
+    void accueillir(FenetreEditeur& dessin);
+    /// The files of a new project, open in both editors; then offers to load it.
+    void creer(const PremierePage::Demande& demande);
     void montrer_trajet();
     void placer();
     void placer_palette();
     void palette_demenagee();
     FenetreEditeur& dessin_choisi();
-    std::array<FenetreEditeur*, 3> dessins() const { return {&table_, &robot_, &trajet_}; }
+    std::vector<FenetreEditeur*> dessins() const { return {&table_, &robot_, &trajet_}; }
+    static bool peut_partir(const std::vector<FenetreEditeur*>& dessins);
 
     QWidget& principale_;
     Seance& seance_;
+    Bureau& bureau_;
     // The windows belong to the main window, like all others.
     Foutil& outils_;
     dessinTable& table_;
     dessinRobot& robot_;
     dessinTrajet& trajet_;
+    PremierePage& premiere_page_;
     bool places_ = false;         ///< the windows have got their first place
     bool palette_placee_ = false; ///< it has floated
     bool trajet_place_ = false;

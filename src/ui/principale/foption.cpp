@@ -1,12 +1,16 @@
 #include "ui/principale/foption.h"
 
+#include "config/nom_projet.h"
 #include "sim/damier.h"
+#include "ui/commun/boites.h"
 #include "ui/commun/bureau.h"
 #include "ui/commun/icones_commandes.h"
 #include "ui/commun/place.h"
 #include "ui/principale/ouvrir.h"
+#include "ui/principale/projets_recents.h"
 
 #include <QKeyEvent>
+#include <QMenu>
 #include <QSignalBlocker>
 
 QSize CaseLibelle::sizeHint() const {
@@ -145,6 +149,33 @@ void FOption::Command2_Click() {
         bureau_.charger_projet_choisi();
 }
 
+void FOption::charger(const std::string& projet) {
+    exiger_projet_possible(projet);
+    if (!seance_.SauvRobot() || seance_.terminee())
+        return;
+    seance_.etat().NomProjet = projet;
+    SaveGeneral();
+    bureau_.charger_projet_choisi();
+}
+
+void FOption::remplir_recents(QMenu& menu) {
+    menu.clear();
+    menu.setObjectName("menu_recents");
+    for (const std::string& projet : projets_recents(seance_.projet().dossier_configuration())) {
+        QAction* choix = menu.addAction(texte_qt(projet).replace("&", "&&"));
+        choix->setEnabled(projet != seance_.etat().NomProjet);
+        connect(choix, &QAction::triggered, this, [this, projet] { charger(projet); });
+    }
+}
+
+bool FOption::espace(const QKeyEvent& touche) {
+    if (touche.key() != Qt::Key_Space || touche.modifiers() != Qt::NoModifier)
+        return false;
+    if (!touche.isAutoRepeat())
+        Command1_Click();
+    return true;
+}
+
 void FOption::Command4_Click() {
     if (!bureau_.peut_partir())
         return;
@@ -154,7 +185,7 @@ void FOption::Command4_Click() {
 }
 
 void FOption::keyPressEvent(QKeyEvent* evenement) {
-    if (evenement->key() != Qt::Key_Escape || !bureau_.arreter_course())
+    if (!espace(*evenement) && (evenement->key() != Qt::Key_Escape || !bureau_.arreter_course()))
         QWidget::keyPressEvent(evenement);
 }
 
@@ -171,5 +202,8 @@ void FOption::connecter() {
             [this](int valeur) { VScroll1_Change(valeur); });
     brancher(Command1, [this] { Command1_Click(); });
     brancher(Command2, [this] { Command2_Click(); });
+    auto* menu = new QMenu(this);
+    recents_.setMenu(menu);
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] { remplir_recents(*menu); });
     brancher(Command4, [this] { Command4_Click(); });
 }

@@ -7,12 +7,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QToolButton>
 #include <QWidget>
 
 #include <functional>
 #include <string_view>
 
 class Bureau;
+class QMenu;
 
 /// A check box that serves as a caption: no indicator, not to be ticked.
 class CaseLibelle final : public QCheckBox {
@@ -55,6 +57,11 @@ public:
     /// "Charger": offers to save what was recorded, lets the user choose a project, loads it.
     void Command2_Click();
     void Command4_Click();
+    /// Loads a project that was chosen without the list.
+    void charger(const std::string& projet);
+    void remplir_recents(QMenu& menu);
+    /// Space starts and stops where no control uses it. @returns whether the key was that one
+    bool espace(const QKeyEvent& touche);
 
     QLineEdit nbre_carreaux;
     QCheckBox utiliDamier;
@@ -89,4 +96,5 @@ private:
     BarreNombre VScroll1;
     QLabel NbRO, lb_utilcarreaux;
     QLabel damier_tourne_;
+    QToolButton recents_;
 };

@@ -74,6 +74,11 @@ void FOption::nommer() {
         ecrire_texte(l.controle, l.texte);
         l.controle.setToolTip(l.bulle);
     }
+    recents_.setObjectName("recents");
+    recents_.setAccessibleName("Projets récents");
+    recents_.setToolTip("Charge un des derniers projets");
+    recents_.setArrowType(Qt::DownArrow);
+    recents_.setPopupMode(QToolButton::InstantPopup);
     setObjectName("FOption");
     setWindowTitle("Option");
     Check1.setChecked(true);
@@ -148,7 +153,14 @@ QLayout* FOption::placer_boutons() {
         bouton.setEnabled(false); // until a procedure is given to it
         bouton.setIcon(icone(commande, &bouton == &Command1));
         style::aligner_a_gauche(bouton);
-        colonne->addWidget(&bouton);
+        if (&bouton != &Command2) {
+            colonne->addWidget(&bouton);
+            continue;
+        }
+        auto* rangee = new QHBoxLayout;
+        rangee->addWidget(&bouton, 1);
+        rangee->addWidget(&recents_);
+        colonne->addLayout(rangee);
     }
     style::mettre_en_avant(Command1);
     Command1.setMinimumHeight(Command1.sizeHint().height() * 4 / 3);

@@ -7,6 +7,8 @@
 #include "ui/feuille/exports.h"
 #include "ui/generation/dialog.h"
 #include "ui/principale/editeurs.h"
+#include "ui/principale/erreurs_lecture.h"
+#include "ui/principale/projets_recents.h"
 #include "ui/principale/restauration.h"
 #include "ui/principale/surveillance.h"
 #include "ui/verdict/verdict.h"
@@ -66,6 +68,8 @@ void Sim1::connecter() {
     options_.brancher(options_.generer, [this] { montrer_generateur(); });
     options_.brancher(options_.Command5, [this] { montrer_console(); });
     options_.brancher(options_.Aide, [this] { aide_->montrer(options_); });
+    for (QWidget* fenetre : std::initializer_list<QWidget*>{this, &options_})
+        depot_.accueillir(*fenetre);
     Table.au_clic = [this] { Table_Click(); };
     logo.au_clic = [this] { logo_Click(); };
     verdict_->quand_calcule([this](const Analyse& a) {
@@ -88,6 +92,7 @@ void Sim1::Form_Load() {
     verdict_->recalculer();
     show();
     Table_Click();
+    montrer_erreurs();
     garde(*this, [this] { proposer_reprise(); });
 }
 
@@ -109,10 +114,13 @@ void Sim1::proposer_reprise() {
         editeurs().proposer_reprises();
 }
 
+void Sim1::montrer_robots(int nombre) {
+    if (nombre > e->NbRobot && nombre <= robots_des_fichiers)
+        options_.choisir_robots(nombre);
+}
+
 void Sim1::continuer_enregistrement() {
-    const int dernier = seance_.reprise().dernier_robot();
-    if (dernier > e->NbRobot && dernier <= robots_des_fichiers)
-        options_.choisir_robots(dernier);
+    montrer_robots(seance_.reprise().dernier_robot());
     redessiner();
     montrer_console();
     console_->continuer_le_dernier();
@@ -121,6 +129,7 @@ void Sim1::continuer_enregistrement() {
 void Sim1::projet_va_etre_lu() {
     Table.oublier_silhouettes();
     titrer();
+    retenir_projet(seance_.projet().dossier_configuration(), e->NomProjet);
 }
 
 void Sim1::charger_projet_choisi() {
@@ -225,6 +234,6 @@ void Sim1::closeEvent(QCloseEvent* evenement) {
 }
 
 void Sim1::keyPressEvent(QKeyEvent* evenement) {
-    if (evenement->key() != Qt::Key_Escape || !arreter_course())
+    if (!options_.espace(*evenement) && (evenement->key() != Qt::Key_Escape || !arreter_course()))
         QWidget::keyPressEvent(evenement);
 }

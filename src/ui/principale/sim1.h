@@ -7,6 +7,7 @@
 #include "ui/principale/barre_match.h"
 #include "ui/principale/cadence.h"
 #include "ui/principale/calques.h"
+#include "ui/principale/depot.h"
 #include "ui/principale/foption.h"
 #include "ui/principale/logo.h"
 #include "ui/principale/pointeur.h"
@@ -20,6 +21,7 @@
 
 class Dialog;
 class Editeurs;
+class ErreursLecture;
 class Exports;
 class QMenu;
 class Restauration;
@@ -47,6 +49,12 @@ public:
     void logo_Click() { Table_Click(); }
     /// Writes what the next start would take up: the program may end at once.
     void ecrire_reprises();
+
+    /// A file given on the command line or dropped on a window: one of a project is loaded, a
+    /// PICBASIC program goes to the generator.
+    void ouvrir_fichier(const std::filesystem::path& fichier);
+    /// As "Démarrer" does.
+    void demarrer_match();
 
     Seance& seance() { return seance_; }
 
@@ -86,12 +94,14 @@ private:
     void montrer_restauration() override;
     void modifier_le_trajet(int robot, int numero) override;
     void charger_projet_choisi() override;
+    void montrer_robots(int nombre) override;
     void continuer_enregistrement() override;
     bool arreter_course() override;
     bool peut_partir() override;
     void partir() override;
 
     void projet_va_etre_lu() override;
+    void projet_change(Lecture lecture) override;
 
     Bureau& bureau() { return *this; }
     void nommer();
@@ -105,6 +115,10 @@ private:
     void montrer_generateur();
     Editeurs& editeurs();
     void proposer_reprise();
+    void montrer_erreurs();
+    void ouvrir_le_dossier();
+    void enregistrer_image();
+    void montrer_a_propos();
     void Timer_Timer();
     void suspendre(bool oui);
     void avancer_d_un_pas();
@@ -140,6 +154,7 @@ private:
     bool terminee_ = false;
     Boites boites_{*this};
     Seance seance_;
+    Depot depot_{[this](const std::filesystem::path& fichier) { ouvrir_fichier(fichier); }};
     QTimer Timer{this};
     Cadence cadence_;
     bool suspendue_ = false; ///< the run is in pause: the timer is stopped, the run is not
@@ -147,6 +162,7 @@ private:
     QAction* pas_ = nullptr;
     QList<QAction*> commandes_de_vitesse_;
     QList<QAction*> commandes_d_export_;
+    QList<QAction*> commandes_du_projet_;
     LigneTexte Mess, Info;
     ::Table Table;
     Banniere LNom;
@@ -167,5 +183,6 @@ private:
     std::unique_ptr<Surveillance> surveillance_;
     std::unique_ptr<Verdict> verdict_;
     std::unique_ptr<Exports> exports_;
+    std::unique_ptr<ErreursLecture> erreurs_;
     std::unique_ptr<ServiceAide> aide_;
 };

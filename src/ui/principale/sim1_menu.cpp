@@ -52,6 +52,11 @@ void Sim1::composer_menu() {
                   [this] { exports_->imprimer(); }),
         &commande("menu_image", "Exporter l'image…", {}, [this] { exports_->image(); }),
         &commande("menu_trace_csv", "Exporter la trace…", {}, [this] { exports_->trace(); })};
+    commandes_du_projet_ = {
+        &commande("menu_dossier", "Ouvrir le dossier", {}, [this] { ouvrir_le_dossier(); }),
+        &commande("menu_capture", "Enregistrer une image", Qt::Key_F12,
+                  [this] { enregistrer_image(); }),
+        &commande("menu_a_propos", "À propos de Tavolmex…", {}, [this] { montrer_a_propos(); })};
     montrer_rythme();
 }
 
@@ -68,6 +73,9 @@ void Sim1::montrer_menu(const QPoint& ou) {
     menu.addActions(Table.actions());
     menu.addSeparator();
     menu.addActions(commandes_d_export_);
+    menu.addSeparator();
+    options_.remplir_recents(*menu.addMenu("Projets récents"));
+    menu.addActions(commandes_du_projet_);
     pointeur_.noter(ou); // whatever the pointer does in the menu
     menu.exec(Table.mapToGlobal(ou));
 }

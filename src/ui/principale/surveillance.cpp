@@ -7,17 +7,6 @@
 #include <algorithm>
 #include <functional>
 
-namespace {
-
-bool trajet_non_sauve(const Etat& e) {
-    for (int i = 0; i <= robots_max; ++i)
-        if (e.TrajetModifie(i))
-            return true;
-    return false;
-}
-
-} // namespace
-
 Surveillance::Surveillance(Seance& seance) : seance_(seance), veilleur_([this] { verifier(); }) {
     ecouter(seance.annonces());
 }
@@ -106,7 +95,7 @@ void Surveillance::verifier() {
 
 bool Surveillance::permis(bool table_seule, const std::string& quoi) {
     std::string question = "Modifié par un autre programme : " + quoi + std::string(RetourLigne);
-    const bool perte = !table_seule && trajet_non_sauve(seance_.etat());
+    const bool perte = !table_seule && seance_.trajet_non_sauve();
     if (perte)
         question += "Relire ferait perdre le trajet enregistré qui n'est pas sauvegardé. "
                     "Faut-il relire quand même ?";

@@ -283,7 +283,7 @@ void Table::mouseReleaseEvent(QMouseEvent* evenement) {
 }
 
 void Table::keyPressEvent(QKeyEvent* evenement) {
-    if (evenement->key() == Qt::Key_Space || evenement->key() == Qt::Key_Return)
+    if (evenement->key() == Qt::Key_Return)
         au_clic();
     else
         QWidget::keyPressEvent(evenement);
