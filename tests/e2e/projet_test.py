@@ -36,7 +36,6 @@ def modifier(p, configuration):
     p.derouler("^Insérer$", "^Pause$")
     p.derouler("^Fichier$", "^Enregistrer$")
     repondre(p, "remplacer", "Oui")
-    repondre(p, "charger le projet", "Non")
     attendre("le trajet enregistré",
              lambda: "PAUSE" in (configuration / "Defaut Trajet1.ini").read_text())
     p.derouler("^Trajet$", "^Copier vers un robot...$")
@@ -46,7 +45,6 @@ def modifier(p, configuration):
     p.objet("combo box", "^Autre côté : miroir gauche-droite$")
     p.presser("^Copier$")
     repondre(p, "remplacer", "Oui")
-    repondre(p, "charger le projet", "Oui")
     attendre("le trajet du robot 2",
              lambda: "GAUCHE    ,45" in (configuration / "Defaut Trajet2.ini").read_text())
 
