@@ -41,9 +41,9 @@ private:
 
 int enfant(int argc, char** argv) {
     std::unique_ptr<FinAuPremierTrait> fin;
-    return executer_application(argc, argv, std::filesystem::path(argv[2]), [&fin](Sim1& sim) {
-        fin = std::make_unique<FinAuPremierTrait>(sim);
-    });
+    return executer_application(
+        argc, argv, {.dossier = std::filesystem::path(argv[2])},
+        [&fin](Sim1& sim) { fin = std::make_unique<FinAuPremierTrait>(sim); });
 }
 
 /// Runs a program to its end. @returns its peak of memory in kilobytes

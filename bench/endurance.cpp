@@ -101,7 +101,7 @@ int main(int argc, char** argv) {
     ::setenv("XDG_CONFIG_HOME", dossier.chemin().c_str(), 1);
     int un = 1;
     std::unique_ptr<Endurance> endurance;
-    return executer_application(un, argv, dossier.chemin(), [&](Sim1& sim) {
+    return executer_application(un, argv, {.dossier = dossier.chemin()}, [&](Sim1& sim) {
         endurance = std::make_unique<Endurance>(sim, std::max(10L, chargements), duree);
     });
 }
