@@ -13,12 +13,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* suite_table = " Table.ini";
-
-std::string numerotee(const char* genre, int n) {
-    return genre + std::to_string(n) + ".ini";
-}
-
 // The first line of most files says their name.
 std::string sous_le_nom(std::string octets, const std::string& ancien, const std::string& nom) {
     const std::string debut = "# Fichier ";
@@ -45,7 +39,7 @@ Pose place(const Etat& table, int n) {
 
 std::string trajet_immobile(const std::string& nom, int n, Pose p) {
     Ecrivain texte;
-    texte.entete(nom + numerotee(" Trajet", n) + " ")
+    texte.entete(nom + suite_trajet(n) + " ")
         .ligne()
         .description("Fichier de description du déplacement du robot.", "Readme.txt")
         .ligne("Init,", std::to_string(p.x), ",", std::to_string(p.y), ",90")
@@ -65,9 +59,9 @@ void completer(std::vector<FichierDeProjet>& fichiers, const std::string& nom) {
     const auto table = std::make_unique<Etat>();
     DocumentTable::depuis(trouver(fichiers, suite_table)->octets).remplir(*table);
     for (int n = 1; n <= robots_des_fichiers; ++n) {
-        if (const std::string suite = numerotee(" Robot", n); trouver(fichiers, suite) == nullptr)
+        if (const std::string suite = suite_robot(n); trouver(fichiers, suite) == nullptr)
             fichiers.push_back({suite, robot_par_defaut(nom, n)});
-        if (const std::string suite = numerotee(" Trajet", n); trouver(fichiers, suite) == nullptr)
+        if (const std::string suite = suite_trajet(n); trouver(fichiers, suite) == nullptr)
             fichiers.push_back({suite, trajet_immobile(nom, n, place(*table, n))});
     }
 }
@@ -82,7 +76,7 @@ const std::vector<std::string>& suites_de_projet() {
     static const std::vector<std::string> suites = [] {
         std::vector<std::string> s{suite_table, " PourGenerer10.ini", ".bas"};
         for (int n = 1; n <= robots_des_fichiers; ++n)
-            s.insert(s.end(), {numerotee(" Robot", n), numerotee(" Trajet", n)});
+            s.insert(s.end(), {suite_robot(n), suite_trajet(n)});
         return s;
     }();
     return suites;

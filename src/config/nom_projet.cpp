@@ -81,6 +81,14 @@ std::string_view sans_fin(std::string_view nom) {
 
 } // namespace
 
+std::string suite_robot(int n) {
+    return " Robot" + std::to_string(n) + ".ini";
+}
+
+std::string suite_trajet(int n) {
+    return " Trajet" + std::to_string(n) + ".ini";
+}
+
 std::string raison_projet_impossible(std::string_view nom) {
     if (!est_utf8(nom))
         return "ses accents ne sont pas codés en UTF-8";

@@ -7,6 +7,11 @@
 // A project's name is data: it comes from the settings, a command line, a directory listing or a
 // text field. It becomes a path here and nowhere else.
 
+/// What stands behind the project's name in the names of its files; n: the robot, 1..9.
+inline constexpr const char* suite_table = " Table.ini";
+std::string suite_robot(int n);
+std::string suite_trajet(int n);
+
 /// Why a project cannot bear this name, "" when it can: it would leave Configuration, be cut short,
 /// be too long for the names of its files and their backups, or not be read back from the settings.
 /// The empty name can.

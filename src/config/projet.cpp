@@ -21,13 +21,6 @@ namespace {
 constexpr std::size_t taille_lisible = std::size_t{4} << 20;
 
 constexpr const char* nom_general = "Tavolmex.ini";
-constexpr const char* suite_table = " Table.ini";
-std::string suite_robot(int n) {
-    return " Robot" + std::to_string(n) + ".ini";
-}
-std::string suite_trajet(int n) {
-    return " Trajet" + std::to_string(n) + ".ini";
-}
 
 /// Writes a default file unless something of that name is there.
 template <typename Contenu>

@@ -42,8 +42,7 @@ public:
         LecteurTrajet lecteur(*e);
         for (int n = 1; n <= robots_des_fichiers; ++n) {
             try {
-                const fs::path fichier =
-                    fichier_de_projet(dossier, projet, " Trajet" + std::to_string(n) + ".ini");
+                const fs::path fichier = fichier_de_projet(dossier, projet, suite_trajet(n));
                 std::error_code erreur;
                 absents_ = absents_ && !fs::exists(fichier, erreur);
                 Entier16 NoLigne;

@@ -116,7 +116,7 @@ void Editeurs::creer(const PremierePage::Demande& demande) {
     creer_projet(dossier, demande.nom, demande.fichiers);
     premiere_page_.hide();
     robot_.ouvrir_nouveau(chemin_de_projet(dossier, demande.nom, " Robot1.ini"));
-    table_.ouvrir_nouveau(chemin_de_projet(dossier, demande.nom, " Table.ini"));
+    table_.ouvrir_nouveau(chemin_de_projet(dossier, demande.nom, suite_table));
     if (!seance_.fenetres().question("Doit-on charger le projet " + demande.nom + " maintenant ?"))
         return;
     charger_projet(seance_, bureau_, demande.nom);
