@@ -33,6 +33,17 @@ Choix ajouter(DocumentRobot& robot, const std::vector<Fiche>& nouveaux) {
 
 } // namespace
 
+DocumentRobot robot_neuf(double largeur_table) {
+    constexpr double pas = 5; // the grid of a table
+    DocumentRobot robot = DocumentRobot::nouveau();
+    double arriere = 0; // behind the reference point
+    for (const std::size_t i : segments(robot))
+        arriere = std::max(arriere, robot.valeurs("A")[1] - formes::bornes(robot[i]).bas);
+    robot.regler(
+        "I", {en_16_bits(largeur_table / 2), en_16_bits(std::ceil(arriere / pas) * pas), 90, 0});
+    return robot;
+}
+
 Choix segments(const DocumentRobot& robot) {
     Choix choix;
     for (std::size_t i = 0; i < robot.nombre(); ++i)

@@ -7,6 +7,9 @@
 // What the robot editor does to a robot. Undoing is keeping the document from before: it is a
 // value. Of the chosen records only the segments count; their numbers stay within 16 bits.
 
+/// A new robot, in the middle of the foot of a table of that width (cm), its back to the border.
+DocumentRobot robot_neuf(double largeur_table);
+
 Choix segments(const DocumentRobot& robot);
 Choix segments(const DocumentRobot& robot, const Choix& choix);
 

@@ -16,11 +16,11 @@ def poser_une_zone(p):
     p.agir("(check box|toggle button)", r"^Zone O", "(Press|Toggle)")
     p.cliquer_au_milieu("^Table à dessiner$")
     p.objet("list item", r"^Zone O \(rouge\) : \d+, \d+, \d+, \d+$")
-    p.objet("spin button", "^X1$").queryValue().currentValue = 30
+    p.objet("spin button", "^X$").queryValue().currentValue = 30
 
 
 def enregistrer_et_charger(p, nom):
-    p.derouler("^Fichier$", "^Enregistrer$")
+    p.derouler("^Fichier$", "^Enregistrer sous")
     p.objet("text", "^Nom du projet$").queryEditableText().setTextContents(nom)
     p.presser("^Enregistrer$")
     p.presser("^Oui$")
@@ -33,7 +33,7 @@ def scenario(programme, dossier):
         try:
             p.fenetre("Option")
             p.presser("^Créer un projet...$")
-            p.fenetre("Sans nom – Dessin de la table")
+            p.fenetre("Defaut Table.ini – Dessin de la table")
             poser_une_zone(p)
             enregistrer_et_charger(p, "Essai Table")
             attendre("le projet chargé", (configuration / "Essai Trajet9.ini").is_file)

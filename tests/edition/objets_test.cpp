@@ -260,6 +260,12 @@ TEST(SegmentsRobot, chaque_geste_change_les_segments_choisis) {
         EXPECT_EQ(robot_apres(avant, c.geste), c.attendu);
 }
 
+TEST(SegmentsRobot, un_robot_neuf_est_au_milieu_du_pied_de_la_table) {
+    const DocumentRobot r = robot_neuf(210);
+    EXPECT_EQ(r.valeurs("I"), (std::array<float, 4>{105, 15, 90, 0}))
+        << "14 cm behind the reference";
+}
+
 TEST(Outils, un_clic_pose_la_taille_voulue_un_trace_suit_la_souris) {
     const Tailles t{40, 20, 5, 60, 90};
     const auto v = [](const Fiche& f) { return f.v; };

@@ -183,6 +183,7 @@ TEST_F(Depart, un_second_programme_ne_prend_pas_le_dessin_du_premier) {
     ASSERT_EQ(messages.size(), 1U);
     EXPECT_TRUE(contient(messages[0], "déjà ouvert"));
     cliquer("dessinAire");
+    commande("nouveau");
     cliquer("outil_L");
     clic(50, 50);
     editeur().ecrire_reprise();

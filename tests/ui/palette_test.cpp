@@ -5,6 +5,7 @@
 
 #include <QClipboard>
 #include <QMenu>
+#include <QTabWidget>
 #include <QToolBar>
 
 namespace {
@@ -131,6 +132,37 @@ TEST_F(Palette, le_bouton_droit_choisit_et_propose_les_commandes_des_menus) {
     EXPECT_TRUE(menu.actions().contains(editeur().findChild<QAction*>("copier")));
     menu.close();
     EXPECT_TRUE(contient(choisis(), "PB")) << choisis();
+}
+
+TEST_F(Palette, le_projet_charge_s_ouvre_tant_que_l_on_n_a_rien_choisi) {
+    EXPECT_EQ(editeur().windowTitle(), "Defaut Table.ini[*] – Dessin de la table");
+    editeur().close();
+    e().NomProjet = "Autre";
+    dossier.ecrire("Configuration/Autre Table.ini", "U,0,0,9,9");
+    cliquer("dessinAire");
+    EXPECT_EQ(dernier("U"), "U 0 0 9 9");
+    ouvrir();
+    editeur().close();
+    cliquer("dessinAire");
+    EXPECT_EQ(doc().ecrire(), fichier) << "what was opened stays";
+    trouver<QRadioButton>("chx_dessinRobot").click();
+    EXPECT_TRUE(robot().windowTitle().startsWith("Sans nom")) << "that project has no robot";
+    EXPECT_EQ(trouver<QDoubleSpinBox>("I1").value(), e().XMax / 2);
+}
+
+TEST_F(Palette, une_mesure_du_robot_se_montre_sur_le_dessin) {
+    trouver<QRadioButton>("chx_dessinRobot").click();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&robot()));
+    trouver<QTabWidget>("onglets").setCurrentIndex(1);
+    auto& v = trouver<VueRobot>("vueRobot");
+    trouver("listeSegments").setFocus();
+    const QImage sans = v.grab().toImage();
+    for (const char* mesure : {"A1", "A2", "A3", "V1", "V2", "E1", "E2", "E3"}) {
+        trouver<Nombre>(mesure).setFocus();
+        EXPECT_NE(v.grab().toImage(), sans) << mesure;
+    }
+    v.setFocus();
+    EXPECT_EQ(v.grab().toImage(), sans);
 }
 
 TEST_F(Palette, la_barre_partage_les_commandes_et_dit_leur_touche) {

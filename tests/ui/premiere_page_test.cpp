@@ -41,7 +41,7 @@ TEST_F(NouveauProjet, personne_n_est_oblige_d_y_repondre) {
     EXPECT_TRUE(page().isVisible());
     EXPECT_TRUE(trouver("Foutil").isVisible());
     EXPECT_TRUE(table().isVisible());
-    EXPECT_EQ(table().windowTitle().toStdString(), "Sans nom[*] – Dessin de la table");
+    EXPECT_EQ(table().windowTitle().toStdString(), "Defaut Table.ini[*] – Dessin de la table");
     EXPECT_FALSE(trouver("creerProjet").isEnabled());
     trouver<QRadioButton>("chx_dessinRobot").setChecked(true);
     EXPECT_EQ(page().window(), &robot()) << "it goes with the drawing";

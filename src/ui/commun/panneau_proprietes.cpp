@@ -1,10 +1,15 @@
 #include "ui/commun/panneau_proprietes.h"
 
+#include <QApplication>
 #include <QSignalBlocker>
 
 PanneauProprietes::PanneauProprietes(QWidget* parent)
     : QGroupBox(parent), lignes_(new QFormLayout(this)) {
     setObjectName("proprietes");
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* champ) {
+        if (au_champ)
+            au_champ(isAncestorOf(champ) ? champ->objectName() : QString());
+    });
 }
 
 void PanneauProprietes::montrer(const QString& titre, const std::vector<Champ>& champs,
@@ -55,8 +60,15 @@ void PanneauProprietes::refaire(const std::vector<Champ>& champs,
                 [this](int i) { a_la_sorte(sortes_->itemData(i).toString()); });
         lignes_->addRow("Sorte", sortes_);
     }
-    for (std::size_t i = 0; i < champs.size(); ++i)
+    for (std::size_t i = 0; i < champs.size(); ++i) {
+        const QString& groupe = champs[i].groupe;
+        if (!groupe.isEmpty() && (i == 0 || groupe != champs[i - 1].groupe)) {
+            auto* titre = new QLabel(groupe);
+            titre->setForegroundRole(QPalette::PlaceholderText);
+            lignes_->addRow(titre);
+        }
         ajouter_champ(champs[i], i);
+    }
 }
 
 void PanneauProprietes::conseiller(const QString& titre, const QString& conseil) {
@@ -74,6 +86,7 @@ void PanneauProprietes::ajouter_champ(const Champ& champ, std::size_t i) {
     auto* nombre = new Nombre;
     nombre->setObjectName(champ.nom);
     nombre->setAccessibleName(champ.texte);
+    nombre->setToolTip(champ.aide);
     nombre->setDecimals(champ.decimales);
     nombre->setRange(champ.mini, champ.maxi);
     nombre->montrer(champ.valeur);

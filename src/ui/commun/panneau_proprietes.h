@@ -22,6 +22,8 @@ public:
         double mini, maxi;
         std::optional<double> valeur; ///< none: of several that differ
         int decimales = 0;
+        QString groupe = {}; ///< the heading over it, where it is another than over the one before
+        QString aide = {};   ///< what it means: its tool tip
     };
     struct Sorte {
         QString cle, texte;
@@ -32,6 +34,8 @@ public:
 
     std::function<void(std::size_t champ, double valeur)> au_nombre;
     std::function<void(const QString& cle)> a_la_sorte;
+    /// The field of that name has got the keyboard; "" when another control has.
+    std::function<void(const QString& nom)> au_champ;
 
     /// @param sortes  the kinds it can become, none: the kind is not shown
     /// @param sorte   its own, empty for several that differ

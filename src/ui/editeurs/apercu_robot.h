@@ -26,6 +26,7 @@ public:
     void montrer(const DocumentRobot& robot);
     /// Puts the robot on the table of that state, upright.
     void regler_table(const Etat& table);
+    double largeur_table() const { return e_->XMax; } ///< cm
     void tourner(bool oui);
 
 protected:

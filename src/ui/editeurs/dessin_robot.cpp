@@ -12,23 +12,48 @@
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <span>
+#include <vector>
 
 namespace {
+
+constexpr auto repere = "Point de référence et roues";
+constexpr auto allure = "Vitesses";
+constexpr auto capteur = "Ligne du capteur";
 
 /// One number of the robot that is no segment: where it is kept and how it is shown.
 struct Reglage {
     const char *cle, *nom, *texte, *unite;
     std::size_t rang;
+    const char *groupe, *aide;
     int decimales = 0;
 };
 constexpr Reglage reglages[] = {
-    {"A", "A1", "Référence x", " cm", 0, 3}, {"A", "A2", "Référence y", " cm", 1},
-    {"A", "A3", "Entraxe", " cm", 2},        {"V", "V1", "Vitesse", " cm/s", 0},
-    {"V", "V2", "Rotation", " °/s", 1},      {"E", "E1", "Extrémité x", " cm", 0},
-    {"E", "E2", "Extrémité y", " cm", 1},    {"E", "E3", "Longueur", " cm", 2},
-    {"I", "I1", "Départ x", " cm", 0},       {"I", "I2", "Départ y", " cm", 1},
-    {"I", "I3", "Cap de départ", "°", 2},
+    {"A", "A1", "Référence x", " cm", 0, repere,
+     "Le point autour duquel le robot tourne, milieu de la ligne du capteur", 3},
+    {"A", "A2", "Référence y", " cm", 1, repere,
+     "Le point autour duquel le robot tourne, milieu de la ligne du capteur"},
+    {"A", "A3", "Entraxe", " cm", 2, repere, "D'une roue à l'autre"},
+    {"V", "V1", "Vitesse", " cm/s", 0, allure, "En ligne droite"},
+    {"V", "V2", "Rotation", " °/s", 1, allure, "Sur place"},
+    {"E", "E1", "Extrémité x", " cm", 0, capteur, "L'extrémité de la ligne du capteur"},
+    {"E", "E2", "Extrémité y", " cm", 1, capteur, "L'extrémité de la ligne du capteur"},
+    {"E", "E3", "Longueur", " cm", 2, capteur, "Longueur de la ligne du capteur"},
 };
+constexpr Reglage poses[] = {
+    {"I", "I1", "Départ x", " cm", 0, "", "Le point de référence sur la table"},
+    {"I", "I2", "Départ y", " cm", 1, "", "Le point de référence sur la table"},
+    {"I", "I3", "Cap de départ", "°", 2, "", "0 vers la droite, 90 vers le haut de la table"},
+};
+
+std::vector<PanneauProprietes::Champ> champs_de(const DocumentRobot& d,
+                                                std::span<const Reglage> nombres) {
+    std::vector<PanneauProprietes::Champ> champs;
+    for (const Reglage& r : nombres)
+        champs.push_back({r.nom, r.texte, r.unite, -32768, 32767, d.valeurs(r.cle)[r.rang],
+                          r.decimales, r.groupe, r.aide});
+    return champs;
+}
 
 /// The pose that a trajectory gives its robot, none when it leaves the robot file's.
 std::optional<std::array<float, 4>> pose_du_trajet(const std::filesystem::path& fichier) {
@@ -54,7 +79,8 @@ dessinRobot::dessinRobot(QWidget* parent, Foutil& outils, Programme programme)
       vue_(historique_, outils, this),
       apercu_(this),
       segment_(this),
-      reglages_(this) {
+      reglages_(this),
+      depart_(this) {
     setObjectName("dessinRobot");
     placer();
     connecter();
@@ -79,6 +105,7 @@ void dessinRobot::placer() {
     auto* vues = new QVBoxLayout(depart);
     vues->addWidget(&apercu_, 1);
     vues->addWidget(&tourner_);
+    vues->addWidget(&depart_);
     avis_init_.setObjectName("avisInit");
     avis_init_.setWordWrap(true);
     avis_init_.setTextFormat(Qt::PlainText);
@@ -87,7 +114,11 @@ void dessinRobot::placer() {
     onglets->setObjectName("onglets");
     onglets->setAccessibleName("Parties du robot");
     onglets->addTab(contour, "&Contour");
-    onglets->addTab(&reglages_, "&Mesures");
+    auto* mesures = new QWidget;
+    auto* en_haut = new QVBoxLayout(mesures);
+    en_haut->addWidget(&reglages_);
+    en_haut->addStretch(1);
+    onglets->addTab(mesures, "&Mesures");
     onglets->addTab(depart, "&Départ");
     assembler({historique_, vue_, *onglets, {600, 280}});
 }
@@ -110,9 +141,21 @@ void dessinRobot::connecter() {
         historique_.changer(nom, std::move(d), historique_.selection());
     };
     segment_.au_nombre = [this](std::size_t i, double valeur) { changer_segment(i, valeur); };
-    reglages_.au_nombre = [this](std::size_t i, double valeur) { changer_reglage(i, valeur); };
+    reglages_.au_nombre = [this](std::size_t i, double valeur) {
+        const Reglage& r = reglages[i];
+        changer_nombre(r.cle, r.rang, r.texte, valeur);
+    };
+    reglages_.au_champ = [this](const QString& nom) { vue_.expliquer(nom); };
+    depart_.au_nombre = [this](std::size_t i, double valeur) {
+        const Reglage& r = poses[i];
+        changer_nombre(r.cle, r.rang, r.texte, valeur);
+    };
     connect(&tourner_, &QCheckBox::toggled, this, [this](bool oui) { apercu_.tourner(oui); });
     liste_.au_choix = [this](const Selection& s) { historique_.choisir(s); };
+}
+
+void dessinRobot::commencer() {
+    historique_.repartir(robot_neuf(apercu_.largeur_table()));
 }
 
 void dessinRobot::regler_table(const Etat& table) {
@@ -168,11 +211,8 @@ void dessinRobot::montrer_segment() {
 }
 
 void dessinRobot::montrer_reglages() {
-    std::vector<PanneauProprietes::Champ> champs;
-    for (const Reglage& r : reglages)
-        champs.push_back({r.nom, r.texte, r.unite, -32768, 32767,
-                          vue_.montre().valeurs(r.cle)[r.rang], r.decimales});
-    reglages_.montrer("", champs);
+    reglages_.montrer("", champs_de(vue_.montre(), reglages));
+    depart_.montrer("", champs_de(vue_.montre(), poses));
 }
 
 void dessinRobot::montrer_liste() {
@@ -247,9 +287,9 @@ void dessinRobot::changer_segment(std::size_t champ, double valeur) {
     historique_.changer("Changer un segment", std::move(d), s);
 }
 
-void dessinRobot::changer_reglage(std::size_t champ, double valeur) {
-    const Reglage& r = reglages[champ];
+void dessinRobot::changer_nombre(const char* cle, std::size_t rang, const QString& nom,
+                                 double valeur) {
     DocumentRobot d = historique_.doc();
-    regler_nombre(d, r.cle, r.rang, valeur);
-    historique_.changer(QString("Changer : ") + r.texte, std::move(d), {});
+    regler_nombre(d, cle, rang, valeur);
+    historique_.changer("Changer : " + nom, std::move(d), {});
 }

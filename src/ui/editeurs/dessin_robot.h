@@ -23,6 +23,7 @@ public:
     void regler_table(const Etat& table);
 
 protected:
+    void commencer() override;
     void fichier_change() override;
     std::optional<RefusLecture> relire(const std::string& octets) const override {
         return DocumentRobot::relire(octets);
@@ -45,12 +46,12 @@ private:
     void miroir();
     Selection segments_choisis() const;
     void changer_segment(std::size_t champ, double valeur);
-    void changer_reglage(std::size_t champ, double valeur);
+    void changer_nombre(const char* cle, std::size_t rang, const QString& nom, double valeur);
 
     Historique<DocumentRobot> historique_;
     VueRobot vue_;
     ApercuRobot apercu_;
-    PanneauProprietes segment_, reglages_;
+    PanneauProprietes segment_, reglages_, depart_;
     ListeChoix liste_;
     QCheckBox tourner_;
     QLabel avis_init_;

@@ -43,7 +43,7 @@ void FenetreEditeur::assembler(Contenu contenu) {
     comptes_.setObjectName("comptes");
     statusBar()->addPermanentWidget(&comptes_);
     statusBar()->addPermanentWidget(&position_);
-    resize(900, 600);
+    resize(900 + (colonne_ != nullptr ? colonne_->width() : 0), 600);
 }
 
 void FenetreEditeur::preparer_menus() {
@@ -57,7 +57,7 @@ void FenetreEditeur::preparer_menus() {
         if (!attente_reprise_.isActive())
             attente_reprise_.start();
     });
-    ouvert().commencer();
+    commencer();
     montrer_titre();
 }
 

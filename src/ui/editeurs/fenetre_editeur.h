@@ -53,6 +53,8 @@ public:
     void ouvrir_nouveau(const std::filesystem::path& chemin);
     /// Writes the drawing, whatever is needed asked before; then offers to load its project.
     bool genererFic(const std::filesystem::path& chemin);
+    /// Opens the loaded project's file in place of a drawing that nobody has opened or begun.
+    void proposer(const std::filesystem::path& chemin);
     bool enregistrer();
     bool enregistrer_sous();
     /// What the user wants of the changes that are not saved.
@@ -91,6 +93,8 @@ protected:
     /// Why what was typed cannot be taken yet; empty when nothing is left to be typed.
     virtual QString en_suspens() const { return {}; }
 
+    /// A new drawing in place of the present one.
+    virtual void commencer() { ouvert().commencer(); }
     virtual void fichier_change() {} ///< another file, or under another name
     virtual void apres_ecriture() {} ///< the file was written at the user's wish
 
@@ -158,7 +162,8 @@ private:
     ColonnePalette* colonne_ = nullptr; ///< none where the palette draws nothing
     QMenu* menu_edition_ = nullptr;
     QMenu contextuel_{this};
-    std::filesystem::path chemin_; ///< empty: never saved
+    std::filesystem::path chemin_;  ///< empty: never saved
+    std::filesystem::path propose_; ///< it was opened unasked
     std::string sur_le_disque_;
     std::string refuses_; ///< another program's bytes that the user did not want
     bool remplacement_accepte_ = false;

@@ -25,7 +25,7 @@ void FenetreEditeur::nouveau() {
         return;
     chemin_.clear();
     veilleur_.suivre({});
-    ouvert().commencer();
+    commencer();
     autre_fichier();
 }
 
@@ -73,6 +73,16 @@ void FenetreEditeur::ouvrir_nouveau(const std::filesystem::path& chemin) {
         return;
     remplacement_accepte_ = true;
     nom_propose_ = chemin.stem().string();
+}
+
+void FenetreEditeur::proposer(const std::filesystem::path& chemin) {
+    const bool le_sien = !chemin_.empty() && chemin_ != propose_;
+    std::error_code absent;
+    if (isVisible() || le_sien || chemin_ == chemin || !pile().isClean() ||
+        !std::filesystem::is_regular_file(chemin, absent))
+        return;
+    if (ouvrir(chemin))
+        propose_ = chemin;
 }
 
 // Another program has saved the file: it is read again, after a question when that would lose
@@ -220,7 +230,7 @@ bool FenetreEditeur::preparer_depart(Depart reponse) {
 void FenetreEditeur::partir() {
     if (!pile().isClean() || !en_suspens().isEmpty()) {
         if (chemin_.empty())
-            ouvert().commencer();
+            commencer();
         else
             ouvert().lire(sur_le_disque_);
     }

@@ -41,3 +41,10 @@ void ListeChoix::montrer(const std::vector<Rangee>& rangees, const Selection& ch
         delete takeItem(rang);
     en_cours_ = false;
 }
+
+// The fields of what was just chosen take room from the list: its row stays in sight.
+void ListeChoix::resizeEvent(QResizeEvent* evenement) {
+    QListWidget::resizeEvent(evenement);
+    if (currentItem() != nullptr)
+        scrollToItem(currentItem());
+}

@@ -24,6 +24,9 @@ public:
 
     void montrer(const std::vector<Rangee>& rangees, const Selection& choisis);
 
+protected:
+    void resizeEvent(QResizeEvent* evenement) override;
+
 private:
     Selection choisis() const;
 

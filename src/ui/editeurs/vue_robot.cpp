@@ -1,6 +1,7 @@
 #include "ui/editeurs/vue_robot.h"
 
 #include "edition/segments_robot.h"
+#include "ui/editeurs/cotes_robot.h"
 #include "ui/editeurs/formes.h"
 
 #include <QPainter>
@@ -58,7 +59,13 @@ void VueRobot::peindre(QPainter& peintre) {
 void VueRobot::peindre_dessus(QPainter& peintre) {
     peindre_reperes(peintre);
     peindre_segments(peintre);
+    peindre_cote(peintre, *this, montre(), expliquee_);
     peindre_ebauche(peintre);
+}
+
+void VueRobot::expliquer(const QString& mesure) {
+    expliquee_ = mesure.toStdString();
+    update();
 }
 
 void VueRobot::peindre_reperes(QPainter& peintre) const {

@@ -11,6 +11,9 @@ public:
 
     std::function<void()> au_glissement; ///< montre() changed during a drag
 
+    /// Shows what a measure means ("A1"...), none for another text.
+    void expliquer(const QString& mesure);
+
 protected:
     QRectF etendue() const override;
     void peindre(QPainter& peintre) override;
@@ -48,5 +51,6 @@ private:
     void peindre_reperes(QPainter& peintre) const;
     void peindre_segments(QPainter& peintre) const;
 
-    Prise prise_; ///< of the present gesture
+    std::string expliquee_; ///< the measure whose field is used
+    Prise prise_;           ///< of the present gesture
 };

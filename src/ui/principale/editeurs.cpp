@@ -90,6 +90,7 @@ void Editeurs::montrer_dessin() {
     FenetreEditeur& dessin = dessin_choisi();
     if (&dessin == &robot_)
         robot_.regler_table(seance_.etat());
+    dessin.proposer(fichier_du_projet(&dessin == &robot_));
     dessin.accueillir_palette();
     accueillir(dessin);
     dessin.show();
@@ -124,6 +125,14 @@ void Editeurs::creer(const PremierePage::Demande& demande) {
         bureau_.montrer_robots(2);
 }
 
+std::filesystem::path Editeurs::fichier_du_projet(bool robot) const {
+    try {
+        return robot ? seance_.projet().chemin_robot(1) : seance_.projet().chemin_table();
+    } catch (const ErreurExecution&) { // a name that no project can bear
+        return {};
+    }
+}
+
 // Where the user left it, else beside the drawing.
 void Editeurs::placer_palette() {
     if (outils_.ancree() || std::exchange(palette_placee_, true))
@@ -144,7 +153,7 @@ void Editeurs::placer() {
     for (QWidget* dessin : std::initializer_list<QWidget*>{&table_, &robot_}) {
         dessin->move(gauche, ecran.top() + marge);
         dessin->resize(std::min(dessin->width(), ecran.right() - gauche - 2 * marge),
-                       std::min(std::max(dessin->height(), 620), ecran.height() - 60));
+                       std::min(std::max(dessin->height(), 660), ecran.height() - 60));
         retenir_place(*dessin);
     }
 }

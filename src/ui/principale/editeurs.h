@@ -6,6 +6,7 @@
 #include "ui/editeurs/foutil.h"
 #include "ui/principale/premiere_page.h"
 
+#include <filesystem>
 #include <vector>
 
 class Bureau;
@@ -41,6 +42,7 @@ private:
     void placer_palette();
     void palette_demenagee();
     FenetreEditeur& dessin_choisi();
+    std::filesystem::path fichier_du_projet(bool robot) const;
     std::vector<FenetreEditeur*> dessins() const { return {&table_, &robot_, &trajet_}; }
     static bool peut_partir(const std::vector<FenetreEditeur*>& dessins);
 
