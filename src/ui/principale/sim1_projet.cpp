@@ -18,7 +18,8 @@ namespace {
 /// The first that does not exist: "Essai image 1.png", "Essai image 2.png"...
 std::filesystem::path image_libre(const std::filesystem::path& dossier, const std::string& projet) {
     for (int n = 1;; ++n) {
-        const auto image = dossier / nom_de_fichier(projet, " image " + std::to_string(n) + ".png");
+        std::filesystem::path image =
+            dossier / nom_de_fichier(projet, " image " + std::to_string(n) + ".png");
         if (!std::filesystem::exists(std::filesystem::symlink_status(image)))
             return image;
     }
