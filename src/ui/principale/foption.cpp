@@ -203,7 +203,9 @@ void FOption::connecter() {
     brancher(Command1, [this] { Command1_Click(); });
     brancher(Command2, [this] { Command2_Click(); });
     auto* menu = new QMenu(this);
-    recents_.setMenu(menu);
-    connect(menu, &QMenu::aboutToShow, this, [this, menu] { remplir_recents(*menu); });
+    connect(&recents_, &QToolButton::clicked, this, [this, menu] {
+        remplir_recents(*menu);
+        menu->popup(recents_.mapToGlobal(recents_.rect().bottomLeft()));
+    });
     brancher(Command4, [this] { Command4_Click(); });
 }

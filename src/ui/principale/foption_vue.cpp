@@ -78,7 +78,6 @@ void FOption::nommer() {
     recents_.setAccessibleName("Projets récents");
     recents_.setToolTip("Charge un des derniers projets");
     recents_.setArrowType(Qt::DownArrow);
-    recents_.setPopupMode(QToolButton::InstantPopup);
     setObjectName("FOption");
     setWindowTitle("Option");
     Check1.setChecked(true);
