@@ -239,16 +239,17 @@ TEST(Miroir, le_trajet_retourne_se_joue_sur_la_table_retournee) {
         const PointBalise droite = devant(debut, -ecart, {});
         const PointBalise gauche = devant(milieu, ecart, droite);
         const auto poses = jouer(fichier, droite, gauche);
-        std::array<std::vector<PoseJouee>, 3> autres;
+        std::vector<std::vector<PoseJouee>> autres;
         bool comparables = poses.size() > 200 && poses.size() < 9000; // both beacons were found
-        for (std::size_t a = 0; a < autres.size(); ++a) {
-            autres[a] = jouer_retourne(fichier, axes[a], droite, gauche);
-            comparables = comparables && autres[a].size() == poses.size();
+        for (const auto axe : axes) {
+            autres.push_back(jouer_retourne(fichier, axe, droite, gauche));
+            comparables = comparables && autres.back().size() == poses.size();
         }
         if (!comparables)
             continue;
-        for (std::size_t a = 0; a < autres.size(); ++a)
-            exiger_retournees(poses, autres[a], axes[a]);
+        auto autre = autres.begin();
+        for (const auto axe : axes)
+            exiger_retournees(poses, *autre++, axe);
         return;
     }
     FAIL() << "no beacons for a comparison";
