@@ -75,8 +75,8 @@ TEST_F(SurLaTable, les_robots_sont_lisibles_et_ne_laissent_rien_derriere_eux) {
         seance().moteur().Timer_Timer();
     EXPECT_FALSE(rempli(35, 36));
     bool repere = false; // the mark's outline crosses the robot's middle line somewhere
-    for (double x = 145; x < 175; x += 0.25)
-        repere = repere || (rempli(x, 30) && pixel(x, 30) != cyan);
+    for (int k = 0; k < 120; ++k)
+        repere = repere || (rempli(145 + k / 4.0, 30) && pixel(145 + k / 4.0, 30) != cyan);
     EXPECT_TRUE(repere) << "the mark at the front";
     seance().moteur().Fin_Jeu();
     EXPECT_TRUE(rempli(155, 36));
