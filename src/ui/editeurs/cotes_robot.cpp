@@ -5,13 +5,15 @@
 #include <QLineF>
 #include <QPainter>
 
+#include <array>
+
 namespace {
 
 /// What is measured: from where to where (cm), under which name.
 struct Cote {
     QPointF de, a;
     const char* nom;
-    bool fleche = false; ///< a motion
+    bool mouvement = false; ///< an arrow, no length
 };
 
 Cote cote(const DocumentRobot& robot, std::string_view mesure) {
@@ -38,10 +40,10 @@ Cote cote(const DocumentRobot& robot, std::string_view mesure) {
     return {reference, capteur.p2(), "longueur"};
 }
 
-void peindre_bout(QPainter& peintre, const QLineF& trait, bool fleche) {
+void peindre_bout(QPainter& peintre, const QLineF& trait, bool mouvement) {
     QLineF bout(trait.p2(), trait.p1());
-    bout.setLength(fleche ? 9 : 5);
-    for (const double angle : fleche ? std::array{25.0, -25.0} : std::array{90.0, -90.0}) {
+    bout.setLength(mouvement ? 9 : 5);
+    for (const double angle : mouvement ? std::array{25.0, -25.0} : std::array{90.0, -90.0}) {
         QLineF cote_du_bout = bout;
         cote_du_bout.setAngle(bout.angle() + angle);
         peintre.drawLine(cote_du_bout);
@@ -78,8 +80,8 @@ void peindre_cote(QPainter& peintre, const VueEchelle& vue, const DocumentRobot&
     const Cote c = cote(robot, mesure);
     const QLineF trait(vue.en_pixels(c.de), vue.en_pixels(c.a));
     peintre.drawLine(trait);
-    peindre_bout(peintre, trait, c.fleche);
-    if (!c.fleche)
+    peindre_bout(peintre, trait, c.mouvement);
+    if (!c.mouvement)
         peindre_bout(peintre, {trait.p2(), trait.p1()}, false);
     nommer(peintre, trait.center() + QPointF(8, -8), c.nom);
 }

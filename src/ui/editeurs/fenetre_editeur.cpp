@@ -73,11 +73,10 @@ void FenetreEditeur::suivre_palette() {
 
 void FenetreEditeur::outil_change() {
     const Outil& outil = outils_.en_main();
-    using Forme = Outil::Forme;
-    if (outil.forme == Forme::selection)
+    if (outil.forme == Outil::Forme::selection)
         return statusBar()->clearMessage();
     const QString geste =
-        outil.forme == Forme::brisee
+        outil.forme == Outil::Forme::brisee
             ? " : cliquer chaque point ; le premier la ferme, Entrée la finit, Retour arrière "
               "reprend un point, Échap abandonne"
             : " : cliquer, ou tracer avec la souris (Alt ou Ctrl : sans la grille, "
