@@ -129,12 +129,3 @@ void tirer_un_objet(benchmark::State& state) {
 BENCHMARK(tirer_un_objet)->ArgName("tous")->Arg(0)->Arg(1)->Iterations(500);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -176,12 +176,3 @@ void repeindre(benchmark::State& state) {
 BENCHMARK(repeindre)->ArgName("tout")->Arg(0)->Arg(1)->Iterations(1000);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -20,6 +20,12 @@ std::string dixiemes(double valeur) {
     return texte;
 }
 
+double cap_ramene(double cap) {
+    constexpr double presque = -179.95;
+    const double reste = std::remainder(cap, 360);
+    return reste <= presque ? reste + 360 : reste;
+}
+
 std::string compte(int n, std::string_view nom) {
     return std::to_string(n) + " " + std::string(nom) + (n > 1 ? "s" : "");
 }

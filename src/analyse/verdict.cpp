@@ -41,10 +41,10 @@ std::string fin_des_trajets(const Analyse& a) {
                : sans_fin(a);
 }
 
-std::string verdict(const Analyse& a) {
-    const PoseTick& p = a.robots.front().arrivee;
-    return a.projet + " : " + fin_des_trajets(a) + " ; robot 1 arrivé en " + place(p.x, p.y) +
-           ", cap " + dixiemes(p.cap) + "° ; " +
+std::string verdict(const Analyse& a, int robot) {
+    const PoseTick& p = a.robots.at(static_cast<std::size_t>(robot - 1)).arrivee;
+    return a.projet + " : " + fin_des_trajets(a) + " ; robot " + std::to_string(robot) +
+           " arrivé en " + place(p.x, p.y) + ", cap " + dixiemes(cap_ramene(p.cap)) + "° ; " +
            (a.constats.empty() ? "aucun constat"
                                : compte(static_cast<int>(a.constats.size()), "constat"));
 }

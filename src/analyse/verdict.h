@@ -3,8 +3,8 @@
 #include "analyse/analyse.h"
 #include "analyse/phrases.h"
 
-/// One line: end of the last action and margin, arrival of robot 1, number of findings.
-std::string verdict(const Analyse& a);
+/// One line: end of the last action and margin, arrival of a robot, number of findings.
+std::string verdict(const Analyse& a, int robot = 1);
 /// When the last plan ends, of the robots that have one; nothing when one of them does not end.
 std::optional<std::int32_t> fin_des_plans(const Analyse& a);
 /// Why there is no such end: "robot 2 pas fini à 90 s", "aucune action".

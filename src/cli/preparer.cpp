@@ -75,14 +75,13 @@ private:
     }
 
     void preparer() {
-        const std::string suite = " PourGenerer10.ini";
         if (const auto refus = trajet_->refus(false); !refus.empty())
             throw LigneRefusee(refus.front().ligne, refus.front().raison);
-        const GenerationPreparee generation =
-            preparer_generation(*etat_, robot_, *trajet_, etat_->NomProjet + suite);
+        const GenerationPreparee generation = preparer_generation(
+            *etat_, robot_, *trajet_, etat_->NomProjet + std::string(suite_de_l_entree));
         if (generation.hors_du_match)
             avertir("le match de 90 s finit avant ou avec une action de ce trajet");
-        ecrire(projet().chemin(suite), generation.texte);
+        ecrire(projet().chemin(suite_de_l_entree), generation.texte);
     }
 
     void ecrire(const fs::path& sortie, const std::string& contenu) {

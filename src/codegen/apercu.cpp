@@ -102,7 +102,29 @@ void comparer(Difference& difference, const Programme& depart,
         inserer(difference, *m);
 }
 
+char signe(SorteLigne sorte) {
+    switch (sorte) {
+    case SorteLigne::retiree:
+        return '-';
+    case SorteLigne::inseree:
+    case SorteLigne::ajoutee:
+        return '+';
+    case SorteLigne::coupure:
+        return '@';
+    case SorteLigne::contexte:
+        break;
+    }
+    return ' ';
+}
+
 } // namespace
+
+std::string texte_apercu(const Apercu& apercu) {
+    std::string texte;
+    for (const LigneApercu& ligne : apercu.lignes)
+        texte.append(1, signe(ligne.sorte)).append(" ").append(ligne.texte).append("\n");
+    return texte;
+}
 
 Apercu preparer_apercu(const Demande& demande, const Programme& depart, std::string_view entree,
                        bool ecraser) {

@@ -30,6 +30,9 @@ struct Apercu {
     bool ecrase = false; ///< an older subroutine goes: what the user is asked about
 };
 
+/// One line each, "- " or "+ " in front of what goes or comes, "@ " where lines are left out.
+std::string texte_apercu(const Apercu& apercu);
+
 /// Works a generation out without writing or asking anything.
 /// @param ecraser  the answer to every question about an older subroutine
 /// @throws ErreurExecution as generer() does before it writes

@@ -113,23 +113,23 @@ void signaler_menu(const Demande& demande, const PassageMenu& menu,
                         " fois (lignes en commentaire comprises) et changé à chaque fois");
 }
 
-void signaler_nom(const std::string& fonction, std::vector<std::string>& liste) {
-    if (est_nom(fonction))
-        return;
-    liste.push_back(
-        (fonction.empty() ? "Le nom de la fonction est vide"
-                          : "« " + fonction + " » n'est pas un nom de fonction PICBASIC") +
-        " : il faut une lettre, puis des lettres sans accent, des chiffres ou des « _ »");
-}
-
 } // namespace
+
+std::string refus_du_nom(const std::string& fonction) {
+    if (est_nom(fonction))
+        return {};
+    return (fonction.empty() ? "Le nom de la fonction est vide"
+                             : "« " + fonction + " » n'est pas un nom de fonction PICBASIC") +
+           " : il faut une lettre, puis des lettres sans accent, des chiffres ou des « _ »";
+}
 
 std::vector<std::string> avertissements(const Demande& demande, const Programme& depart,
                                         const Composition& composition, std::string_view entree) {
     std::vector<std::string> liste;
     if (!composition.erreur.empty())
         liste.push_back("La génération s'arrêtera avant la fin : " + composition.erreur);
-    signaler_nom(demande.fonction, liste);
+    if (std::string refus = refus_du_nom(demande.fonction); !refus.empty())
+        liste.push_back(std::move(refus));
     if (depart.octets().find('\0') != std::string_view::npos)
         liste.emplace_back("Le fichier de départ contient des octets nuls : est-ce un programme ?");
     signaler_retrait(demande, depart, composition, liste);

@@ -105,12 +105,6 @@ std::size_t Document::rang_pour(std::size_t i) const {
     return rangs_.empty() ? entrees_.size() : rangs_.back() + 1;
 }
 
-void Document::inserer(std::size_t i, Fiche e) {
-    Entree nouvelle;
-    nouvelle.objet = std::move(e);
-    inserer_entree(rang_pour(i), std::move(nouvelle));
-}
-
 void Document::deplacer_vers(std::size_t i, std::size_t vers) {
     const auto depart = entrees_.begin() + static_cast<std::ptrdiff_t>(rangs_[i]);
     const auto arrivee = entrees_.begin() + static_cast<std::ptrdiff_t>(rangs_[vers]);

@@ -54,9 +54,6 @@ public:
     /// Puts a record on a line of its own behind the last one with one of these keys, else at the
     /// end. @returns its index
     std::size_t ajouter(Fiche e, const std::vector<std::string_view>& cles);
-    /// Puts a record on a line of its own: record i from then on. The one past the last goes behind
-    /// the last one's line.
-    void inserer(std::size_t i, Fiche e);
     /// Takes a record with its line to where it is record `vers`.
     void deplacer_vers(std::size_t i, std::size_t vers);
     /// Swaps two records with their lines.

@@ -172,13 +172,6 @@ void DocumentTrajet::inserer(std::size_t i, const Fiche& fiche) {
     inserer_entree(rang_pour(i), std::move(nouvelle));
 }
 
-std::size_t DocumentTrajet::ajouter(const Fiche& fiche) {
-    const bool finit = nombre() > 0 && (*this)[nombre() - 1].cle == "FIN";
-    const std::size_t i = finit ? nombre() - 1 : nombre();
-    inserer(i, fiche);
-    return i;
-}
-
 std::size_t DocumentTrajet::inserer_lignes(std::size_t i, std::string_view texte) {
     const std::string octets = encoder(texte, encodage_);
     if (encodage_ != Encodage::utf8 && en_utf8(octets) != texte)

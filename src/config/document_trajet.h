@@ -38,9 +38,6 @@ public:
     /// @throws ErreurExecution, a sentence for the user, for a record that no trajectory can hold
     ///         and beyond 1000 actions
     void inserer(std::size_t i, const Fiche& fiche);
-    /// Behind the last action, but in front of the "FIN" that ends the trajectory. @returns its
-    /// index
-    std::size_t ajouter(const Fiche& fiche);
     /// Takes lines of a trajectory file, comments and blank lines included, byte for byte.
     /// @param texte  UTF-8
     /// @returns how many records they hold

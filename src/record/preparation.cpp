@@ -5,6 +5,9 @@
 #include "record/pose.h"
 #include "sim/fenetres_muettes.h"
 #include "sim/moteur.h"
+#include "sim/orientation.h"
+
+#include <memory>
 
 namespace {
 
@@ -81,4 +84,14 @@ GenerationPreparee preparer_generation(Etat& etat, int robot, const DocumentTraj
     if (!conduite.panne().empty())
         throw ErreurExecution(conduite.panne());
     return {texte_generation(etat, nom_de_fichier), conduite.hors_du_match()};
+}
+
+GenerationPreparee preparer_entree(const Etat& etat, int robot, const DocumentTrajet& trajet) {
+    const auto e = std::make_unique<Etat>(etat);
+    if (e->TableHorizontale)
+        vertical(*e);
+    trajet.remplir(*e, robot); // files have the table upright
+    if (e->TableHorizontale)
+        horizontal(*e);
+    return preparer_generation(*e, robot, trajet, e->NomProjet + std::string(suite_de_l_entree));
 }

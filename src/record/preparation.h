@@ -4,6 +4,10 @@
 #include "sim/etat.h"
 
 #include <string>
+#include <string_view>
+
+/// What a project's generation input is called, behind the project's name.
+inline constexpr std::string_view suite_de_l_entree = " PourGenerer10.ini";
 
 /// The generation input that driving a trajectory on the console records.
 struct GenerationPreparee {
@@ -20,3 +24,7 @@ struct GenerationPreparee {
 ///         follows "FIN" or that cannot be played; ErreurExecution when the driving cannot begin
 GenerationPreparee preparer_generation(Etat& etat, int robot, const DocumentTrajet& trajet,
                                        const std::string& nom_de_fichier);
+
+/// The same from the state of a session, which stays as it is: as the console would record it on
+/// the table as it is shown, the trajectory in the place of the robot's own.
+GenerationPreparee preparer_entree(const Etat& etat, int robot, const DocumentTrajet& trajet);

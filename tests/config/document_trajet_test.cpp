@@ -111,7 +111,7 @@ TEST(DocumentTrajet, ce_qu_un_trajet_ne_peut_pas_tenir_est_refuse) {
         EXPECT_THROW(d.remplacer(0, refusee), ErreurExecution);
     }
     while (d.nb_actions() < actions_max)
-        d.ajouter(fiche("PAUSE", 1));
+        d.inserer(1, fiche("PAUSE", 1));
     EXPECT_THROW(d.inserer(0, fiche("AVANCE", 1)), ErreurExecution);
     EXPECT_THROW(d.remplacer(0, fiche("AVANCE", 1)), ErreurExecution); // the start pose
     EXPECT_THROW(d.inserer_lignes(0, "Avance,1"), ErreurExecution);

@@ -1,9 +1,14 @@
 #include "outils/commande.h"
 #include "outils/dossier_temporaire.h"
+#include "outils/fausses_fenetres.h"
+#include "record/renouvellement.h"
+#include "sim/damier.h"
+#include "sim/orientation.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
 #include <random>
 
 namespace {
@@ -110,6 +115,37 @@ TEST(Preparer, un_fichier_ecrit_a_la_main_se_pilote_aussi) {
         EXPECT_EQ(d.lire(generation).find("CARREAUX:") != std::string::npos, *damier != 0);
         EXPECT_TRUE(contient(pilote.lire(trajet(1)), "Init,60,40,90\r\nAVANCE    ,80\r\n"
                                                      "VIRAVDR   ,90,10\r\nBALISE DRO\r\n"));
+    }
+}
+
+// A session that drove something else, its table turned: the same bytes as the command line's.
+TEST(Preparer, depuis_une_session_les_memes_octets_et_rien_n_y_change) {
+    for (const bool tournee : {false, true}) {
+        const DossierTemporaire d;
+        d.ecrire("Configuration/Tavolmex.ini", tournee ? "Horizontale, 1\n" : "");
+        d.ecrire(trajet(2), "Init,60,40,90\nAvance,80\nVirAvDr,90,40\nGauche,45\nFIN\n");
+        ASSERT_EQ(preparer(d, {"--robot", "2", "--damier"}).code, 0);
+
+        const auto e = std::make_unique<Etat>();
+        FaussesFenetres f;
+        Projet projet(*e, f, d.chemin());
+        projet.LoadTable();
+        projet.Init_Robot();
+        projet.Init_Jeu();
+        initDamier(*e);
+        e->utiliDamier = true;
+        if (tournee) {
+            horizontal(*e);
+            e->TableHorizontale = vrai16(true);
+        }
+        e->nb_a_generer = 7;
+        e->TempsEcoule = 1234;
+        e->en_course = true;
+        const float x = e->XRobot(2);
+        EXPECT_EQ(entree_du_fichier(*e, 2, d / trajet(2)).texte, d.lire(generation)) << tournee;
+        EXPECT_EQ(robot_de_l_entree(d.lire(generation), *e, projet), 2);
+        EXPECT_EQ(e->XRobot(2), x);
+        EXPECT_EQ(e->nb_a_generer, 7);
     }
 }
 

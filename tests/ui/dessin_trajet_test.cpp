@@ -1,8 +1,10 @@
 #include "ui/banc.h"
 
+#include "base/fichiers.h"
 #include "ui/editeurs/dessin_trajet.h"
 
 #include <QClipboard>
+#include <QPlainTextEdit>
 #include <QTableView>
 #include <QTreeWidget>
 
@@ -86,6 +88,13 @@ TEST_F(EditeurTrajet, chaque_ligne_dit_quand_et_ou_elle_finit) {
     EXPECT_EQ(cellule(3, ModeleActions::valeur2), "rayon 30 cm");
     EXPECT_EQ(cellule(3, ModeleActions::arrivee), "130,0 ; 160,0 ; 90,0°");
     EXPECT_EQ(cellule(4, ModeleActions::fin), "");
+    EXPECT_TRUE(table()
+                    .model()
+                    ->index(3, ModeleActions::valeur2)
+                    .data(Qt::ToolTipRole)
+                    .toString()
+                    .endsWith("rayon en centimètres : de -32768 à 32767, de 0 à 255 pour entrer "
+                              "dans le code"));
 }
 
 TEST_F(EditeurTrajet, ce_qui_est_tape_est_pris_refuse_ou_rendu) {
@@ -181,6 +190,55 @@ TEST_F(EditeurTrajet, enregistrer_prepare_le_code_et_l_autre_robot) {
     faire("copier_vers");
     EXPECT_NE(sur_le_disque(2).find("GAUCHE,90\r\nVirAvDr,90,30\r\n"), std::string::npos);
     EXPECT_EQ(e().TrajParam1(2, 1), 30) << "chargé";
+}
+
+// One act: this trajectory saved, its other side as robot 2's, both as subroutines of the program.
+TEST_F(EditeurTrajet, les_deux_cotes_entrent_dans_le_programme_en_un_geste) {
+    const auto bas = dossier.ecrire("robot.bas", "PRINCIPAL:\r\n\tReturn\r\n");
+    taper(1, ModeleActions::valeur1, "30", Qt::Key_Return);
+    QString titre, apercu;
+    const auto remplir = [&](QDialog& d, const QString& programme) {
+        d.findChild<QComboBox*>("cote")->setCurrentIndex(1);
+        d.findChild<QCheckBox*>("deuxFonctions")->setChecked(true);
+        d.findChild<QLineEdit*>("programmePicbasic")->setText(programme);
+        titre = d.findChild<QLabel*>("titreApercuCopie")->text();
+        apercu = d.findChild<QPlainTextEdit*>("apercuCopie")->toPlainText();
+        auto& copier = *d.findChild<QPushButton*>("copierTrajet");
+        copier.isEnabled() ? copier.click() : d.reject();
+    };
+    for (const char* refuse : {"", "absent.bas", "Configuration/Defaut Table.ini"}) {
+        dialogues["copieTrajet"] = [&](QDialog& d) { remplir(d, refuse); };
+        faire("copier_vers");
+        EXPECT_TRUE(titre.startsWith("Rien ne peut encore être écrit : ")) << titre.toStdString();
+    }
+    EXPECT_TRUE(messages.empty());
+
+    const QString fichier = QString::fromStdString(bas.string());
+    dialogues["copieTrajet"] = [&](QDialog& d) { remplir(d, fichier); };
+    reponses = {true, false, true, false}; // replace, do not load, each time
+    faire("copier_vers");
+    EXPECT_NE(sur_le_disque().find("Avance, 30 # vers"), std::string::npos) << "saved too";
+    EXPECT_NE(sur_le_disque(2).find("GAUCHE,90\r\nVirAvDr,90,30\r\n"), std::string::npos);
+    const std::string code = dossier.lire("robot.bas");
+    const std::string pas = "\tVal_Action=30\r\n\tGosub Action_Avance\r\n\tVal_Action=90\r\n";
+    const auto un = code.find(pas + "\tGosub Action_Gauche");
+    const auto deux = code.find(pas + "\tGosub Action_Droite");
+    EXPECT_LT(un, deux) << code;
+    EXPECT_NE(deux, std::string::npos) << code;
+    EXPECT_TRUE(apercu.contains("+ TRAJECTOIRE_AUTRE:"));
+    EXPECT_EQ(versions_gardees(bas, dossier / "Configuration/Sauvegardes").size(), 1U);
+
+    // The next time everything is proposed again, and what stands there is replaced.
+    dialogues["copieTrajet"] = [&](QDialog& d) {
+        EXPECT_EQ(d.findChild<QLineEdit*>("programmePicbasic")->text(), fichier);
+        EXPECT_EQ(d.findChild<QComboBox*>("cote")->currentIndex(), 1);
+        titre = d.findChild<QLabel*>("titreApercuCopie")->text();
+        d.findChild<QPushButton*>("copierTrajet")->click();
+    };
+    reponses = {true, false};
+    faire("copier_vers");
+    EXPECT_TRUE(titre.contains("en remplaçant TRAJECTOIRE et TRAJECTOIRE_AUTRE"));
+    EXPECT_EQ(dossier.lire("robot.bas"), code);
 }
 
 TEST_F(EditeurTrajet, la_difference_aligne_et_rend_une_version) {

@@ -1,4 +1,7 @@
 #include "ui/banc.h"
+
+#include "base/fichiers.h"
+#include "record/renouvellement.h"
 #include "ui/commun/virages_croises.h"
 #include "ui/generation/dialog.h"
 
@@ -294,6 +297,67 @@ TEST_F(FenetreGeneration, ce_que_fera_le_code_se_voit_et_depend_du_sens_des_vira
     seance().annonces().annoncer(&Ecouteur::projet_change, Lecture::projet);
     EXPECT_TRUE(finit_par_dire(texte, lire_texte, "ce fichier est d'un autre projet"));
     EXPECT_TRUE(dans<QCheckBox>("virages_croises").isChecked());
+}
+
+TEST_F(FenetreGeneration, une_entree_depassee_se_renouvelle_d_un_coup) {
+    const char* const nom = "Configuration/Defaut PourGenerer10.ini";
+    const auto trajet = dossier / "Configuration/Defaut Trajet1.ini";
+    const auto ecrire_trajet = [&](const char* actions) {
+        sauvegarder_version(trajet, dossier / "Configuration/Sauvegardes");
+        dossier.ecrire("Configuration/Defaut Trajet1.ini",
+                       std::string("Init,100,100,90\r\n") + actions + "FIN\r\n");
+        return entree_du_fichier(e(), 1, trajet).texte;
+    };
+    const std::string ancienne = ecrire_trajet("Avance,50\r\nGauche,30\r\n");
+    const std::string actuelle = ecrire_trajet("Avance,60\r\nGauche,30\r\n");
+    auto& avis = dans<QLabel>("avis_entree");
+    auto& bouton = dans<QPushButton>("renouveler_entree");
+    const auto dit = [&](const char* phrase) {
+        return QTest::qWaitFor([&] { return avis.text().contains(phrase); });
+    };
+    dossier.ecrire(nom, ancienne);
+    std::filesystem::last_write_time(dossier / nom, std::filesystem::last_write_time(trajet) -
+                                                        std::chrono::hours(1));
+    selectionner("File", "Defaut PourGenerer10.ini");
+    ASSERT_TRUE(dit("est plus ancien que le trajet du robot 1 et en diffère (lignes en trop : 1, "
+                    "qui manquent : 1)"))
+        << avis.text().toStdString();
+    bouton.click();
+    EXPECT_EQ(dossier.lire(nom), actuelle);
+    EXPECT_TRUE(messages.empty()) << "what a kept version of the trajectory gives is not lost";
+    EXPECT_TRUE(avis.text().startsWith("À jour")) << "at once";
+    EXPECT_FALSE(bouton.isEnabled());
+    EXPECT_TRUE(dans<QLabel>("compte_rendu").text().contains("Sauvegardes"));
+
+    // By hand: asked about, with the lines that go; the other robot's trajectory is another thing.
+    std::string a_la_main = actuelle;
+    a_la_main.replace(a_la_main.find(":60"), 3, ":61");
+    dossier.ecrire(nom, a_la_main);
+    ASSERT_TRUE(dit("n'est pas ce que donne le trajet du robot 1"));
+    bouton.click();
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_TRUE(contient(explications.back(), "N'y seraient plus : AVANCE:61."));
+    EXPECT_EQ(dossier.lire(nom), a_la_main);
+    reponses = {true};
+    bouton.click();
+    EXPECT_EQ(dossier.lire(nom), actuelle);
+    auto& robots = dans<QComboBox>("robot_de_l_entree");
+    for (const int rang : {1, 0}) {
+        robots.setCurrentIndex(rang);
+        emit robots.activated(rang);
+        EXPECT_EQ(avis.text().startsWith("Le trajet du robot 2 ne donne pas de fichier de "
+                                         "génération : Ligne "),
+                  rang == 1)
+            << avis.text().toStdString();
+    }
+
+    // None yet: it is made.
+    std::filesystem::remove(dossier / nom);
+    ASSERT_TRUE(dit("n'existe pas encore"));
+    bouton.click();
+    EXPECT_EQ(dossier.lire(nom), actuelle);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return dans<QListWidget>("File").currentItem() != nullptr; }));
 }
 
 TEST_F(FenetreGeneration, la_liste_des_fichiers_suit_l_extension_sans_tenir_compte_de_la_casse) {

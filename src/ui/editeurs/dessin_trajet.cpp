@@ -82,7 +82,7 @@ void dessinTrajet::connecter() {
         montrer_provisoire(nullptr);
         montrer_bilan();
     };
-    table_.au_refus = [this](const QString& raison) { statusBar()->showMessage(raison); };
+    table_.au_conseil = [this](const QString& conseil) { statusBar()->showMessage(conseil); };
     connect(&cherche_, &QLineEdit::returnPressed, this, [this] { chercher(); });
     connect(&robot_, &QComboBox::activated, this, [this](int rang) { montrer_robot(rang + 1); });
     connect(&generation_, &QCheckBox::clicked, this,
@@ -163,7 +163,7 @@ void dessinTrajet::recalculer() {
 }
 
 void dessinTrajet::montrer_bilan() {
-    bilan_.setText(texte_qt(verdict(essai_.analyse)));
+    bilan_.setText(texte_qt(verdict(essai_.analyse, robot())));
     QStringList avis{table_.modele().en_suspens()};
     const auto incomprises = montre().incomprises();
     for (const RefusLecture& r : montre().refus())

@@ -13,6 +13,8 @@
 #include <memory>
 #include <optional>
 
+struct Copie;
+struct Ensemble;
 enum class Retournement;
 
 /// The trajectory editor: a table of actions beside their path, both computed while one types.
@@ -73,7 +75,12 @@ private:
     void comparer();
     void prendre_le_trajet_de_la_console();
     void copier_vers_un_robot();
-    void ecrire_la_copie(const DocumentTrajet& copie, int vers, bool generation);
+    QString cle_de_copie(const char* quoi) const;
+    Copie copie_habituelle() const;
+    void retenir(const Copie& c) const;
+    DocumentTrajet copie_de(const Copie& c) const;
+    Ensemble composer(const Copie& c) const;
+    void ecrire_la_copie(const Copie& c);
     void preparer_la_generation(const DocumentTrajet& trajet, int robot);
     void ecrire_a_cote(const std::filesystem::path& chemin, const std::string& octets);
 

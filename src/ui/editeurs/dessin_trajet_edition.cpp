@@ -3,11 +3,8 @@
 #include "config/versions.h"
 #include "edition/actions_trajet.h"
 #include "edition/miroir.h"
-#include "record/preparation.h"
 #include "record/trajet.h"
 #include "sim/actions.h"
-#include "sim/orientation.h"
-#include "ui/editeurs/copie_trajet.h"
 #include "ui/editeurs/dessin_trajet.h"
 #include "ui/editeurs/difference_trajet.h"
 
@@ -203,63 +200,4 @@ void dessinTrajet::comparer() {
                               std::move(sources));
     if (dialogue.exec() == QDialog::Accepted)
         changer("Reprendre : " + dialogue.nom_de_l_autre(), dialogue.autre(), {});
-}
-
-void dessinTrajet::apres_ecriture() {
-    if (generation_.isChecked() && !projet().empty())
-        preparer_la_generation(historique_.doc(), robot());
-}
-
-void dessinTrajet::ecrire_a_cote(const std::filesystem::path& fichier, const std::string& octets) {
-    sauvegarder_version(fichier, programme().configuration / "Sauvegardes");
-    remplacer_fichier(fichier, octets);
-    programme().ecrit(fichier);
-    statusBar()->showMessage("Enregistré : " + texte_qt(fichier.filename().string()), 5000);
-}
-
-// As the console would record it on the table as it is shown, chequerboard in use or not.
-void dessinTrajet::preparer_la_generation(const DocumentTrajet& trajet, int robot) {
-    const std::string nom = seance_.etat().NomProjet + " PourGenerer10.ini";
-    try {
-        const auto droit = etat_des_fichiers(seance_.etat());
-        trajet.remplir(*droit, robot);
-        if (seance_.etat().TableHorizontale) {
-            horizontal(*droit);
-            droit->TableHorizontale = seance_.etat().TableHorizontale;
-        }
-        const GenerationPreparee generation = preparer_generation(*droit, robot, trajet, nom);
-        ecrire_a_cote(seance_.projet().chemin(" PourGenerer10.ini"), generation.texte);
-        if (generation.hors_du_match)
-            boites_.message(nom + " est prêt, mais le match de 90 s finit avant ou avec une action "
-                                  "de ce trajet.");
-    } catch (const ErreurExecution& erreur) {
-        boites_.message("L'entrée du générateur n'a pas été préparée : " +
-                        std::string(erreur.what()));
-    }
-}
-
-void dessinTrajet::copier_vers_un_robot() {
-    CopieTrajet dialogue(this, robot());
-    if (dialogue.exec() != QDialog::Accepted)
-        return;
-    DocumentTrajet copie = historique_.doc();
-    if (const auto r = dialogue.retournement()) {
-        Selection tout(copie.nombre());
-        std::iota(tout.begin(), tout.end(), std::size_t{0});
-        ::retourner(copie, tout, *r, {etat_->XMax, etat_->YMax});
-    }
-    ecrire_la_copie(copie, dialogue.vers(), dialogue.generation());
-}
-
-void dessinTrajet::ecrire_la_copie(const DocumentTrajet& copie, int vers, bool generation) {
-    const auto cible = seance_.projet().chemin_trajet(vers);
-    if (cible == chemin())
-        return changer("Copier vers ce robot", copie, {});
-    if (!boites_.question("Le fichier " + cible.filename().string() +
-                          " existe déjà. Doit-on le remplacer ?"))
-        return;
-    ecrire_a_cote(cible, copie.ecrire());
-    if (generation)
-        preparer_la_generation(copie, vers);
-    proposer_de_charger();
 }

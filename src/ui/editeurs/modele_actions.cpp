@@ -13,7 +13,6 @@
 #include <QStyle>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -21,13 +20,6 @@ constexpr int premiere_valeur = ModeleActions::valeur1;
 
 const actions::Action* sorte(const Fiche& fiche) {
     return actions::trouver(Nom10(fiche.cle));
-}
-
-/// Brought back to a turn: above -180, up to 180 degrees, as they are shown.
-double cap_ramene(double cap) {
-    constexpr double presque = -179.95;
-    const double reste = std::remainder(cap, 360);
-    return reste <= presque ? reste + 360 : reste;
 }
 
 /// What the number at place i of an action means: "rayon".
@@ -56,6 +48,19 @@ QString avec_unite(const actions::Action& a, std::size_t i, int valeur) {
     default:
         return QString("%1 (%2)").arg(valeur).arg(texte_qt(secondes(valeur)));
     }
+}
+
+/// What the file takes, and what of it the robot's code does.
+constexpr const char* limites_du_fichier = "de -32768 à 32767";
+constexpr const char* limites_du_code = "de 0 à 255 pour entrer dans le code";
+
+QString limites(const actions::Action& a, std::size_t i) {
+    constexpr const char* unites[] = {"", "centimètres", "degrés", "centièmes de seconde"};
+    const QString texte = QString("%1 en %2 : %3")
+                              .arg(nom_de_valeur(a, i))
+                              .arg(unites[static_cast<std::size_t>(a.parametres.at(i))])
+                              .arg(limites_du_fichier);
+    return a.genre == actions::Genre::depart ? texte : texte + ", " + limites_du_code;
 }
 
 int alignement(int colonne) {
@@ -116,7 +121,24 @@ QVariant ModeleActions::headerData(int section, Qt::Orientation orientation, int
         return {};
     if (role == Qt::TextAlignmentRole)
         return alignement(section);
+    if (role == Qt::ToolTipRole && section >= valeur1 && section <= valeur3)
+        return QString("Nombre entier %1, %2").arg(limites_du_fichier).arg(limites_du_code);
     return role == Qt::DisplayRole ? titres[section] : QVariant();
+}
+
+// The place of the number that such a cell holds; nothing for another one.
+std::optional<std::size_t> ModeleActions::valeur(const QModelIndex& index) const {
+    const auto& cle = montre_[static_cast<std::size_t>(index.row())].cle;
+    const int rang = index.column() - premiere_valeur;
+    if (rang < 0 || rang >= static_cast<int>(DocumentTrajet::champs(cle)))
+        return std::nullopt;
+    return static_cast<std::size_t>(rang);
+}
+
+QString ModeleActions::limites_de(const QModelIndex& index) const {
+    const actions::Action* const a = sorte(montre_[static_cast<std::size_t>(index.row())]);
+    const auto rang = valeur(index);
+    return a != nullptr && rang ? limites(*a, *rang) : QString();
 }
 
 QString ModeleActions::texte(std::size_t i, int colonne) const {
@@ -188,7 +210,8 @@ QVariant ModeleActions::data(const QModelIndex& index, int role) const {
                    ? QString::number(montre_[i].entier(static_cast<std::size_t>(rang)))
                    : texte(i, index.column());
     case Qt::ToolTipRole:
-        return refuse != nullptr ? refuse->raison : texte(i, index.column());
+        return refuse != nullptr ? refuse->raison
+                                 : (texte(i, index.column()) + "\n" + limites_de(index)).trimmed();
     case Qt::DecorationRole:
         if (refuse != nullptr)
             return QApplication::style()->standardIcon(QStyle::SP_MessageBoxCritical);
@@ -212,11 +235,7 @@ bool ModeleActions::contient(int rang, const QString& cherche) const {
 }
 
 Qt::ItemFlags ModeleActions::flags(const QModelIndex& index) const {
-    const int rang = index.column() - premiere_valeur;
-    const bool valeur =
-        rang >= 0 && rang < static_cast<int>(DocumentTrajet::champs(
-                                montre_[static_cast<std::size_t>(index.row())].cle));
-    const bool a_taper = index.column() == action || valeur;
+    const bool a_taper = index.column() == action || valeur(index);
     return QAbstractTableModel::flags(index) | (a_taper ? Qt::ItemIsEditable : Qt::ItemFlags());
 }
 

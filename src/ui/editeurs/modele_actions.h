@@ -31,6 +31,8 @@ public:
     /// Why the first text that could not be taken is refused, with its line; empty without one.
     QString en_suspens() const;
     QColor alerte() const;
+    /// Which numbers that cell takes, with their unit; empty where there is no number.
+    QString limites_de(const QModelIndex& index) const;
     /// What is to be said about that row; empty: nothing.
     QString remarque_de(std::size_t i) const;
     /// Some text of that row has this in it, whatever the case.
@@ -51,6 +53,7 @@ private:
 
     QString texte(std::size_t i, int colonne) const;
     QString texte_calcule(std::size_t i, int colonne) const;
+    std::optional<std::size_t> valeur(const QModelIndex& index) const;
     const Suspens* suspens(const QModelIndex& index) const;
 
     Historique<DocumentTrajet>& h_;

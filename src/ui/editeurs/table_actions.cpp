@@ -27,7 +27,7 @@ class TableActions::Saisie final : public QStyledItemDelegate {
 public:
     explicit Saisie(TableActions& table) : QStyledItemDelegate(&table), table_(table) {
         connect(this, &QAbstractItemDelegate::closeEditor, this, [this] {
-            table_.au_refus({});
+            table_.au_conseil({});
             table_.fin_de_frappe();
         });
     }
@@ -44,6 +44,7 @@ public:
             propositions->setFilterMode(Qt::MatchContains);
             ligne->setCompleter(propositions);
         }
+        conseiller(*ligne, table_.modele_.limites_de(index));
         const QPersistentModelIndex ou = index;
         connect(ligne, &QLineEdit::textChanged, ligne,
                 [this, ligne, ou](const QString& texte) { a_la_frappe(*ligne, ou, texte); });
@@ -56,14 +57,17 @@ public:
     }
 
 private:
+    void conseiller(QLineEdit& ligne, const QString& conseil) const {
+        ligne.setToolTip(conseil);
+        table_.au_conseil(conseil);
+    }
     void a_la_frappe(QLineEdit& ligne, const QModelIndex& ou, const QString& texte) const {
         const ModeleActions::Lecture lue = table_.modele_.lire(ou, texte);
         QPalette couleurs = table_.palette();
         if (!lue.fiche)
             couleurs.setColor(QPalette::Text, table_.modele_.alerte());
         ligne.setPalette(couleurs);
-        ligne.setToolTip(lue.refus);
-        table_.au_refus(lue.refus);
+        conseiller(ligne, lue.fiche ? table_.modele_.limites_de(ou) : lue.refus);
         if (!lue.fiche)
             return;
         DocumentTrajet essai = table_.h_.doc();

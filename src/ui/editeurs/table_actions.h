@@ -15,7 +15,8 @@ public:
     std::function<void(const Selection&)> au_choix;         ///< by the user
     std::function<void(const DocumentTrajet&)> a_la_frappe; ///< what is typed could be this
     std::function<void()> fin_de_frappe;                    ///< nothing is typed any more
-    std::function<void(const QString& raison)> au_refus;    ///< of what is typed; empty: none
+    /// Why what is typed is refused, else what may be typed; empty: nothing is.
+    std::function<void(const QString&)> au_conseil;
 
     const ModeleActions& modele() const { return modele_; }
     void montrer(const DocumentTrajet& montre, const EssaiTrajet* essai);

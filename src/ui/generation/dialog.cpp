@@ -59,10 +59,12 @@ Dialog::Dialog(QWidget* parent, Seance& seance, Bureau& bureau)
                "de la trajectoire enregistrée",
                {"*.ini", "*.*"}}),
       coloration_(apercu_.document(), palette()),
-      rejeu_(seance, [this] {
-          if (isVisible())
-              repos_.start();
-      }) {
+      rejeu_(seance,
+             [this] {
+                 if (isVisible())
+                     repos_.start();
+             }),
+      fraicheur_(seance, [this](const QString& texte) { entree_renouvelee(texte); }) {
     nommer();
     placer();
     connecter();

@@ -3,6 +3,7 @@
 #include "codegen/generateur.h"
 #include "ui/commun/editeur_code.h"
 #include "ui/generation/choix_fichier.h"
+#include "ui/generation/fraicheur_entree.h"
 #include "ui/generation/panneau_rejeu.h"
 
 #include <QCheckBox>
@@ -58,6 +59,7 @@ private:
     void avertir(const std::vector<std::string>& phrases);
     void avertir_de_l_entree(const std::filesystem::path& entree);
     void preselectionner();
+    void entree_renouvelee(const QString& texte);
     void retenir_dossiers() const;
 
     void nommer();
@@ -82,6 +84,7 @@ private:
     QListWidget avertissements_;
     QTimer repos_;
     PanneauRejeu rejeu_;
+    FraicheurEntree fraicheur_;
     std::string CheminCourant_; ///< of the directory list that changed last
     std::string projet_preselectionne_;
     std::unique_ptr<OuvGeneration> ouv_generation_;

@@ -8,32 +8,6 @@
 
 #include <QStyle>
 
-namespace {
-
-char signe(SorteLigne sorte) {
-    switch (sorte) {
-    case SorteLigne::retiree:
-        return '-';
-    case SorteLigne::inseree:
-    case SorteLigne::ajoutee:
-        return '+';
-    case SorteLigne::coupure:
-        return '@';
-    case SorteLigne::contexte:
-        break;
-    }
-    return ' ';
-}
-
-QString texte_apercu(const Apercu& apercu) {
-    std::string texte;
-    for (const LigneApercu& ligne : apercu.lignes)
-        texte.append(1, signe(ligne.sorte)).append(" ").append(ligne.texte).append("\n");
-    return texte_qt(texte);
-}
-
-} // namespace
-
 // Inputs of the present project come first to mind; the newest holds the latest recording.
 void Dialog::preselectionner() {
     namespace fs = std::filesystem;
@@ -52,6 +26,17 @@ void Dialog::preselectionner() {
         entree_.fichiers.choisir(choix);
 }
 
+// At once: what it will give is what one looks at next.
+void Dialog::entree_renouvelee(const QString& texte) {
+    compte_rendu_.setText(texte);
+    compte_rendu_.show();
+    if (entree_.fichier().empty()) {
+        entree_.dossiers.aller(seance_.projet().dossier_configuration());
+        preselectionner();
+    }
+    rafraichir_apercu();
+}
+
 void Dialog::avertir(const std::vector<std::string>& phrases) {
     for (const std::string& phrase : phrases)
         new QListWidgetItem(style()->standardIcon(QStyle::SP_MessageBoxWarning), texte_qt(phrase),
@@ -68,7 +53,7 @@ void Dialog::avertir_de_l_entree(const std::filesystem::path& entree) {
 
 void Dialog::montrer_apercu(const Demande& d) {
     const Apercu apercu = preparer_apercu(d, true);
-    apercu_.setPlainText(texte_apercu(apercu));
+    apercu_.setPlainText(texte_qt(texte_apercu(apercu)));
     avertir(apercu.avertissements);
     titre_apercu_.setText(
         QString("Aperçu de ce qui sera retiré (-) et ajouté (+)%1 :")
@@ -81,6 +66,7 @@ void Dialog::rafraichir_apercu() {
     const Demande d = demande();
     rejeu_.montrer(d.entree);
     try {
+        fraicheur_.montrer(d.entree);
         if (!d.entree.empty())
             avertir_de_l_entree(d.entree);
         if (d.depart.empty() || d.entree.empty())

@@ -83,6 +83,7 @@ void Dialog::placer() {
 
     auto* colonne = new QVBoxLayout(this);
     colonne->addLayout(haut, 2);
+    colonne->addWidget(&fraicheur_);
     colonne->addLayout(placer_cible());
     colonne->addWidget(&titre_apercu_);
     colonne->addLayout(placer_apercu(), 3);
