@@ -47,6 +47,7 @@ struct Banc {
     }
     /// Opens a cell in the middle of the trajectory: the length of a straight move.
     void taper() {
+        auto& table = *sim.findChild<QTableView*>("tableActions");
         const QModelIndex ou = table.model()->index(1 + actions_max / 2, ModeleActions::valeur1);
         table.setCurrentIndex(ou);
         table.edit(ou);
@@ -67,8 +68,6 @@ struct Banc {
 
     std::filesystem::path dossier = std::filesystem::temp_directory_path() / "tavolmex-bench";
     Sim1 sim{dossier, [](int) {}};
-    QWidget& editeur = *sim.findChild<QWidget*>("dessinTrajet");
-    QTableView& table = *editeur.findChild<QTableView*>("tableActions");
     QLineEdit* ligne = nullptr;
     std::unique_ptr<Etat> e;
 };

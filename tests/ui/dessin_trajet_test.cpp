@@ -175,8 +175,9 @@ TEST_F(EditeurTrajet, les_lignes_se_copient_se_deplacent_et_se_retournent) {
 TEST_F(EditeurTrajet, enregistrer_prepare_le_code_et_l_autre_robot) {
     QTest::mouseClick(&trouver("avecGeneration"), Qt::LeftButton, {}, {10, 8});
     taper(1, ModeleActions::valeur1, "30", Qt::Key_Return);
-    reponses = {true, false}; // replace, do not load
     faire("enregistrer");
+    EXPECT_TRUE(messages.empty()) << "what was opened, and nothing in the way of loading it";
+    EXPECT_EQ(e().TrajParam1(1, 1), 30) << "loaded";
     EXPECT_NE(sur_le_disque().find("Avance, 30 # vers"), std::string::npos);
     const std::string generation = dossier.lire("Configuration/Defaut PourGenerer10.ini");
     EXPECT_NE(generation.find("AVANCE:30\r\nGAUCHE:90\r\nAVANCE:"), std::string::npos)
@@ -186,7 +187,7 @@ TEST_F(EditeurTrajet, enregistrer_prepare_le_code_et_l_autre_robot) {
         d.findChild<QComboBox*>("cote")->setCurrentIndex(1);
         d.accept();
     };
-    reponses = {true, true}; // replace, load
+    reponses = {true}; // replace
     faire("copier_vers");
     EXPECT_NE(sur_le_disque(2).find("GAUCHE,90\r\nVirAvDr,90,30\r\n"), std::string::npos);
     EXPECT_EQ(e().TrajParam1(2, 1), 30) << "chargé";
@@ -215,7 +216,7 @@ TEST_F(EditeurTrajet, les_deux_cotes_entrent_dans_le_programme_en_un_geste) {
 
     const QString fichier = QString::fromStdString(bas.string());
     dialogues["copieTrajet"] = [&](QDialog& d) { remplir(d, fichier); };
-    reponses = {true, false, true, false}; // replace, do not load, each time
+    reponses = {true}; // replace
     faire("copier_vers");
     EXPECT_NE(sur_le_disque().find("Avance, 30 # vers"), std::string::npos) << "saved too";
     EXPECT_NE(sur_le_disque(2).find("GAUCHE,90\r\nVirAvDr,90,30\r\n"), std::string::npos);
@@ -235,7 +236,7 @@ TEST_F(EditeurTrajet, les_deux_cotes_entrent_dans_le_programme_en_un_geste) {
         titre = d.findChild<QLabel*>("titreApercuCopie")->text();
         d.findChild<QPushButton*>("copierTrajet")->click();
     };
-    reponses = {true, false};
+    reponses = {true};
     faire("copier_vers");
     EXPECT_TRUE(titre.contains("en remplaçant TRAJECTOIRE et TRAJECTOIRE_AUTRE"));
     EXPECT_EQ(dossier.lire("robot.bas"), code);
@@ -258,6 +259,19 @@ TEST_F(EditeurTrajet, la_difference_aligne_et_rend_une_version) {
     EXPECT_EQ(texte(), depart);
     faire("annuler");
     EXPECT_NE(texte(), depart) << "en un pas qui s'annule";
+}
+
+TEST_F(EditeurTrajet, le_programme_finit_pendant_que_l_on_tape) {
+    const QModelIndex ou = table().model()->index(1, ModeleActions::valeur1);
+    table().setFocus();
+    table().setCurrentIndex(ou);
+    table().edit(ou);
+    auto* ligne = table().viewport()->findChild<QLineEdit*>();
+    QTest::keyClick(ligne, Qt::Key_Home);
+    QTest::keyClicks(ligne, "12");
+    ASSERT_EQ(ligne->text(), "1280") << "where the cursor was put";
+    ASSERT_TRUE(ligne->hasFocus());
+    sim.reset(); // its controls go one by one
 }
 
 // Ends without saving: the next start offers the changes again.

@@ -7,8 +7,11 @@
 #include <QFontDatabase>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -42,7 +45,7 @@ void CopieTrajet::nommer() {
     generation_.setObjectName("generationDeLaCopie");
     generation_.setText("&Préparer aussi l'entrée du générateur");
     fonctions_.setObjectName("deuxFonctions");
-    fonctions_.setText("&Écrire ce trajet et sa copie dans le programme PICBASIC");
+    fonctions_.setText("Écrire ce trajet et sa copie &dans le programme PICBASIC");
     programme_.setObjectName("programmePicbasic");
     parcourir_.setObjectName("parcourirProgramme");
     parcourir_.setText("Parcourir…");
@@ -67,7 +70,7 @@ void CopieTrajet::placer() {
     apercu_.setTabChangesFocus(true);
     apercu_.setLineWrapMode(QPlainTextEdit::NoWrap);
     apercu_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    apercu_.setMinimumSize(520, 200);
+    apercu_.setMinimumSize(520, 140);
     avertissements_.setWordWrap(true);
     avertissements_.setMaximumHeight(84);
     auto* fichier = new QHBoxLayout;
@@ -118,13 +121,20 @@ void CopieTrajet::connecter() {
         connect(choix, &QComboBox::currentIndexChanged, this, [this] { actualiser(); });
     connect(&fonctions_, &QCheckBox::toggled, this, [this] {
         actualiser();
-        adjustSize();
+        agrandir();
     });
     connect(&programme_, &QLineEdit::textChanged, this, [this] { actualiser(); });
     connect(&noms_[1], &QLineEdit::textEdited, this, [this] { nom_propose_ = false; });
     connect(&noms_[0], &QLineEdit::textEdited, this, [this] { proposer_un_nom(); });
     for (QLineEdit& nom : noms_)
         connect(&nom, &QLineEdit::textChanged, this, [this] { actualiser(); });
+}
+
+// As tall as what is shown, and still on the screen.
+void CopieTrajet::agrandir() {
+    adjustSize();
+    const QRect ecran = screen()->availableGeometry();
+    move(x(), std::max(ecran.top(), std::min(y(), ecran.bottom() - frameGeometry().height())));
 }
 
 void CopieTrajet::proposer_un_nom() {

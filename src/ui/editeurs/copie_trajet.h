@@ -49,6 +49,7 @@ private:
     void proposer_un_nom();
     void choisir_un_programme();
     void actualiser();
+    void agrandir();
     void composer();
 
     Composer composer_;

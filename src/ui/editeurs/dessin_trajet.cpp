@@ -134,8 +134,10 @@ void dessinTrajet::fichier_change() {
 
 void dessinTrajet::montrer_fantome() {
     fantome_.reset();
-    if (!chemin().empty())
-        fantome_ = essayer(*etat_, provenance_, DocumentTrajet::depuis(sur_le_disque()), robot());
+    if (!chemin().empty()) {
+        enregistre_ = DocumentTrajet::depuis(sur_le_disque());
+        fantome_ = essayer(*etat_, provenance_, enregistre_, robot());
+    }
     recalculer();
 }
 
@@ -156,9 +158,9 @@ void dessinTrajet::recalculer() {
         return;
     const DocumentTrajet& d = montre();
     essai_ = essayer(*etat_, provenance_, d, robot());
-    const bool change = provisoire_ || !historique_.pile.isClean();
     table_.montrer(d, &essai_);
-    vue_.montrer(d, essai_, change && fantome_ ? &*fantome_ : nullptr);
+    const bool change = fantome_ && !enregistre_.memes_fiches(d);
+    vue_.montrer(d, essai_, change ? &*fantome_ : nullptr);
     montrer_bilan();
 }
 

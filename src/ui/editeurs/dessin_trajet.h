@@ -21,6 +21,7 @@ enum class Retournement;
 class dessinTrajet final : public FenetreEditeur, private Ecouteur {
 public:
     dessinTrajet(QWidget* parent, Foutil& outils, Programme programme, Seance& seance);
+    ~dessinTrajet() override { table_.se_taire(); }
 
     const DocumentTrajet& document() const { return historique_.doc(); }
     /// Opens the present project's trajectory of a robot, 1..9, unless it is open already; changes
@@ -37,6 +38,7 @@ protected:
     }
     bool prendre_la_saisie() override;
     QString en_suspens() const override;
+    void proposer_de_charger() override;
     void retirer() override;
     void dupliquer() override;
     void tout_choisir() override;
@@ -96,5 +98,6 @@ private:
     Provenance provenance_;
     std::optional<DocumentTrajet> provisoire_; ///< what a drag or a half typed cell would make
     EssaiTrajet essai_;
-    std::optional<EssaiTrajet> fantome_; ///< of what was saved
+    DocumentTrajet enregistre_; ///< what was saved, and its match; none: no file yet
+    std::optional<EssaiTrajet> fantome_;
 };

@@ -122,7 +122,9 @@ bool FenetreEditeur::peut_remplacer(const std::filesystem::path& chemin) {
         return true;
     const bool le_mien = chemin == chemin_;
     const bool change = le_mien && lire_octets(chemin) != sur_le_disque_;
-    if (le_mien && remplacement_accepte_ && !change)
+    // A trajectory is changed a little many times: what was opened to that end is not asked about.
+    const bool accepte = remplacement_accepte_ || description_.genre == GenreFichier::trajet;
+    if (le_mien && accepte && !change)
         return true;
     const std::string nom = chemin.filename().string();
     return boites_.question(

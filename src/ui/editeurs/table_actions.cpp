@@ -51,6 +51,12 @@ public:
         return ligne;
     }
 
+    // What is being typed stays as it is, the cursor too, while the trajectory follows.
+    void setEditorData(QWidget* editeur, const QModelIndex& index) const override {
+        if (!static_cast<QLineEdit*>(editeur)->isModified())
+            QStyledItemDelegate::setEditorData(editeur, index);
+    }
+
     void setModelData(QWidget* editeur, QAbstractItemModel* modele,
                       const QModelIndex& index) const override {
         modele->setData(index, static_cast<QLineEdit*>(editeur)->text(), Qt::EditRole);

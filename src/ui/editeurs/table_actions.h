@@ -22,6 +22,8 @@ public:
     void montrer(const DocumentTrajet& montre, const EssaiTrajet* essai);
     /// Takes what is being typed in a cell.
     void finir_la_saisie();
+    /// Its owner goes: from now on nothing of what is typed is told.
+    void se_taire() { delete itemDelegate(); }
     /// Begins to type record i's keyword.
     void taper_l_action(std::size_t i);
 

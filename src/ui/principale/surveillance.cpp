@@ -2,6 +2,7 @@
 
 #include "base/fichiers.h"
 #include "base/systeme.h"
+#include "record/sauvegarde.h"
 #include "ui/commun/boites.h"
 
 #include <algorithm>
