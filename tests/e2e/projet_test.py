@@ -35,7 +35,6 @@ def modifier(p, configuration):
     p.fenetre("Defaut Trajet1.ini – Trajet du robot")
     p.derouler("^Insérer$", "^Pause$")
     p.derouler("^Fichier$", "^Enregistrer$")
-    repondre(p, "remplacer", "Oui")
     attendre("le trajet enregistré",
              lambda: "PAUSE" in (configuration / "Defaut Trajet1.ini").read_text())
     p.derouler("^Trajet$", "^Copier vers un robot...$")
