@@ -109,13 +109,6 @@ void Set_Sauv_Robot(Etat& e, Entier16 I) {
     e.TrajetModifie(I) = true;
 }
 
-bool trajet_non_sauve(const Etat& e) {
-    for (int i = 0; i <= robots_max; ++i)
-        if (e.TrajetModifie(i))
-            return true;
-    return false;
-}
-
 std::string BilanSauvegarde::message() const {
     if (echecs.empty())
         return {};

@@ -12,8 +12,6 @@
 
 /// Marks robot I's trajectory as changed by the console. @throws HorsTable when I is outside 0..10
 void Set_Sauv_Robot(Etat& e, Entier16 I);
-/// True if the console changed some trajectory and it is not saved.
-bool trajet_non_sauve(const Etat& e);
 
 /// A file that could not be written whole, and why.
 struct EchecEcriture {

@@ -38,7 +38,6 @@ protected:
     }
     bool prendre_la_saisie() override;
     QString en_suspens() const override;
-    void proposer_de_charger() override;
     void retirer() override;
     void dupliquer() override;
     void tout_choisir() override;

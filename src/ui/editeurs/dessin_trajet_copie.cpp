@@ -2,7 +2,6 @@
 // trajectory, subroutines of the team's program.
 #include "base/fichiers.h"
 #include "record/preparation.h"
-#include "record/sauvegarde.h"
 #include "ui/commun/cle_de_projet.h"
 #include "ui/editeurs/copie_trajet.h"
 #include "ui/editeurs/dessin_trajet.h"
@@ -136,12 +135,4 @@ void dessinTrajet::ecrire_la_copie(const Copie& c) {
         ecrits += texte_qt(", " + c.programme.filename().string() + " (" + c.noms[0] + ", " +
                            c.noms[1] + ")");
     statusBar()->showMessage("Enregistré : " + ecrits, 10000);
-}
-
-// The project that is shown follows at once, unless that would cost a run or a recording.
-void dessinTrajet::proposer_de_charger() {
-    const bool du_projet = chemin() == seance_.projet().chemin_trajet(robot());
-    if (!du_projet || seance_.en_marche() || trajet_non_sauve(seance_.etat()))
-        return FenetreEditeur::proposer_de_charger();
-    seance_.relire_tout();
 }

@@ -121,7 +121,7 @@ protected:
     void montrer_titre();
     /// Takes what is being typed. @returns false when it is no number, which is told
     virtual bool prendre_la_saisie();
-    virtual void proposer_de_charger();
+    void proposer_de_charger();
     const std::filesystem::path& chemin() const { return chemin_; }
     /// The file's bytes as they were read or written last.
     const std::string& sur_le_disque() const { return sur_le_disque_; }

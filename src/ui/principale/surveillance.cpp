@@ -2,7 +2,6 @@
 
 #include "base/fichiers.h"
 #include "base/systeme.h"
-#include "record/sauvegarde.h"
 #include "ui/commun/boites.h"
 
 #include <algorithm>
