@@ -260,13 +260,22 @@ bool Table::meme_table() const {
            Echelle == cle_dessinee_.Echelle;
 }
 
+// A rectangle at a time: through a region of several, rows go to a pool of threads.
+void Table::montrer_image(QPainter& peintre, const QRegion& region) {
+    for (const QRect& r : region) {
+        peintre.setClipRect(r);
+        peintre.drawImage(rect(), image_);
+    }
+    peintre.setClipping(false);
+}
+
 void Table::paintEvent(QPaintEvent* evenement) {
     const bool a_garder = !image_.isNull() ? cle() != cle_dessinee_ : peinte_;
     if (a_garder && meme_table() && peindre_fond())
         peindre_robots();
     QPainter peintre(this);
     if (!image_.isNull())
-        peintre.drawImage(rect(), image_);
+        montrer_image(peintre, evenement->region());
     else if (meme_table()) {
         peindre_directement(peintre);
         if (!std::exchange(peinte_, true) && !poses_.empty())

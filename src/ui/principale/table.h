@@ -88,6 +88,7 @@ private:
     void peindre_vite(const PoseDessinee& p, const Silhouette& silhouette, QPainter& peintre,
                       SurfaceQt& surface);
     void peindre_directement(QPainter& peintre);
+    void montrer_image(QPainter& peintre, const QRegion& region);
     void peindre_robots();
     void effacer_robots();
     void signaler_robots();
