@@ -53,7 +53,7 @@ int robot_du_code(const Etat& e, const CodeRelu& code) {
     const std::vector<MouvementRelu> relus = deplacements(code);
     int meilleur = 0;
     std::size_t le_plus = 0;
-    for (int i = 1; i <= e.NbRobot; ++i) {
+    for (int i = 1; i <= robots_des_fichiers; ++i) {
         const std::vector<MouvementAttendu> attendus = mouvements_attendus(e, i);
         const std::size_t n = communs(attendus, relus);
         if (n > le_plus && 2 * n >= attendus.size()) {
@@ -61,5 +61,5 @@ int robot_du_code(const Etat& e, const CodeRelu& code) {
             le_plus = n;
         }
     }
-    return meilleur;
+    return meilleur <= e.NbRobot ? meilleur : 0;
 }

@@ -23,6 +23,7 @@ std::vector<MouvementAttendu> mouvements_attendus(const Trajectoires& t, int rob
 /// What moves the robot or makes it wait: all but the tile counts.
 std::vector<MouvementRelu> deplacements(const CodeRelu& code);
 
-/// The robot of 1..NbRobot whose trajectory this code was made from: the one that has the most
-/// moves in common with it, in order, and at least half of its own; 0: none.
+/// The robot whose trajectory this code was made from: the one that has the most moves in common
+/// with it, in order, and at least half of its own; 0: none, or one that does not play (the other
+/// side of a trajectory has all straight moves in common with it).
 int robot_du_code(const Etat& e, const CodeRelu& code);

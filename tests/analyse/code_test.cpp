@@ -138,6 +138,9 @@ TEST(ComparerAuCode, le_code_est_celui_du_robot_dont_il_a_le_plus_de_mouvements)
     EXPECT_EQ(robot("#\nAVANCE:20\nAVANCE:31\nAVANCE:40\nAVANCE:50\n"), 2) << "one was changed";
     EXPECT_EQ(robot("#\nAVANCE:50\n"), 0) << "less than half of robot 2's";
     EXPECT_EQ(robot("#\n"), 0);
+    b.e.NbRobot = 1;
+    EXPECT_EQ(robot("#\nGAUCHE:90\nAVANCE:20\nAVANCE:30\nAVANCE:40\n"), 0)
+        << "half of robot 1's, but made from robot 2's, which does not play";
 }
 
 TEST(ComparerAuCode, le_constat_attend_que_le_trajet_soit_sauve) {
