@@ -1,5 +1,7 @@
 #include "analyse/match.h"
 
+#include "base/registres.h"
+
 #include "draw/a_vide.h"
 #include "sim/actions.h"
 #include "sim/fenetres_muettes.h"
@@ -146,6 +148,7 @@ std::size_t MatchCalcule::tick(std::int32_t t) const {
 }
 
 MatchCalcule calculer_match(Etat& e) {
+    liberer_registres(); // a window may just have painted
     return Joueur(e).jouer();
 }
 
