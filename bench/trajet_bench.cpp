@@ -28,6 +28,7 @@ std::string trajet_plein() {
 /// The editor on robot 1's full trajectory in the default project, nine robots on the table.
 struct Banc {
     Banc() {
+        std::filesystem::remove_all(dossier); // an interrupted run leaves questions
         std::filesystem::create_directories(dossier);
         std::filesystem::current_path(dossier);
         sim.Form_Load();
@@ -53,7 +54,7 @@ struct Banc {
         table.edit(ou);
         ligne = table.viewport()->findChild<QLineEdit*>();
         ligne->selectAll();
-        touche('3');
+        touche('4'); // another length than the saved one
     }
     /// One key, until everything that it changes is on the screen.
     void touche(char c) {

@@ -46,7 +46,6 @@ DifferenceTrajet::DifferenceTrajet(QWidget* parent, const Sujet& sujet, std::vec
     for (const Source& source : sources_)
         sources_combo_.addItem(source.nom);
     placer();
-    vue_.regler_projet(sujet_.etat, sujet_.robot);
     connect(&sources_combo_, &QComboBox::currentIndexChanged, this, [this] { comparer(); });
     connect(&reprendre_, &QPushButton::clicked, this, [this] { accept(); });
     connect(&fermer_, &QPushButton::clicked, this, [this] { reject(); });
@@ -96,6 +95,7 @@ void DifferenceTrajet::placer() {
 void DifferenceTrajet::comparer() {
     liste_.clear();
     reprendre_.setEnabled(false);
+    vue_.regler_projet(sujet_.etat, sujet_.robot);
     try {
         const auto rang = static_cast<std::size_t>(std::max(0, sources_combo_.currentIndex()));
         autre_ = DocumentTrajet::depuis(sources_.at(rang).octets());

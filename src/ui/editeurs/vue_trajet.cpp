@@ -41,6 +41,7 @@ VueTrajet::VueTrajet(Historique<DocumentTrajet>& historique, QWidget* parent)
 void VueTrajet::regler_projet(const Etat& etat, int robot) {
     const bool autre_table = e_->XMax != etat.XMax || e_->YMax != etat.YMax;
     *e_ = etat;
+    ++projet_;
     contour_ = Contour(*e_, robot);
     if (autre_table)
         ajuster();
@@ -59,13 +60,11 @@ QRectF VueTrajet::etendue() const {
             e_->YMax + 2.0 * marge_table};
 }
 
-void VueTrajet::peindre(QPainter& peintre) {
+void VueTrajet::peindre_fond(QPainter& peintre) {
     SurfaceQt surface(peintre, size());
     orienter(surface);
     e_->ZoneRedessin = {-marge_table, e_->XMax + marge_table, -marge_table, e_->YMax + marge_table};
     peindre_table(*e_, surface, arrondir16(std::min(pixels_par_cm() * 15, 32000.0)));
-    if (essai_ == nullptr)
-        return;
     if (fantome_ != nullptr)
         dessiner_trace(*e_, fantome_->analyse.match,
                        {.robot = essai_->robot,
@@ -74,6 +73,16 @@ void VueTrajet::peindre(QPainter& peintre) {
                         .couleur = gris,
                         .pointille = true},
                        surface);
+}
+
+void VueTrajet::peindre(QPainter& peintre) {
+    peintre.drawPixmap(0, 0,
+                       fond_.image(*this, {camera(), projet_, fantome_ != nullptr},
+                                   [this](QPainter& p) { peindre_fond(p); }));
+    if (essai_ == nullptr)
+        return;
+    SurfaceQt surface(peintre, size());
+    orienter(surface);
     dessiner_trace(*e_, essai_->analyse.match,
                    {.robot = essai_->robot, .constats = essai_->analyse.constats}, surface);
     peindre_robot(surface, essai_->analyse.match.poses(essai_->robot).front());
@@ -120,6 +129,27 @@ void VueTrajet::peindre_dessus(QPainter& peintre) {
         peintre.setPen(trait);
         peindre_choisies(peintre);
     }
+    peindre_prises(peintre);
+}
+
+// Up to a thousand of the same circle: it is painted once and put down.
+void VueTrajet::peindre_prises(QPainter& peintre) const {
+    constexpr double cote = 2 * (rayon_prise + 2);
+    const QPointF coin(cote / 2, cote / 2);
+    const auto rond = [&](const QColor& bord) {
+        QPixmap image((QSizeF(cote, cote) * devicePixelRatioF()).toSize());
+        image.setDevicePixelRatio(devicePixelRatioF());
+        image.fill(Qt::transparent);
+        QPainter p(&image);
+        p.setRenderHint(QPainter::Antialiasing);
+        p.setPen(QPen(bord, 2));
+        p.setBrush(Qt::white);
+        p.drawEllipse(coin, rayon_prise, rayon_prise);
+        return image;
+    };
+    const QColor teinte = palette().color(QPalette::Highlight);
+    const QPixmap libre = rond(QColor(60, 60, 60));
+    const QPixmap prise = rond(teinte);
     for (std::size_t i = 0; i < montre_.nombre(); ++i)
         for (const bool cap : {true, false}) {
             const auto centre = place({i, cap});
@@ -127,10 +157,9 @@ void VueTrajet::peindre_dessus(QPainter& peintre) {
                 continue;
             const bool choisie = std::ranges::binary_search(h_.selection(), i);
             peintre.setPen(QPen(choisie ? teinte : QColor(60, 60, 60), 2));
-            peintre.setBrush(Qt::white);
             if (cap)
                 peintre.drawLine(*place({i, false}), *centre);
-            peintre.drawEllipse(*centre, rayon_prise, rayon_prise);
+            peintre.drawPixmap(*centre - coin, choisie ? prise : libre);
         }
 }
 

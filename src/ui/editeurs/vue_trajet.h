@@ -3,6 +3,7 @@
 #include "analyse/essai.h"
 #include "edition/tirage.h"
 #include "sim/contour.h"
+#include "ui/commun/couche.h"
 #include "ui/commun/historique.h"
 #include "ui/commun/vue_echelle.h"
 
@@ -20,7 +21,7 @@ public:
     std::function<void(const QString& nom, DocumentTrajet)> au_lacher; ///< a drag ended so
     std::function<void()> a_l_abandon;
 
-    /// The table and the robots. @param etat  of etat_des_fichiers
+    /// The table and the robots; called again for another ghost. @param etat  of etat_des_fichiers
     void regler_projet(const Etat& etat, int robot);
     /// @param essai    the match with the document as it is shown
     /// @param fantome  with the saved one; null: there is none, or it is the same
@@ -48,6 +49,8 @@ private:
     std::optional<Prise> prise_sous(QPointF pixels) const;
     QPointF pointe(const PoseTick& pose) const;
     Fiche tiree(const Prise& prise, QPointF cm, Qt::KeyboardModifiers touches) const;
+    void peindre_fond(QPainter& peintre);
+    void peindre_prises(QPainter& peintre) const;
     void peindre_choisies(QPainter& peintre) const;
     void peindre_robot(SurfaceQt& surface, const PoseTick& pose) const;
     std::vector<QPointF> chemin_de(std::size_t i) const;
@@ -58,6 +61,16 @@ private:
     DocumentTrajet montre_;
     const EssaiTrajet* essai_ = nullptr;
     const EssaiTrajet* fantome_ = nullptr;
+
+    /// What lies beneath while one types: the table and the ghost.
+    struct Fond {
+        Camera camera;
+        int projet;
+        bool fantome;
+        bool operator==(const Fond&) const = default;
+    };
+    Couche<Fond> fond_;
+    int projet_ = 0; ///< how often it was set
     std::optional<Prise> prise_;
     std::optional<DocumentTrajet> provisoire_;
 };
