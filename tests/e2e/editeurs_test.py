@@ -33,7 +33,7 @@ def scenario(programme, dossier):
         try:
             p.fenetre("Option")
             p.presser("^Créer un projet...$")
-            p.fenetre("Defaut Table.ini – Dessin de la table")
+            p.premier_plan("Defaut Table.ini – Dessin de la table")
             poser_une_zone(p)
             enregistrer_et_charger(p, "Essai Table")
             attendre("le projet chargé", (configuration / "Essai Trajet9.ini").is_file)

@@ -31,8 +31,12 @@ def attendre(quoi, condition, delai=DELAI):
         time.sleep(0.05)
 
 
+def dans_l_etat(a, etat):
+    return a.getState().contains(etat)
+
+
 def visible(a):
-    return a.getState().contains(pyatspi.STATE_SHOWING)
+    return dans_l_etat(a, pyatspi.STATE_SHOWING)
 
 
 def descendants(a):
@@ -94,11 +98,35 @@ class Programme:
         self.agir("menu item", menu, "(ShowMenu|Press)")
         self.agir("menu item", choix, "Press")
 
+    def premier_plan(self, titre):
+        """That window, once keys go to it: mouse and keyboard reach what the window manager put first."""
+        return attendre(f"« {titre} » au premier plan", lambda: next(
+            (f for f in self.racine if f.name == titre and dans_l_etat(f, pyatspi.STATE_ACTIVE)), None))
+
     def cliquer_au_milieu(self, motif):
-        """A click of the mouse in the middle of an object."""
-        place = self.objet(".*", motif).queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        """A click of the mouse in the middle of an object, once it no longer moves."""
+        objet = self.objet(".*", motif)
+        lieu = objet.queryComponent
+
+        def immobile():
+            avant = lieu().getExtents(pyatspi.DESKTOP_COORDS)
+            time.sleep(0.2)
+            return avant if avant == lieu().getExtents(pyatspi.DESKTOP_COORDS) else None
+
+        place = attendre(f"« {motif} » immobile", immobile)
         pyatspi.Registry.generateMouseEvent(place.x + place.width // 2,
                                             place.y + place.height // 2, "b1c")
+        return objet
+
+    def choisir(self, motif):
+        """Clicks on an entry of a list and waits until it is selected."""
+        objet = self.cliquer_au_milieu(motif)
+        attendre(f"« {motif} » choisi", lambda: dans_l_etat(objet, pyatspi.STATE_SELECTED))
+
+    def vise(self, role, motif):
+        """Waits until the keys go to that object."""
+        objet = self.objet(role, motif)
+        attendre(f"« {motif} » visé", lambda: dans_l_etat(objet, pyatspi.STATE_FOCUSED))
 
     def touche(self, symbole, *avec):
         """A key by its symbol, under the keys `avec` held down."""
@@ -117,16 +145,19 @@ class Programme:
         attendre(f"« {motif} » bascule", lambda: self.coche(motif) != avant)
 
     def coche(self, motif):
-        return self.objet("check box", motif).getState().contains(pyatspi.STATE_CHECKED)
+        return dans_l_etat(self.objet("check box", motif), pyatspi.STATE_CHECKED)
 
     def actif(self, role, motif):
-        return self.objet(role, motif).getState().contains(pyatspi.STATE_ENABLED)
+        return dans_l_etat(self.objet(role, motif), pyatspi.STATE_ENABLED)
 
     def sans_nom(self):
         """The visible controls that assistive tools could not tell from others."""
-        return [f"{a.getRoleName()} de « {a.parent.name} »" for a in descendants(self.racine)
-                if a.getRoleName() in CONTROLES and not a.name and visible(a)
-                and a.parent.getRoleName() != "text"]  # Qt's own button that empties a field
+        def liste():
+            return [f"{a.getRoleName()} de « {a.parent.name} »" for a in descendants(self.racine)
+                    if a.getRoleName() in CONTROLES and not a.name and visible(a)
+                    and a.parent.getRoleName() != "text"]  # Qt's own button that empties a field
+
+        return attendre("un arbre qui ne change pas", lambda: (liste(),))[0]
 
     def code_de_fin(self):
         return self.processus.wait(timeout=DELAI)

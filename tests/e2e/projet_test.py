@@ -30,16 +30,18 @@ def repondre(p, question, reponse):
 
 def modifier(p, configuration):
     """A pause behind the recorded path; then robot 2 gets the path of the other side."""
-    p.fenetre("Option")
+    p.premier_plan("Option")
     p.touche("t", "Control_L")
-    p.fenetre("Defaut Trajet1.ini – Trajet du robot")
+    p.premier_plan("Defaut Trajet1.ini – Trajet du robot")
     p.derouler("^Insérer$", "^Pause$")
     p.derouler("^Fichier$", "^Enregistrer$")
     attendre("le trajet enregistré",
              lambda: "PAUSE" in (configuration / "Defaut Trajet1.ini").read_text())
     p.derouler("^Trajet$", "^Copier vers un robot...$")
-    p.objet("combo box", "^Robot 2$")
+    p.premier_plan("Copier vers un robot")
+    p.vise("combo box", "^Robot 2$")
     p.touche(TABULATION)
+    p.vise("combo box", "^Tel quel$")
     p.touche(BAS)
     p.objet("combo box", "^Autre côté : miroir gauche-droite$")
     p.presser("^Copier$")
@@ -52,8 +54,9 @@ def generer(p, configuration):
     """The recorded path as a function of the team's own program."""
     cible = configuration / "depart.bas"
     p.presser("^Générer code PICBASIC$")
-    p.cliquer_au_milieu("^depart.bas$")
-    p.cliquer_au_milieu("^Defaut PourGenerer10.ini")
+    p.premier_plan("Ouvrir")
+    p.choisir("^depart.bas$")
+    p.choisir("^Defaut PourGenerer10.ini")
     console_test.remplir(p, "^Nom et chemin du fichier généré$", str(cible))
     console_test.remplir(p, "^Nom de la fonction", "COTE_A")
     p.presser("^Générer$")
