@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QPaintEvent>
+#include <QScreen>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -52,6 +53,25 @@ TEST_F(TableTest, l_image_gardee_est_celle_de_la_premiere_peinture) {
     EXPECT_EQ(directe, neuve.grab().toImage());
     neuve.Dessine_Robot(); // erased and drawn again at the same place
     EXPECT_EQ(directe, neuve.grab().toImage());
+}
+
+// What stands on the screen after ticks that repainted robots alone is what a whole painting gives.
+TEST_F(TableTest, des_ticks_ne_laissent_ni_trace_ni_trou) {
+    e->NbRobot = 9;
+    e->en_course = true;
+    for (const bool lisibles : {false, true}) {
+        table.montrer_lisibles(lisibles);
+        for (int tick = 0; tick < 12; ++tick) {
+            for (int i = 1; i <= 9; ++i) { // some meet, some leave the picture
+                e->XRobot(i) = static_cast<float>(20 * i + tick * (i % 3 - 1) * 4);
+                e->YRobot(i) = static_cast<float>(35 * i + tick);
+                e->CapRobot(i) = static_cast<float>(tick * 5 * i);
+            }
+            dessiner();
+        }
+        QCoreApplication::processEvents();
+        EXPECT_EQ(table.screen()->grabWindow(table.winId()).toImage(), table.grab().toImage());
+    }
 }
 
 // Keeps what the widget is asked to repaint.

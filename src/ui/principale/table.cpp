@@ -1,5 +1,6 @@
 #include "ui/principale/table.h"
 
+#include "base/registres.h"
 #include "draw/couleurs_robots.h"
 #include "draw/robot.h"
 #include "draw/table.h"
@@ -10,7 +11,6 @@
 #include <QTimer>
 
 #include <cmath>
-#include <cstring>
 #include <utility>
 
 namespace {
@@ -18,17 +18,24 @@ namespace {
 constexpr int remplir_apres_ms = 20; ///< the first painting has outlines alone: it is to be quick
 constexpr int bord_du_trait = 2;     ///< logical pixels that a line reaches beyond its end points
 
-void regler(Surface& s, const Etat& e) {
-    s.coordonnees(-marge_table, e.YMax + marge_table, e.XMax + marge_table, -marge_table);
+void regler(Surface& s, double XMax, double YMax) {
+    s.coordonnees(-marge_table, YMax + marge_table, XMax + marge_table, -marge_table);
 }
 
-// Gives a rectangle (device pixels) of one picture the look it has in another of the same size.
-void copier(QImage& vers, const QImage& de, const QRect& rectangle) {
-    const QRect r = rectangle.intersected(de.rect());
-    const auto octets = static_cast<std::size_t>(r.width()) * sizeof(QRgb);
-    for (int y = r.top(); y <= r.bottom(); ++y)
-        std::memcpy(reinterpret_cast<QRgb*>(vers.scanLine(y)) + r.left(),
-                    reinterpret_cast<const QRgb*>(de.constScanLine(y)) + r.left(), octets);
+Repere repere_de(QSize taille, double XMax, double YMax) {
+    Repere r;
+    r.regler(taille, -marge_table, YMax + marge_table, XMax + marge_table, -marge_table);
+    return r;
+}
+
+bool fini(const Trait& t) {
+    return std::isfinite(t.a.x + t.a.y + t.b.x + t.b.y);
+}
+
+// The whole pixels of lines within a box.
+QRect pixels(const QRectF& boite) {
+    return boite.adjusted(-bord_du_trait, -bord_du_trait, bord_du_trait, bord_du_trait)
+        .toAlignedRect();
 }
 
 QImage image_du_numero(const Silhouette& silhouette, int cote, double densite,
@@ -69,15 +76,18 @@ Table::Table(Etat& etat, Fenetres& fenetres, QWidget* parent)
 }
 
 Repere Table::repere() const {
-    Repere r;
-    r.regler(size(), -marge_table, e.YMax + marge_table, e.XMax + marge_table, -marge_table);
-    return r;
+    return repere_de(size(), e.XMax, e.YMax);
+}
+
+// A picture keeps the scale it was painted with until the next one.
+Repere Table::repere_dessine() const {
+    return repere_de(size(), cle_dessinee_.XMax, cle_dessinee_.YMax);
 }
 
 void Table::Dessine_Table() {
     if (cle() == cle_dessinee_)
         return;
-    if (image_.isNull()) {
+    if (fond_.isNull()) {
         const ZoneEntiere zone(e);
         SurfaceVide surface; // the errors alone; the drawing comes with the next painting
         if (!::Dessine_Table(e, surface, f, Echelle))
@@ -85,25 +95,26 @@ void Table::Dessine_Table() {
         cle_dessinee_ = cle();
     } else if (!peindre_fond())
         return;
-    peindre_robots();
+    calculer_rectangles();
     update();
 }
 
 void Table::Dessine_Robot() {
-    if (e.en_course && image_.isNull() && !peindre_fond()) // a run begins
+    liberer_registres();                                  // the last tick was painted
+    if (e.en_course && fond_.isNull() && !peindre_fond()) // a run begins
         return;
-    effacer_robots();
     signaler_robots(); // what they leave
     contours_.vider();
     poses_.clear();
     if (::Dessine_Robot(e, contours_, f))
         noter_poses();
-    peindre_robots();
+    calculer_rectangles();
     signaler_robots(); // what they cover
 }
 
 Table::Cle Table::cle() const {
-    return {e.version_table, Echelle, (QSizeF(size()) * devicePixelRatioF()).toSize()};
+    return {e.version_table, Echelle, (QSizeF(size()) * devicePixelRatioF()).toSize(), e.XMax,
+            e.YMax};
 }
 
 bool Table::peindre_fond() {
@@ -114,29 +125,32 @@ bool Table::peindre_fond() {
     QPainter peintre(&image);
     SurfaceQt surface(peintre, size());
     const ZoneEntiere zone(e);
-    regler(surface, e);
+    regler(surface, e.XMax, e.YMax);
     if (!::Dessine_Table(e, surface, f, Echelle))
         return false;
     peintre.end();
     fond_ = image;
-    image_ = image.copy();
     cle_dessinee_ = nouvelle;
     return true;
 }
 
-void Table::peindre_robots() {
-    calculer_rectangles();
-    if (image_.isNull() || nombre_rectangles_ == 0)
-        return;
-    QPainter peintre(&image_);
-    peindre_contours(peintre);
-}
-
-void Table::peindre_contours(QPainter& peintre) {
+// A rectangle at a time: what is painted goes straight to the pixels of a single one.
+void Table::peindre_robots(QPainter& peintre, const QRegion& region) {
     SurfaceQt surface(peintre, size());
-    regler(surface, e);
-    peindre_silhouettes(peintre, surface);
-    surface.lignes(contours_.traits(), couleurs::cyan);
+    regler(surface, cle_dessinee_.XMax, cle_dessinee_.YMax);
+    const auto traits = contours_.traits();
+    for (const QRect& r : rectangles_) {
+        if (!region.intersects(r))
+            continue;
+        peintre.setClipRect(r);
+        peindre_silhouettes(r, peintre, surface);
+        ici_.clear();
+        for (std::size_t i = 0; i < traits.size(); ++i)
+            if (rectangles_traits_[i].intersects(r))
+                ici_.push_back(traits[i]);
+        surface.lignes(ici_, couleurs::cyan);
+    }
+    peintre.setClipping(false);
 }
 
 // While nothing runs the robot files may have changed.
@@ -148,12 +162,14 @@ void Table::noter_poses() {
             silhouettes_[static_cast<std::size_t>(i)] = Silhouette(e, i);
     silhouettes_a_jour_ = true;
     for (int i = 1; i <= e.NbRobot; ++i) {
-        poses_.push_back({i, e.XRobot(i), e.YRobot(i), e.CapRobot(i)});
+        poses_.push_back({i, e.XRobot(i), e.YRobot(i), e.CapRobot(i), {}});
     }
 }
 
-void Table::peindre_silhouettes(QPainter& peintre, SurfaceQt& surface) {
+void Table::peindre_silhouettes(const QRect& ici, QPainter& peintre, SurfaceQt& surface) {
     for (const PoseDessinee& p : poses_) {
+        if (!p.rectangle.intersects(ici))
+            continue;
         const Silhouette& silhouette = silhouettes_[static_cast<std::size_t>(p.robot)];
         if (!e.en_course)
             silhouette.peindre(p.x, p.y, p.cap, surface);
@@ -176,13 +192,13 @@ void Table::peindre_vite(const PoseDessinee& p, const Silhouette& silhouette, QP
     if (numero.width() != cote)
         numero = image_du_numero(silhouette, cote, devicePixelRatioF(), surface.cm_par_pixel());
     const double demi = cote / devicePixelRatioF() / 2;
-    const QPointF ici = repere().point(r[0].x, r[0].y) - QPointF(demi, demi);
+    const QPointF ici = repere_dessine().point(r[0].x, r[0].y) - QPointF(demi, demi);
     peintre.drawImage(ici.toPoint(), numero);
 }
 
 void Table::redessiner_robots() {
-    effacer_robots();
-    peindre_robots();
+    signaler_robots();
+    calculer_rectangles();
     signaler_robots();
 }
 
@@ -194,63 +210,57 @@ void Table::montrer_lisibles(bool oui) {
 void Table::peindre_directement(QPainter& peintre) {
     const ZoneEntiere zone(e);
     SurfaceQt surface(peintre, size());
-    regler(surface, e);
+    regler(surface, e.XMax, e.YMax);
     peindre_table(e, surface, Echelle);
     surface.lignes(contours_.traits(), couleurs::cyan);
 }
 
-void Table::effacer_robots() {
-    if (image_.isNull())
-        return;
-    const double densite = image_.devicePixelRatio();
-    for (int i = 0; i < nombre_rectangles_; ++i) {
-        const QRect& r = rectangles_[static_cast<std::size_t>(i)];
-        copier(image_, fond_,
-               QRectF(QPointF(r.topLeft()) * densite, QSizeF(r.size()) * densite).toAlignedRect());
-    }
-}
-
 void Table::signaler_robots() {
-    for (int i = 0; i < nombre_rectangles_; ++i)
-        update(rectangles_[static_cast<std::size_t>(i)]);
+    for (const QRect& r : rectangles_)
+        update(r);
 }
 
 void Table::calculer_rectangles() {
-    nombre_rectangles_ = 0;
-    const Repere r = repere();
-    for (const Trait& t : contours_.traits())
-        if (std::isfinite(t.a.x + t.a.y + t.b.x + t.b.y))
-            ajouter_rectangle(r.boite(t.a.x, t.a.y, t.b.x, t.b.y));
-    if (e.en_course) // what is painted then lies within the outline
-        return;
-    for (const PoseDessinee& p : poses_)
-        for (const Forme& forme : silhouettes_[static_cast<std::size_t>(p.robot)].formes())
-            if (const QRectF boite = r.boite(placee(forme, p.x, p.y, p.cap)); !boite.isEmpty())
-                ajouter_rectangle(boite);
+    rectangles_.clear();
+    rectangles_traits_.clear();
+    const Repere r = repere_dessine();
+    for (const Trait& t : contours_.traits()) {
+        rectangles_traits_.push_back(fini(t) ? pixels(r.boite(t.a.x, t.a.y, t.b.x, t.b.y))
+                                             : QRect());
+        ajouter_rectangle(rectangles_traits_.back());
+    }
+    for (PoseDessinee& p : poses_) {
+        p.rectangle = rectangle(p, r);
+        ajouter_rectangle(p.rectangle);
+    }
+}
+
+// The number lies between what is enclosed here.
+QRect Table::rectangle(const PoseDessinee& p, const Repere& r) const {
+    const Silhouette& silhouette = silhouettes_[static_cast<std::size_t>(p.robot)];
+    QRectF boite = r.boite(silhouette.reperes(p.x, p.y, p.cap));
+    if (!e.en_course)
+        for (const Forme& forme : silhouette.formes())
+            boite |= r.boite(placee(forme, p.x, p.y, p.cap));
+    return boite.isEmpty() ? QRect() : pixels(boite);
 }
 
 // One rectangle for outlines that touch, so that two distant robots do not repaint what lies
 // between them.
-void Table::ajouter_rectangle(const QRectF& boite) {
-    QRect r = boite.adjusted(-bord_du_trait, -bord_du_trait, bord_du_trait, bord_du_trait)
-                  .intersected(rect())
-                  .toAlignedRect();
+void Table::ajouter_rectangle(QRect r) {
+    r &= rect();
     if (r.isEmpty())
         return;
-    const auto debut = rectangles_.begin();
-    auto fin = debut + nombre_rectangles_;
-    for (auto it = debut; it != fin;)
-        if (it->intersects(r)) {
-            r |= *it;
-            *it = *--fin;
-            it = debut; // larger now, it may meet those before
+    const bool complet = rectangles_.size() == rectangles_max;
+    for (std::size_t i = 0; i < rectangles_.size();)
+        if (complet || rectangles_[i].intersects(r)) {
+            r |= rectangles_[i];
+            rectangles_[i] = rectangles_.back();
+            rectangles_.pop_back();
+            i = 0; // larger now, it may meet those before
         } else
-            ++it;
-    if (fin == rectangles_.end())
-        *(fin - 1) |= r;
-    else
-        *fin++ = r;
-    nombre_rectangles_ = static_cast<int>(fin - debut);
+            ++i;
+    rectangles_.push_back(r);
 }
 
 // True while the table is as it was drawn, whatever size it is shown at: painting it again cannot
@@ -260,23 +270,24 @@ bool Table::meme_table() const {
            Echelle == cle_dessinee_.Echelle;
 }
 
-// A rectangle at a time: through a region of several, rows go to a pool of threads.
-void Table::montrer_image(QPainter& peintre, const QRegion& region) {
+// Through a region of several rectangles, rows would go to a pool of threads.
+void Table::montrer_fond(QPainter& peintre, const QRegion& region) {
     for (const QRect& r : region) {
         peintre.setClipRect(r);
-        peintre.drawImage(rect(), image_);
+        peintre.drawImage(rect(), fond_);
     }
     peintre.setClipping(false);
 }
 
 void Table::paintEvent(QPaintEvent* evenement) {
-    const bool a_garder = !image_.isNull() ? cle() != cle_dessinee_ : peinte_;
-    if (a_garder && meme_table() && peindre_fond())
-        peindre_robots();
+    const bool a_garder = !fond_.isNull() ? cle() != cle_dessinee_ : peinte_;
+    if (a_garder && meme_table())
+        peindre_fond();
     QPainter peintre(this);
-    if (!image_.isNull())
-        montrer_image(peintre, evenement->region());
-    else if (meme_table()) {
+    if (!fond_.isNull()) {
+        montrer_fond(peintre, evenement->region());
+        peindre_robots(peintre, evenement->region());
+    } else if (meme_table()) {
         peindre_directement(peintre);
         if (!std::exchange(peinte_, true) && !poses_.empty())
             QTimer::singleShot(remplir_apres_ms, this, [this] { update(); });
@@ -284,6 +295,11 @@ void Table::paintEvent(QPaintEvent* evenement) {
         peintre.fillRect(evenement->rect(), palette().window());
     if (par_dessus)
         par_dessus(peintre);
+}
+
+void Table::resizeEvent(QResizeEvent* evenement) {
+    QWidget::resizeEvent(evenement);
+    calculer_rectangles();
 }
 
 void Table::mouseReleaseEvent(QMouseEvent* evenement) {

@@ -34,10 +34,9 @@ private:
 };
 
 /// The drawing surface of the main window. The first painting is a straight one. From the second
-/// painting or the first run on, the table is kept in one picture, painted again only when its
-/// records, its size or the screen's density change, and the table with the robots in another one:
-/// a tick gives back the pixels that the robots left and draws them where they are; the screen gets
-/// those pixels alone.
+/// painting or the first run on, the table is kept in a picture, painted again only when its
+/// records, its size or the screen's density change: a tick repaints the rectangles that the robots
+/// leave and cover, from that picture, and the robots within them.
 class Table final : public QWidget {
 public:
     Table(Etat& etat, Fenetres& fenetres, QWidget* parent);
@@ -62,6 +61,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
     void mouseReleaseEvent(QMouseEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
 
@@ -71,35 +71,36 @@ private:
         std::uint32_t version = 0;
         int Echelle = 0;
         QSize taille; ///< device pixels
+        int XMax = 1, YMax = 1;
         bool operator==(const Cle&) const = default;
     };
-    static constexpr int rectangles_max = 16;
+    static constexpr std::size_t rectangles_max = 16;
 
     Cle cle() const;
     bool meme_table() const;
     bool peindre_fond();
-    void peindre_contours(QPainter& peintre);
     void noter_poses();
     struct PoseDessinee {
         int robot;
         float x, y, cap;
+        QRect rectangle; ///< pixels of its looks
     };
-    void peindre_silhouettes(QPainter& peintre, SurfaceQt& surface);
+    void peindre_silhouettes(const QRect& ici, QPainter& peintre, SurfaceQt& surface);
     void peindre_vite(const PoseDessinee& p, const Silhouette& silhouette, QPainter& peintre,
                       SurfaceQt& surface);
     void peindre_directement(QPainter& peintre);
-    void montrer_image(QPainter& peintre, const QRegion& region);
-    void peindre_robots();
-    void effacer_robots();
+    void montrer_fond(QPainter& peintre, const QRegion& region);
+    void peindre_robots(QPainter& peintre, const QRegion& region);
     void signaler_robots();
     void calculer_rectangles();
-    void ajouter_rectangle(const QRectF& boite);
+    QRect rectangle(const PoseDessinee& p, const Repere& r) const;
+    void ajouter_rectangle(QRect r);
+    Repere repere_dessine() const;
 
     Etat& e;
     Fenetres& f;
     bool peinte_ = false; ///< the straight painting was made
     QImage fond_;         ///< the table
-    QImage image_;        ///< the table and the robots
     Cle cle_dessinee_;    ///< of the table last drawn
     Contours contours_;
     bool lisibles_ = false;
@@ -107,6 +108,7 @@ private:
     std::vector<PoseDessinee> poses_; ///< of the outlines
     std::array<Silhouette, robots_des_fichiers + 1> silhouettes_;
     std::array<QImage, robots_des_fichiers + 1> numeros_; ///< pictures of the numbers
-    std::array<QRect, rectangles_max> rectangles_{};      ///< pixels that the robots cover
-    int nombre_rectangles_ = 0;
+    std::vector<QRect> rectangles_;        ///< pixels that the robots cover, apart from each other
+    std::vector<QRect> rectangles_traits_; ///< of the outlines' lines
+    std::vector<Trait> ici_;               ///< the lines within one rectangle
 };
