@@ -22,7 +22,7 @@ PAQUETS_PAQUET=(
 # Tests: second compiler, sanitizers, lint, and a small desktop for the end-to-end test.
 PAQUETS_TESTS=(
     at-spi2-core clang clang-format clang-tidy dbus gir1.2-atspi-2.0 libbenchmark-dev libclang-rt-14-dev
-    libgtest-dev openbox poppler-utils procps python3 python3-pyatspi shellcheck xauth xvfb
+    libgtest-dev openbox poppler-utils procps python3 python3-pyatspi shellcheck xvfb
 )
 
 dire() { printf '%s\n' "$*"; }

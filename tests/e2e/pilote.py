@@ -1,5 +1,6 @@
 """Drives a program as its user would, through the accessibility bus: by roles and visible names."""
 
+import difflib
 import os
 import re
 import subprocess
@@ -15,6 +16,7 @@ CONTROLES = {"push button", "check box", "radio button", "toggle button", "text"
 TABULATION, BAS = 0xFF09, 0xFF54  # symbols of keys
 CODES = {"Control_L": 37}  # of the virtual server's keyboard
 DELAI = 20.0  # seconds before a wait is given up
+pyatspi.Atspi.set_timeout(int(1000 * DELAI), int(1000 * DELAI))  # instead of 0.8 s for an answer
 
 
 def attendre(quoi, condition, delai=DELAI):
@@ -31,6 +33,15 @@ def attendre(quoi, condition, delai=DELAI):
         time.sleep(0.05)
 
 
+def comparer(dossier, attendus):
+    """Every expected file is in the folder, byte for byte; an AssertionError shows the lines that differ."""
+    for attendu in sorted(attendus.iterdir()):
+        voulu, ecrit = attendu.read_bytes(), (dossier / attendu.name).read_bytes()
+        lignes = difflib.unified_diff(*(octets.decode(errors="replace").splitlines(keepends=True)
+                                        for octets in (voulu, ecrit)), "attendu", "écrit", n=1)
+        assert voulu == ecrit, f"{attendu.name} :\n" + "".join(lignes)
+
+
 def dans_l_etat(a, etat):
     return a.getState().contains(etat)
 
@@ -43,6 +54,14 @@ def descendants(a):
     for enfant in a:
         yield enfant
         yield from descendants(enfant)
+
+
+def faire(objet, action):
+    actions = objet.queryAction()
+    noms = [actions.getName(i) for i in range(actions.nActions)]
+    rangs = [i for i, nom in enumerate(noms) if re.fullmatch(action, nom)]
+    assert rangs, f"« {objet.name} » ne sait faire que {noms}"
+    actions.doAction(rangs[0])
 
 
 class Programme:
@@ -84,28 +103,23 @@ class Programme:
 
     def agir(self, role, motif, action):
         """Does that object's first action that matches ("Press", "Toggle")."""
-        actions = self.objet(role, motif).queryAction()
-        noms = [actions.getName(i) for i in range(actions.nActions)]
-        rangs = [i for i, nom in enumerate(noms) if re.fullmatch(action, nom)]
-        assert rangs, f"« {motif} » ne sait faire que {noms}"
-        actions.doAction(rangs[0])
+        faire(self.objet(role, motif), action)
 
     def presser(self, motif):
         self.agir("push button", motif, "Press")
 
     def derouler(self, menu, choix):
-        """Opens a menu of the menu bar and chooses an entry."""
-        self.agir("menu item", menu, "(ShowMenu|Press)")
-        self.agir("menu item", choix, "Press")
+        """Chooses an entry of a menu of the menu bar, closed: an open one would take the keyboard."""
+        barre = self.objet("menu item", menu)
+        faire(next(e for e in descendants(barre) if re.search(choix, e.name)), "Press")
 
     def premier_plan(self, titre):
         """That window, once keys go to it: mouse and keyboard reach what the window manager put first."""
         return attendre(f"« {titre} » au premier plan", lambda: next(
             (f for f in self.racine if f.name == titre and dans_l_etat(f, pyatspi.STATE_ACTIVE)), None))
 
-    def cliquer_au_milieu(self, motif):
+    def cliquer(self, objet, clic="b1c"):
         """A click of the mouse in the middle of an object, once it no longer moves."""
-        objet = self.objet(".*", motif)
         lieu = objet.queryComponent
 
         def immobile():
@@ -113,10 +127,29 @@ class Programme:
             time.sleep(0.2)
             return avant if avant == lieu().getExtents(pyatspi.DESKTOP_COORDS) else None
 
-        place = attendre(f"« {motif} » immobile", immobile)
+        place = attendre(f"« {objet.name} » immobile", immobile)
         pyatspi.Registry.generateMouseEvent(place.x + place.width // 2,
-                                            place.y + place.height // 2, "b1c")
+                                            place.y + place.height // 2, clic)
+
+    def cliquer_au_milieu(self, motif):
+        objet = self.objet(".*", motif)
+        self.cliquer(objet)
         return objet
+
+    def choisir_au_menu(self, motif, choix):
+        """An entry of an object's context menu, which only announces itself on the bus."""
+        annonces = []
+        ecoute, genre = annonces.append, "object:state-changed:showing"
+        pyatspi.Registry.registerEventListener(ecoute, genre)
+        self.cliquer(self.objet(".*", motif), "b3c")
+
+        def entree():
+            gi.repository.GLib.MainContext.default().iteration(False)
+            return next((e for a in annonces if a.source.getRoleName() == "popup menu"
+                         for e in a.source if re.search(choix, e.name)), None)
+
+        self.cliquer(attendre(f"« {choix} » au menu", entree))
+        pyatspi.Registry.deregisterEventListener(ecoute, genre)
 
     def choisir(self, motif):
         """Clicks on an entry of a list and waits until it is selected."""
