@@ -12,6 +12,7 @@ namespace {
 
 constexpr PageManuel pages[] = {
     {"prise-en-main", "Prise en main", ""},
+    {"premier-match", "Un match complet, pas à pas", ""},
     {"fenetre-principale", "La fenêtre principale", " Sim1 "},
     {"verdict", "Le verdict du match", ""},
     {"analyse", "L'analyse du match", " Analyse "},

@@ -85,7 +85,8 @@ void dessinTrajet::connecter() {
     table_.au_conseil = [this](const QString& conseil) { statusBar()->showMessage(conseil); };
     connect(&cherche_, &QLineEdit::returnPressed, this, [this] { chercher(); });
     connect(&robot_, &QComboBox::activated, this, [this](int rang) { montrer_robot(rang + 1); });
-    connect(&generation_, &QCheckBox::clicked, this,
+    // Not "clicked": an assistive tool toggles without a click.
+    connect(&generation_, &QCheckBox::toggled, this,
             [this](bool oui) { QSettings().setValue(cle_de_generation(), oui); });
 }
 
@@ -128,6 +129,7 @@ void dessinTrajet::regler_projet() {
 
 void dessinTrajet::fichier_change() {
     robot_.setCurrentIndex(robot() - 1);
+    const QSignalBlocker lue_pas_choisie(generation_);
     generation_.setChecked(QSettings().value(cle_de_generation(), false).toBool());
     regler_projet();
 }
