@@ -16,3 +16,6 @@ std::string table_par_defaut();
 std::string robot_par_defaut(std::string_view projet, int n);
 /// Robots start 30 cm apart, 5 s after one another, and end in the same serpentine. @param n  1..9
 std::string trajet_par_defaut(std::string_view projet, int n);
+
+/// Readme.txt: what the files of the application directory are and how they are written.
+std::string texte_de_la_notice();

@@ -22,11 +22,15 @@ constexpr std::size_t taille_lisible = std::size_t{4} << 20;
 
 constexpr const char* nom_general = "Tavolmex.ini";
 
+bool est_libre(const fs::path& chemin) {
+    std::error_code erreur;
+    return fs::symlink_status(chemin, erreur).type() == fs::file_type::not_found;
+}
+
 /// Writes a default file unless something of that name is there.
 template <typename Contenu>
 void creer_si_absent(const fs::path& chemin, Contenu contenu) {
-    std::error_code erreur;
-    if (fs::symlink_status(chemin, erreur).type() != fs::file_type::not_found)
+    if (!est_libre(chemin))
         return;
     const std::string octets = contenu();
     try {
@@ -98,6 +102,14 @@ void Projet::Installe() {
             return trajet_par_defaut(etat_.NomProjet, n);
         });
     }
+}
+
+bool Projet::jamais_demarre() const {
+    return est_libre(chemin_general());
+}
+
+void Projet::deposer_notice() const {
+    creer_si_absent(dossier_ / "Readme.txt", texte_de_la_notice);
 }
 
 template <typename Lecteur>

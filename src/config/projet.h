@@ -34,6 +34,11 @@ public:
     /// Creates whichever of the present project's 20 files are missing, with the default content.
     /// Errors are ignored: the file's reader reports it.
     void Installe();
+    /// No settings are there yet: the program has never been started here.
+    bool jamais_demarre() const;
+    /// Writes Readme.txt into the application directory, unless it is there; says nothing when that
+    /// fails.
+    void deposer_notice() const;
     /// Reads the general settings into NomProjet and Options; installs a newly named project.
     void LoadGeneral();
     void LoadTable();

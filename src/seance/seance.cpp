@@ -40,7 +40,10 @@ bool Seance::etape(const std::function<void()>& procedure) {
 void Seance::lire_projet() {
     etat_.NomProjet = "Defaut";
     fenetres_.ecrire_LNom("\r\n\r\nArdanel Fichier de configuration par défaut");
+    const bool premier = projet_.jamais_demarre();
     projet_.Installe();
+    if (premier)
+        projet_.deposer_notice();
     projet_.LoadGeneral();
     annonces_.annoncer(&Ecouteur::projet_va_etre_lu);
     projet_.LoadTable();

@@ -79,6 +79,23 @@ protected:
     std::optional<Oreille> autre{std::in_place, f.appels, "autre"};
 };
 
+TEST_F(SeanceTest, seul_le_premier_demarrage_depose_la_notice) {
+    seance.projet().Installe();
+    EXPECT_FALSE(fs::exists(d / "Readme.txt")) << "its files, nothing else";
+    EXPECT_TRUE(seance.demarrer());
+    EXPECT_FALSE(fs::exists(d / "Readme.txt")) << "settings were there";
+
+    fs::remove(d / "Configuration/Tavolmex.ini");
+    EXPECT_TRUE(seance.demarrer());
+    EXPECT_TRUE(d.lire("Readme.txt").starts_with("TAVOLMEX"));
+
+    fs::remove(d / "Configuration/Tavolmex.ini");
+    d.ecrire("Readme.txt", "la mienne");
+    EXPECT_TRUE(seance.demarrer());
+    EXPECT_EQ(d.lire("Readme.txt"), "la mienne");
+    EXPECT_TRUE(f.messages.empty());
+}
+
 TEST_F(SeanceTest, le_demarrage_installe_lit_regle_puis_dessine) {
     ecrire("Tavolmex.ini", "Défaut, Essai\r\n");
     ecrire("Essai Table.ini", "M,Finale\r\nL,0,0,90,50\r\n");
