@@ -21,8 +21,11 @@ constexpr PageManuel pages[] = {
     {"editeurs", "Les éditeurs", " Foutil dessinTable dessinRobot nouveauProjet "},
     {"trajets", "L'éditeur de trajets", " dessinTrajet copieTrajet differenceTrajet "},
     {"generation", "La génération PICBASIC", " Dialog OuvGeneration Visualiser "},
-    {"fichiers", "Les fichiers de configuration", " Restauration "},
+    {"fichiers", "Les fichiers de configuration", ""},
     {"messages", "Messages et dépannage", " message question "},
+    {"sauvegardes", "Sauvegardes et pannes", " Restauration "},
+    {"raccourcis", "Les raccourcis clavier", ""},
+    {"limites", "Ce que la simulation ne montre pas", ""},
     {"ligne-de-commande", "La ligne de commande", ""},
 };
 
