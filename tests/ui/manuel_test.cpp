@@ -39,7 +39,7 @@ QString instruction(const QString& source, qsizetype debut) {
 QStringList phrases_dites(QString source) {
     static const QRegularExpression commentaire("//[^\n]*");
     static const QRegularExpression appel(
-        R"(\b(message|question|demander|refuser|Erreur[A-Z]\w*)\()");
+        R"(\b(message|question|demander|refuser|dire|showMessage|Erreur[A-Z]\w*)\()");
     static const QRegularExpression texte(R"re("(?:[^"\\\n]|\\.)*"(?:\s*"(?:[^"\\\n]|\\.)*")*)re");
     static const QRegularExpression couture(R"("\s*")");
     static const QRegularExpression variable(R"(\\[nrt"]|%\d)");
