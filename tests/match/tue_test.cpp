@@ -1,27 +1,11 @@
 // The program killed in the middle of what it writes.
 #include "outils/commande.h"
+#include "outils/coupure.h"
 #include "outils/pannes.h"
-
-#include <algorithm>
-#include <map>
 
 namespace {
 
 namespace fs = std::filesystem;
-
-using Fichiers = std::map<std::string, std::string>;
-
-// The user's files: not the copies, whose names carry the hour, nor what serves a recovery.
-Fichiers fichiers_de(const DossierTemporaire& d) {
-    Fichiers fichiers;
-    for (const auto& entree : fs::recursive_directory_iterator(d.chemin())) {
-        const std::string nom = fs::relative(entree.path(), d.chemin()).string();
-        if (entree.is_regular_file() && !contient(nom, "Sauvegardes") && !contient(nom, "Verrou") &&
-            !contient(nom, ".tavolmex-") && !contient(nom, "Reprise"))
-            fichiers[nom] = d.lire(nom);
-    }
-    return fichiers;
-}
 
 struct CasTue {
     std::vector<std::string> commande;
@@ -56,16 +40,7 @@ void jouer_le_cas(const DossierTemporaire& d, const CasTue& cas) {
 // as if nothing had happened.
 void verifier_apres(const DossierTemporaire& d, const CasTue& cas, const Fichiers& avant,
                     const Fichiers& apres) {
-    for (const auto& [nom, octets] : fichiers_de(d)) {
-        const auto ancien = avant.find(nom);
-        const auto nouveau = apres.find(nom);
-        EXPECT_TRUE((ancien != avant.end() && octets == ancien->second) ||
-                    (nouveau != apres.end() && octets == nouveau->second))
-            << nom << "\n"
-            << octets;
-    }
-    for (const auto& [nom, octets] : avant)
-        EXPECT_TRUE(fs::exists(d / nom)) << nom;
+    attendre_entiers(d, avant, apres);
     EXPECT_EQ(lancer({"verifier", "--dossier", d.chemin()}).code, 0);
     tuer_au_pas(1000000, [&] { jouer_le_cas(d, cas); });
     EXPECT_EQ(fichiers_de(d), apres);
