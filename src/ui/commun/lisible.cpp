@@ -1,17 +1,26 @@
 #include "ui/commun/lisible.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
 
-// Relative luminance of sRGB, 0 to 1.
+// The light of each value of a channel of sRGB, 0 to 1.
+std::array<double, 256> lumieres() {
+    std::array<double, 256> resultat{};
+    for (std::size_t i = 0; i < resultat.size(); ++i) {
+        const double v = static_cast<double>(i) / 255;
+        resultat[i] = v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+    }
+    return resultat;
+}
+
+// Relative luminance of sRGB, 0 to 1. A palette asks for it thousands of times.
 double clarte(const QColor& c) {
-    const auto lineaire = [](double v) {
-        return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * lineaire(c.redF()) + 0.7152 * lineaire(c.greenF()) +
-           0.0722 * lineaire(c.blueF());
+    static const std::array<double, 256> table = lumieres();
+    const auto lineaire = [](int canal) { return table[static_cast<std::size_t>(canal)]; };
+    return 0.2126 * lineaire(c.red()) + 0.7152 * lineaire(c.green()) + 0.0722 * lineaire(c.blue());
 }
 
 double pire_contraste(const QColor& encre, std::initializer_list<QColor> fonds) {

@@ -71,16 +71,18 @@ void Banniere::placer(const QRect& logo) {
     haut_du_texte_ = logo.height();
     setGeometry(logo);
     setFont({});
-    for (int taille = font().pointSize(); taille > plus_petite_police && !mots_entiers(); --taille)
+    QRect texte = place_du_texte();
+    for (int taille = font().pointSize();
+         taille > plus_petite_police && texte.width() > zone_du_texte().width(); --taille) {
         setFont(QFont(font().family(), taille - 1));
-    const QRect texte = fontMetrics().boundingRect(zone_du_texte(), drapeaux, text().trimmed());
+        texte = place_du_texte();
+    }
     resize(logo.width(), haut_du_texte_ + texte.height() + marge_banniere);
 }
 
-// No line break cuts a word that is wider than the card.
-bool Banniere::mots_entiers() const {
-    return fontMetrics().boundingRect(zone_du_texte(), drapeaux, text().trimmed()).width() <=
-           zone_du_texte().width();
+// Wider than its zone where a line break cannot but cut a word.
+QRect Banniere::place_du_texte() const {
+    return fontMetrics().boundingRect(zone_du_texte(), drapeaux, text().trimmed());
 }
 
 QRect Banniere::zone_du_texte() const {

@@ -42,7 +42,7 @@ protected:
 
 private:
     QRect zone_du_texte() const;
-    bool mots_entiers() const;
+    QRect place_du_texte() const;
     int haut_du_texte_ = 0;
     bool fantome_ = false;
 };
