@@ -215,12 +215,15 @@ void Reprise::restaurer(const Enregistrement& enregistrement) {
     tenu_ = chemin();
 }
 
-void Reprise::reprendre(Fenetres& f, const Enregistrement& enregistrement) {
-    garder_ou_prevenir(f);
+bool Reprise::reprendre(Fenetres& f, const Enregistrement& enregistrement) {
+    const bool rien_a_garder = (en_attente_ | robots_modifies(etat_)).none();
+    if (!rien_a_garder && !garder_ou_prevenir(f))
+        return false;
     etat_.TrajetModifie.remplir(false);
     en_attente_.reset();
     restaurer(enregistrement);
     ecrire_ou_prevenir(f);
+    return true;
 }
 
 void Reprise::mettre_de_cote(Fenetres& f, const fs::path& fichier,

@@ -66,7 +66,8 @@ public:
     /// The kept recordings of the present project, newest first; what cannot be read is left out.
     std::vector<EnregistrementGarde> gardes() const;
     /// Takes a recording up in place of what is recorded, which is kept.
-    void reprendre(Fenetres& f, const Enregistrement& enregistrement);
+    /// @returns false when it could not be kept, which is told: nothing changes
+    bool reprendre(Fenetres& f, const Enregistrement& enregistrement);
 
     /// The highest of the robots that are recorded and not saved; 0 when there is none.
     int dernier_robot() const;

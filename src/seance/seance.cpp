@@ -83,9 +83,8 @@ bool Seance::annoncer_reprise(bool reprise) {
     return reprise;
 }
 
-void Seance::reprendre(const Enregistrement& enregistrement) {
-    reprise_.reprendre(fenetres_, enregistrement);
-    annonces_.annoncer(&Ecouteur::trajet_change);
+bool Seance::reprendre(const Enregistrement& enregistrement) {
+    return annoncer_reprise(reprise_.reprendre(fenetres_, enregistrement));
 }
 
 void Seance::recharger() {

@@ -38,8 +38,9 @@ public:
     bool proposer_reprise();
     /// After loading a project: offers its own recording. @returns as above
     bool proposer_reprise_du_projet();
-    /// Takes up a recording that was kept, in place of what is recorded.
-    void reprendre(const Enregistrement& enregistrement);
+    /// Takes up a recording that was kept, in place of what is recorded. @returns false when that
+    /// would be lost: nothing changes
+    bool reprendre(const Enregistrement& enregistrement);
 
     /// Loads the present project's files in place of what is there.
     void recharger();

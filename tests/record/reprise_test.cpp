@@ -115,6 +115,10 @@ TEST(Reprise, ce_qui_est_abandonne_est_garde_et_plus_propose) {
     sans_place.reprise.abandonner(sans_place.f);
     EXPECT_EQ(sans_place.f.messages.size(), 1U);
     EXPECT_TRUE(std::filesystem::exists(sans_place.reprise.chemin()));
+    // What would be lost stays.
+    sans_place.jouer("Recule", "5");
+    EXPECT_FALSE(sans_place.reprise.reprendre(sans_place.f, {}));
+    EXPECT_TRUE(sans_place.e.TrajetModifie(1));
 }
 
 TEST(Reprise, un_fichier_abime_est_dit_et_mis_de_cote) {

@@ -38,6 +38,15 @@ protected:
     }
     void cliquer(const char* nom) { QTest::mouseClick(&trouver(nom), Qt::LeftButton); }
     void cocher(const char* nom, bool coche) { trouver<QCheckBox>(nom).setChecked(coche); }
+    // Nothing can be written any more, and no directory made.
+    void perdre_le_dossier() {
+        std::filesystem::rename(dossier / "Configuration", dossier / "partie");
+        dossier.ecrire("Configuration", "une clé débranchée");
+    }
+    void retrouver_le_dossier() {
+        std::filesystem::remove(dossier / "Configuration");
+        std::filesystem::rename(dossier / "partie", dossier / "Configuration");
+    }
     Seance& seance() { return sim->seance(); }
     Fenetres& fenetres() { return seance().fenetres(); }
     Etat& e() { return seance().etat(); }

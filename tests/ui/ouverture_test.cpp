@@ -1,6 +1,7 @@
 // What comes from outside: a project on the command line, a file that is dropped, errors to be
 // copied, keys.
 #include "ui/banc.h"
+#include "ui/editeurs/dessin_table.h"
 #include "ui/principale/projets_recents.h"
 
 #include <QClipboard>
@@ -29,6 +30,19 @@ protected:
         QApplication::sendEvent(&fenetre, &depot);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
     }
+    /// Draws in the table editor, on the file of another project.
+    dessinTable& dessiner() {
+        cliquer("dessinAire");
+        auto& table = trouver<dessinTable>("dessinTable");
+        table.ouvrir(dossier / "Configuration/Essai Table.ini");
+        trouver<QPlainTextEdit>("legende").setPlainText("Mon dessin");
+        return table;
+    }
+    void creer_un_projet() {
+        cliquer("dessinAire");
+        trouver<QLineEdit>("nomNouveauProjet").setText("Finale");
+        cliquer("creerProjet");
+    }
     QAction& action(const char* nom) { return *sim->findChild<QAction*>(nom); }
 };
 
@@ -46,6 +60,64 @@ TEST_F(Ouverture, un_fichier_depose_se_charge_ou_part_pour_le_generateur) {
     deposer(*sim, dossier.ecrire("notes.txt", ""));
     EXPECT_EQ(messages.size(), 2U);
     EXPECT_EQ(e().NomProjet, "Defaut");
+}
+
+// The recorded path cannot be written, and the user stays: whatever led there loads nothing.
+TEST_F(Ouverture, rester_reste_quel_que_soit_le_chemin) {
+    const std::pair<const char*, std::function<void()>> chemins[] = {
+        {"liste", [this] { cliquer("Command2"); }},
+        {"récents", [this] { options().charger("Essai"); }},
+        {"dépôt", [this] { deposer(*sim, dossier / "Configuration/Essai Table.ini"); }},
+        {"ligne de commande",
+         [this] { sim->ouvrir_fichier(dossier / "Configuration/Essai Table.ini"); }},
+        {"dessin enregistré", [this] { dessiner().enregistrer(); }},
+        {"création", [this] { creer_un_projet(); }}};
+    dialogues["Ouvrir"] = [](QDialog&) { ADD_FAILURE() << "the list"; };
+    for (const auto& [nom, charger] : chemins) {
+        SCOPED_TRACE(nom);
+        demarrer();
+        e().TrajetModifie(1) = true;
+        e().TrajNbActions(1) = 77;
+        bool perdu = false;
+        avant_de_repondre = [&](QDialog& boite) {
+            const QString texte = dynamic_cast<QMessageBox&>(boite).text();
+            reponses = {!texte.contains("autre dossier")};
+            if (!perdu && texte.startsWith("Vous avez modifié")) {
+                perdu = true;
+                perdre_le_dossier();
+            }
+        };
+        charger();
+        ASSERT_TRUE(perdu) << messages.back();
+        EXPECT_TRUE(contient(messages.back(), "dans un autre dossier ?")) << messages.back();
+        EXPECT_EQ(e().NomProjet, "Defaut");
+        EXPECT_TRUE(e().TrajetModifie(1));
+        EXPECT_EQ(e().TrajNbActions(1), 77);
+        retrouver_le_dossier();
+        sim.reset();
+    }
+}
+
+// Loading another project leaves every drawing with its file and its changes.
+TEST_F(Ouverture, un_dessin_en_cours_survit_a_un_chargement) {
+    dossier.ecrire("Configuration/Defaut Trajet1.ini", "Init,100,50,90\r\nAvance,10\r\nFIN\r\n");
+    demarrer();
+    dessinTable& table = dessiner();
+    action("menu_trajet").trigger();
+    auto& trajet = trouver<FenetreEditeur>("dessinTrajet");
+    trajet.findChild<QAction*>("demi_tour")->trigger();
+    const QString titre = trajet.windowTitle();
+    options().charger("Essai");
+    EXPECT_EQ(e().NomProjet, "Essai");
+    EXPECT_EQ(trouver<QPlainTextEdit>("legende").toPlainText(), "Mon dessin");
+    for (const FenetreEditeur* editeur : {static_cast<FenetreEditeur*>(&table), &trajet})
+        EXPECT_TRUE(editeur->isWindowModified());
+    EXPECT_EQ(trajet.windowTitle(), titre);
+    // The generation input goes with the trajectory's own project.
+    trajet.findChild<QAction*>("generation")->trigger();
+    QCoreApplication::sendPostedEvents(&trajet, QEvent::MetaCall);
+    EXPECT_TRUE(fs::exists(dossier / "Configuration/Defaut PourGenerer10.ini"));
+    EXPECT_FALSE(fs::exists(dossier / "Configuration/Essai PourGenerer10.ini"));
 }
 
 TEST_F(Ouverture, les_projets_recents_le_plus_neuf_d_abord) {

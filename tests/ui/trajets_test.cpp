@@ -19,15 +19,6 @@ protected:
         emit m.aboutToShow();
         return m;
     }
-    // Nothing can be written any more, and no directory made.
-    void perdre_le_dossier() {
-        std::filesystem::rename(dossier / "Configuration", dossier / "partie");
-        dossier.ecrire("Configuration", "une clé débranchée");
-    }
-    void retrouver_le_dossier() {
-        std::filesystem::remove(dossier / "Configuration");
-        std::filesystem::rename(dossier / "partie", dossier / "Configuration");
-    }
 };
 
 // As seen from above the robot: ahead is up, left is left.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 /// What one window of the program may ask of the others, and of the program's end. The main window
 /// answers.
 class Bureau {
@@ -13,6 +15,9 @@ public:
     /// Opens the editor on a robot's trajectory, at its action `numero` (0: none in particular).
     virtual void modifier_le_trajet(int robot, int numero) = 0;
 
+    /// Loads that project, whatever would be lost offered for saving before. @returns false when
+    /// the user stays with the present one
+    virtual bool charger_projet(const std::string& projet) = 0;
     /// Loads the project that the user has just chosen, and offers its unsaved recording.
     virtual void charger_projet_choisi() = 0;
     /// At least so many robots, 1..9.

@@ -211,8 +211,8 @@ void Télécommande::ajouter_les_gardes() {
             nom +=
                 QString(", robot %1 (%2 actions)").arg(int{robot.numero}).arg(robot.actions.size());
         connect(menu_reprendre_.addAction(nom), &QAction::triggered, this, [this, g] {
-            seance_.reprendre(g.contenu);
-            bureau_.continuer_enregistrement();
+            if (seance_.reprendre(g.contenu))
+                bureau_.continuer_enregistrement();
         });
     }
 }

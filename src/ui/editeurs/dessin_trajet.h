@@ -82,7 +82,7 @@ private:
     DocumentTrajet copie_de(const Copie& c) const;
     Ensemble composer(const Copie& c) const;
     void ecrire_la_copie(const Copie& c);
-    void preparer_la_generation(const DocumentTrajet& trajet, int robot);
+    void preparer_la_generation(const std::string& projet, const DocumentTrajet& trajet, int robot);
     void ecrire_a_cote(const std::filesystem::path& chemin, const std::string& octets);
 
     Seance& seance_;

@@ -1,6 +1,7 @@
 // What the trajectory editor writes beside its own file: the generation input, another robot's
 // trajectory, subroutines of the team's program.
 #include "base/fichiers.h"
+#include "config/nom_projet.h"
 #include "record/preparation.h"
 #include "ui/commun/cle_de_projet.h"
 #include "ui/editeurs/copie_trajet.h"
@@ -24,7 +25,7 @@ void exiger_un_programme(const std::filesystem::path& fichier) {
 
 void dessinTrajet::apres_ecriture() {
     if (generation_.isChecked() && !projet().empty())
-        preparer_la_generation(historique_.doc(), robot());
+        preparer_la_generation(projet(), historique_.doc(), robot());
 }
 
 void dessinTrajet::ecrire_a_cote(const std::filesystem::path& fichier, const std::string& octets) {
@@ -34,9 +35,11 @@ void dessinTrajet::ecrire_a_cote(const std::filesystem::path& fichier, const std
     statusBar()->showMessage("Enregistré : " + texte_qt(fichier.filename().string()), 5000);
 }
 
-void dessinTrajet::preparer_la_generation(const DocumentTrajet& trajet, int robot) {
+void dessinTrajet::preparer_la_generation(const std::string& projet, const DocumentTrajet& trajet,
+                                          int robot) {
     try {
-        const auto fichier = seance_.projet().chemin(suite_de_l_entree);
+        const auto fichier =
+            fichier_de_projet(programme().configuration, projet, suite_de_l_entree);
         const GenerationPreparee generation = preparer_entree(seance_.etat(), robot, trajet);
         ecrire_a_cote(fichier, generation.texte);
         if (generation.hors_du_match)
@@ -126,7 +129,7 @@ void dessinTrajet::ecrire_la_copie(const Copie& c) {
     const std::optional<Ensemble> code = c.fonctions ? std::optional(composer(c)) : std::nullopt;
     ecrire_a_cote(seance_.projet().chemin_trajet(c.vers), octets);
     if (c.generation)
-        preparer_la_generation(copie, c.vers);
+        preparer_la_generation(seance_.etat().NomProjet, copie, c.vers);
     if (code)
         ecrire_a_cote(c.programme, code->octets);
     proposer_de_charger();

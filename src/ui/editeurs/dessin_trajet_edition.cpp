@@ -63,7 +63,11 @@ void dessinTrajet::preparer_trajet() {
         [this] { copier_vers_un_robot(); }, Qt::QueuedConnection);
     action(
         menu, "generation", "Préparer l'&entrée du générateur", QKeySequence("Ctrl+E"),
-        [this] { preparer_la_generation(historique_.doc(), robot()); }, Qt::QueuedConnection);
+        [this] {
+            preparer_la_generation(projet().empty() ? seance_.etat().NomProjet : projet(),
+                                   historique_.doc(), robot());
+        },
+        Qt::QueuedConnection);
     menu.addSeparator();
     action(
         menu, "comparer", "C&omparer...", QKeySequence("Ctrl+K"), [this] { comparer(); },

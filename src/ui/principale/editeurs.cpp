@@ -13,13 +13,6 @@
 
 namespace {
 
-/// What "Charger" does once a project is chosen.
-void charger_projet(Seance& seance, Bureau& bureau, const std::string& projet) {
-    seance.SauvRobot();
-    seance.etat().NomProjet = projet;
-    bureau.charger_projet_choisi();
-}
-
 /// The loaded project's own file was saved: nothing is asked where nothing can be lost.
 bool relire(Seance& seance, const std::string& projet) {
     if (projet != seance.etat().NomProjet || seance.en_marche() || seance.trajet_non_sauve())
@@ -31,7 +24,7 @@ bool relire(Seance& seance, const std::string& projet) {
 FenetreEditeur::Programme programme(Seance& seance, Bureau& bureau) {
     return {seance.projet().dossier_configuration(),
             [&](const std::string& projet) {
-                garde(seance.fenetres(), [&] { charger_projet(seance, bureau, projet); });
+                garde(seance.fenetres(), [&] { bureau.charger_projet(projet); });
             },
             [&](const std::filesystem::path& fichier) {
                 seance.annonces().annoncer(&Ecouteur::fichier_ecrit, fichier);
@@ -116,12 +109,11 @@ void Editeurs::creer(const PremierePage::Demande& demande) {
     const std::filesystem::path dossier = seance_.projet().dossier_configuration();
     creer_projet(dossier, demande.nom, demande.fichiers);
     premiere_page_.hide();
-    robot_.ouvrir_nouveau(chemin_de_projet(dossier, demande.nom, " Robot1.ini"));
+    robot_.ouvrir_nouveau(chemin_de_projet(dossier, demande.nom, suite_robot(1)));
     table_.ouvrir_nouveau(chemin_de_projet(dossier, demande.nom, suite_table));
     if (!seance_.fenetres().question("Doit-on charger le projet " + demande.nom + " maintenant ?"))
         return;
-    charger_projet(seance_, bureau_, demande.nom);
-    if (demande.exemple)
+    if (bureau_.charger_projet(demande.nom) && demande.exemple)
         bureau_.montrer_robots(2);
 }
 

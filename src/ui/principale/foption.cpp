@@ -149,13 +149,14 @@ void FOption::Command2_Click() {
         bureau_.charger_projet_choisi();
 }
 
-void FOption::charger(const std::string& projet) {
+bool FOption::charger(const std::string& projet) {
     exiger_projet_possible(projet);
     if (!seance_.SauvRobot() || seance_.terminee())
-        return;
+        return false;
     seance_.etat().NomProjet = projet;
     SaveGeneral();
     bureau_.charger_projet_choisi();
+    return true;
 }
 
 void FOption::remplir_recents(QMenu& menu) {

@@ -57,8 +57,8 @@ public:
     /// "Charger": offers to save what was recorded, lets the user choose a project, loads it.
     void Command2_Click();
     void Command4_Click();
-    /// Loads a project that was chosen without the list.
-    void charger(const std::string& projet);
+    /// Loads a project that was chosen without the list. @returns false when the user stays
+    bool charger(const std::string& projet);
     void remplir_recents(QMenu& menu);
     /// Space starts and stops where no control uses it. @returns whether the key was that one
     bool espace(const QKeyEvent& touche);

@@ -93,6 +93,7 @@ private:
     void cacher_options_et_console() override;
     void montrer_restauration() override;
     void modifier_le_trajet(int robot, int numero) override;
+    bool charger_projet(const std::string& projet) override { return options_.charger(projet); }
     void charger_projet_choisi() override;
     void montrer_robots(int nombre) override;
     void continuer_enregistrement() override;
