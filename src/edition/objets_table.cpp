@@ -16,34 +16,6 @@ std::vector<Fiche> objets_de(const DocumentTable& table, const Choix& choix) {
     return objets;
 }
 
-Bornes bornes_de_tous(const std::vector<Fiche>& objets) {
-    Bornes tout = formes::bornes(objets.front());
-    for (const Fiche& f : objets) {
-        const Bornes b = formes::bornes(f);
-        tout = {std::min(tout.gauche, b.gauche), std::min(tout.bas, b.bas),
-                std::max(tout.droite, b.droite), std::max(tout.haut, b.haut)};
-    }
-    return tout;
-}
-
-Vecteur vers_le_bord(const Bornes& b, const Bornes& tout, Bord bord) {
-    switch (bord) {
-    case Bord::gauche:
-        return {tout.gauche - b.gauche, 0};
-    case Bord::droite:
-        return {tout.droite - b.droite, 0};
-    case Bord::haut:
-        return {0, tout.haut - b.haut};
-    case Bord::bas:
-        return {0, tout.bas - b.bas};
-    case Bord::milieu_x:
-        return {tout.milieu().x - b.milieu().x, 0};
-    case Bord::milieu_y:
-        break;
-    }
-    return {0, tout.milieu().y - b.milieu().y};
-}
-
 bool presente(const DocumentTable& table, const Fiche& f) {
     for (std::size_t i = 0; i < table.nombre(); ++i)
         if (table[i] == f)
@@ -129,19 +101,6 @@ bool deplacer(DocumentTable& table, const Choix& choix, Vecteur ecart) {
     for (const std::size_t i : choix)
         table.remplacer(i, formes::deplacee(table[i], ecart.x, ecart.y));
     return true;
-}
-
-void aligner(DocumentTable& table, const Choix& choix, Bord bord) {
-    if (choix.size() < 2)
-        throw ErreurExecution("Choisissez au moins deux objets à aligner");
-    const std::vector<Fiche> objets = objets_de(table, choix);
-    for (const std::size_t i : choix) {
-        if (table[i].cle == "M")
-            continue;
-        const Vecteur ecart = formes::deplacement_permis(
-            {table[i]}, vers_le_bord(formes::bornes(table[i]), bornes_de_tous(objets), bord));
-        table.remplacer(i, formes::deplacee(table[i], ecart.x, ecart.y));
-    }
 }
 
 bool redimensionner(DocumentTable& table, std::size_t i, std::size_t poignee, Vecteur cm) {

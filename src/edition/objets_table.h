@@ -11,8 +11,6 @@
 // What the table editor does to a table. Undoing is keeping the document from before: it is a
 // value. A caption among the chosen records stays as it is.
 
-enum class Bord { gauche, droite, haut, bas, milieu_x, milieu_y };
-
 /// All but captions; without the zones when those are locked.
 Choix objets(const DocumentTable& table, bool sans_zones);
 /// Those of them that lie in a frame.
@@ -34,9 +32,6 @@ std::string copier(const DocumentTable& table, const Choix& choix);
 Choix coller(DocumentTable& table, std::string_view lignes, double ecart);
 /// Moves records together, as far as the table's file can say. @returns false when that is nowhere
 bool deplacer(DocumentTable& table, const Choix& choix, Vecteur ecart);
-/// Moves each to an edge, or the middle, of the box around all of them.
-/// @throws ErreurExecution, a sentence for the user, for fewer than two
-void aligner(DocumentTable& table, const Choix& choix, Bord bord);
 /// Pulls a record by one of its handles. @returns false, the table as it was, when nothing would be
 /// left of it
 bool redimensionner(DocumentTable& table, std::size_t i, std::size_t poignee, Vecteur cm);

@@ -1,4 +1,5 @@
 // What the editors do to a table and a robot, without a window.
+#include "edition/alignement.h"
 #include "edition/mesures.h"
 #include "edition/objets_table.h"
 #include "edition/outils.h"
@@ -216,6 +217,11 @@ TEST(SegmentsRobot, chaque_geste_change_les_segments_choisis) {
              deplacer(d, {0, 1, 3}, {2, -3});
          },
          "A,10,5,8\nR , 2, -3, 6, -3\nR,16,0,20,0\nE,1,2,3\n"},
+        {[](auto& d) {
+             aligner(d, {1, 2}, Bord::milieu_x);
+             EXPECT_THROW(aligner(d, {1}, Bord::bas), ErreurExecution);
+         },
+         "A,10,5,8\nR , 8, 0, 12, 0\nR , 8, 0, 12, 0\nE,1,2,3\n"},
         {[](auto& d) { EXPECT_EQ(dupliquer(d, {1}, 5), Choix{3}); },
          "A,10,5,8\nR,0,0,4,0\nR,16,0,20,0\nR , 5, 5, 9, 5\nE,1,2,3\n"},
         // Each is the other's image already, written from its other end.

@@ -117,6 +117,22 @@ TEST_F(EditeurRobot, la_palette_suit_l_editeur_que_l_on_reprend) {
     EXPECT_TRUE(editeur().isActiveWindow()) << "no window takes the place back";
 }
 
+TEST_F(EditeurRobot, le_bouton_droit_propose_d_aligner_plusieurs_segments) {
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, en(10, 0), vue().mapToGlobal(en(10, 0)));
+    QApplication::sendEvent(&vue(), &menu);
+    auto& contextuel = *editeur().findChild<QMenu*>("contextuel");
+    ASSERT_TRUE(contextuel.isVisible());
+    EXPECT_TRUE(contextuel.actions().contains(editeur().findChild<QAction*>("aligner")));
+    contextuel.close();
+    messages.clear();
+    commande("aligner_droite");
+    EXPECT_EQ(messages.size(), 1U) << "one alone";
+    commande("tout");
+    commande("aligner_droite");
+    EXPECT_EQ(doc()[4].v, (std::array<float, 4>{20, 0, 20, 34}));
+    EXPECT_EQ(trouver<QDoubleSpinBox>("X2").value(), 20) << "common to both";
+}
+
 TEST_F(EditeurRobot, miroir_copies_et_capacite) {
     commande("miroir"); // the one on the axis's other side already exists
     EXPECT_EQ(doc().compter({"R"}), 3);

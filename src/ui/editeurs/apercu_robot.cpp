@@ -24,7 +24,7 @@ ApercuRobot::ApercuRobot(QWidget* parent)
     setAccessibleName("Position initiale du robot sur la table");
     setToolTip("Tirer le robot change sa position initiale, tirer la flèche son cap (Alt ou Ctrl : "
                "au centimètre, au degré).");
-    setMinimumSize(160, 180);
+    setMinimumSize(160, 140);
     regler_grille(5);
     e_->XMax = 200;
     e_->YMax = 320;

@@ -7,6 +7,7 @@
 #include "ui/editeurs/foutil.h"
 
 #include <QMenu>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -88,8 +89,11 @@ dessinRobot::dessinRobot(QWidget* parent, Foutil& outils, Programme programme)
     preparer_presse_papiers();
     action(menu_edition(), "miroir", "Copie en &miroir", QKeySequence("Ctrl+M"),
            [this] { miroir(); });
+    preparer_alignement();
+    preparer_menu_contextuel({"couper", "copier", "coller", "dupliquer", "supprimer", "", "miroir",
+                              "aligner", "", "tout"});
     preparer_barre({"annuler", "retablir", "", "zoom_plus", "zoom_moins", "ajuster", "", "grille",
-                    "accrocher"});
+                    "accrocher", "", "aligner"});
 }
 
 void dessinRobot::placer() {
@@ -118,7 +122,12 @@ void dessinRobot::placer() {
     auto* en_haut = new QVBoxLayout(mesures);
     en_haut->addWidget(&reglages_);
     en_haut->addStretch(1);
-    onglets->addTab(mesures, "&Mesures");
+    auto* defile = new QScrollArea; // on a low screen
+    defile->setFrameShape(QFrame::NoFrame);
+    defile->setFocusPolicy(Qt::NoFocus);
+    defile->setWidgetResizable(true);
+    defile->setWidget(mesures);
+    onglets->addTab(defile, "&Mesures");
     onglets->addTab(depart, "&Départ");
     assembler({historique_, vue_, *onglets, {600, 280}});
 }
@@ -178,7 +187,7 @@ void dessinRobot::fichier_change() {
     init_.reset();
     const std::string nom = chemin().stem().string();
     if (const std::string projet = projet_du_nom(nom, GenreFichier::robot); !projet.empty()) {
-        trajet_ = texte_qt(projet + " Trajet" + nom.back() + ".ini");
+        trajet_ = texte_qt(nom_de_fichier(projet, suite_trajet(nom.back() - '0')));
         init_ = pose_du_trajet(trouver_fichier(chemin().parent_path(), trajet_.toStdString()));
     }
     montrer_avis_init();
@@ -275,6 +284,13 @@ void dessinRobot::deplacer(double dx, double dy) {
     ::deplacer(d, s, {dx, dy});
     if (!s.empty())
         historique_.changer("Déplacer", std::move(d), s, fusion_des_pas);
+}
+
+void dessinRobot::aligner(Bord bord) {
+    DocumentRobot d = historique_.doc();
+    const Selection s = segments_choisis();
+    ::aligner(d, s, bord);
+    historique_.changer("Aligner", std::move(d), s);
 }
 
 void dessinRobot::changer_segment(std::size_t champ, double valeur) {

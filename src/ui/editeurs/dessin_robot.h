@@ -32,6 +32,7 @@ protected:
     void dupliquer() override;
     void tout_choisir() override;
     void deplacer(double dx, double dy) override;
+    void aligner(Bord bord) override;
     std::string copier() const override;
     void coller(const std::string& lignes) override;
 

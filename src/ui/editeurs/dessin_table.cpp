@@ -131,24 +131,6 @@ void dessinTable::preparer_edition() {
     connect(verrou, &QAction::toggled, this, [this](bool oui) { verrouiller_les_zones(oui); });
 }
 
-void dessinTable::preparer_alignement() {
-    QMenu& m = *menu_edition().addMenu("A&ligner");
-    m.menuAction()->setObjectName("aligner");
-    m.setIcon(icone_commande("aligner"));
-    struct Commande {
-        const char *nom, *texte;
-        Bord bord;
-    };
-    for (const Commande& c :
-         {Commande{"aligner_gauche", "À &gauche", Bord::gauche},
-          Commande{"aligner_droite", "À &droite", Bord::droite},
-          Commande{"aligner_haut", "En &haut", Bord::haut},
-          Commande{"aligner_bas", "En &bas", Bord::bas},
-          Commande{"aligner_milieu_x", "Sur la même &verticale", Bord::milieu_x},
-          Commande{"aligner_milieu_y", "Sur la même h&orizontale", Bord::milieu_y}})
-        action(m, c.nom, c.texte, {}, [this, bord = c.bord] { aligner(bord); });
-}
-
 // Some of what the reader accepts stops the drawing: an ellipse without width, a border beyond 16
 // bits.
 std::optional<RefusLecture> dessinTable::relire(const std::string& octets) const {

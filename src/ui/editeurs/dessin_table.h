@@ -28,6 +28,7 @@ protected:
     void dupliquer() override;
     void tout_choisir() override;
     void deplacer(double dx, double dy) override;
+    void aligner(Bord bord) override;
     std::string copier() const override;
     void coller(const std::string& lignes) override;
 
@@ -35,7 +36,6 @@ private:
     void placer();
     void connecter();
     void preparer_edition();
-    void preparer_alignement();
     void rafraichir();
     void montrer_proprietes();
     void montrer_coins();
@@ -45,7 +45,6 @@ private:
     void refuser(const std::string& raison);
 
     void changer_plan(bool vers_l_avant);
-    void aligner(Bord bord);
     void changer_nombre(std::size_t champ, double valeur);
     void changer_sorte(const std::string& cle);
     void changer_legende();

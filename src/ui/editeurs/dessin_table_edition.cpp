@@ -56,11 +56,7 @@ void dessinTable::changer_plan(bool vers_l_avant) {
 
 void dessinTable::aligner(Bord bord) {
     DocumentTable d = historique_.doc();
-    try {
-        ::aligner(d, historique_.selection(), bord);
-    } catch (const ErreurExecution& erreur) {
-        return refuser(erreur.what());
-    }
+    ::aligner(d, historique_.selection(), bord);
     historique_.changer("Aligner", std::move(d), historique_.selection());
 }
 

@@ -2,6 +2,7 @@
 
 #include "config/document_table.h"
 #include "config/reprise_dessin.h"
+#include "edition/alignement.h"
 #include "ui/commun/boites.h"
 #include "ui/commun/historique.h"
 #include "ui/commun/veilleur.h"
@@ -102,6 +103,7 @@ protected:
     virtual void dupliquer() = 0;
     virtual void tout_choisir() = 0;
     virtual void deplacer(double dx, double dy) = 0; ///< cm
+    virtual void aligner(Bord) {}
     /// What is chosen as lines of the file, for the clipboard.
     virtual std::string copier() const = 0;
     virtual void coller(const std::string& lignes) = 0;
@@ -112,6 +114,7 @@ protected:
     /// The commands of these names in a toolbar; "" parts them.
     void preparer_barre(std::initializer_list<const char*> noms);
     void preparer_presse_papiers();
+    void preparer_alignement();
     /// The commands of these names for the right button; "" parts them.
     void preparer_menu_contextuel(std::initializer_list<const char*> noms);
     void montrer_menu_contextuel(QPoint ecran) { contextuel_.popup(ecran); }

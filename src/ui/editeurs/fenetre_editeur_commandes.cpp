@@ -168,6 +168,24 @@ void FenetreEditeur::preparer_presse_papiers() {
     m.addSeparator();
 }
 
+void FenetreEditeur::preparer_alignement() {
+    QMenu& m = *menu_edition_->addMenu("A&ligner");
+    m.menuAction()->setObjectName("aligner");
+    m.setIcon(icone_commande("aligner"));
+    struct Commande {
+        const char *nom, *texte;
+        Bord bord;
+    };
+    for (const Commande& c :
+         {Commande{"aligner_gauche", "À &gauche", Bord::gauche},
+          Commande{"aligner_droite", "À &droite", Bord::droite},
+          Commande{"aligner_haut", "En &haut", Bord::haut},
+          Commande{"aligner_bas", "En &bas", Bord::bas},
+          Commande{"aligner_milieu_x", "Sur la même &verticale", Bord::milieu_x},
+          Commande{"aligner_milieu_y", "Sur la même h&orizontale", Bord::milieu_y}})
+        action(m, c.nom, c.texte, {}, [this, bord = c.bord] { aligner(bord); });
+}
+
 QAction* FenetreEditeur::commande_ou_trait(const QString& nom) {
     if (!nom.isEmpty())
         return findChild<QAction*>(nom);
