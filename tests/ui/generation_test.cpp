@@ -132,6 +132,10 @@ TEST_F(FenetreGeneration, du_choix_des_fichiers_au_code_que_l_on_regarde) {
     EXPECT_EQ(LFonc.currentRow(), 2);
     visualiser.findChild<QPushButton*>("retour")->click();
     EXPECT_EQ(LFonc.currentRow(), 0);
+    Visu.setTextCursor(QTextCursor(Visu.document()->findBlockByNumber(2))); // by keys
+    QTest::keyClick(&Visu, Qt::Key_Return);
+    EXPECT_EQ(LFonc.currentRow(), 2);
+    visualiser.findChild<QPushButton*>("retour")->click();
     // The file is read again when another program replaces it.
     dossier.ecrire("Configuration/neuf", "PRINCIPAL:\r\n\tReturn\r\n");
     std::filesystem::rename(dossier / "Configuration/neuf", cible());

@@ -85,10 +85,10 @@ TEST(Lisible, l_application_a_une_palette_lisible) {
 
 template <typename Coloration>
 void verifier_couleurs(const char* nom, const QPalette& p, const QString& texte) {
-    QTextDocument document(texte);
-    Coloration coloration(&document, p);
-    coloration.rehighlight();
-    for (QTextBlock bloc = document.begin(); bloc.isValid(); bloc = bloc.next())
+    QPlainTextEdit vue(texte);
+    const Coloration coloration(vue);
+    vue.setPalette(p); // while it is shown
+    for (QTextBlock bloc = vue.document()->begin(); bloc.isValid(); bloc = bloc.next())
         for (const QTextLayout::FormatRange& partie : bloc.layout()->formats()) {
             const QTextCharFormat& f = partie.format;
             const QColor fond = f.hasProperty(QTextFormat::BackgroundBrush)

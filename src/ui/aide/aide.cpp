@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTextBlock>
@@ -107,7 +108,7 @@ void Aide::aller(int page) {
 }
 
 void Aide::page_changee(const QUrl& adresse) {
-    habiller(*page_.document(), page_);
+    habiller(*page_.document(), *this);
     int rang = 0;
     for (const PageManuel& page : pages_du_manuel()) {
         if (adresse_de(page) == adresse)
@@ -162,6 +163,17 @@ void Aide::keyPressEvent(QKeyEvent* evenement) {
         close();
     else
         QWidget::keyPressEvent(evenement);
+}
+
+// A page has the colours that it was read with.
+void Aide::changeEvent(QEvent* evenement) {
+    QWidget::changeEvent(evenement);
+    if (evenement->type() != QEvent::PaletteChange || page_.source().isEmpty())
+        return;
+    const int ou = page_.verticalScrollBar()->value();
+    page_.reload();
+    page_changee(page_.source());
+    page_.verticalScrollBar()->setValue(ou);
 }
 
 ServiceAide::ServiceAide(QWidget& principale) : principale_(principale) {

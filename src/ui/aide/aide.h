@@ -17,6 +17,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
 
 private:
     void nommer();

@@ -32,12 +32,27 @@ QTextCharFormat couleur(const QPalette& palette, const char* clair, const char* 
 
 } // namespace
 
-ColorationPicbasic::ColorationPicbasic(QTextDocument* document, const QPalette& palette)
-    : QSyntaxHighlighter(document),
-      commentaire_(couleur(palette, "#3c7a3c", "#8fce8f")),
-      etiquette_(couleur(palette, "#8a2be2", "#d3a6ff")),
-      mot_(couleur(palette, "#0047ab", "#7fb8ff")),
-      nombre_(couleur(palette, "#b34700", "#ffb070")) {
+Coloration::Coloration(QPlainTextEdit& vue) : QSyntaxHighlighter(vue.document()) {
+    vue.installEventFilter(this);
+}
+
+bool Coloration::eventFilter(QObject* vue, QEvent* evenement) {
+    if (evenement->type() == QEvent::PaletteChange) {
+        choisir_les_couleurs(static_cast<QWidget*>(vue)->palette());
+        rehighlight();
+    }
+    return false;
+}
+
+ColorationPicbasic::ColorationPicbasic(QPlainTextEdit& vue) : Coloration(vue) {
+    choisir_les_couleurs(vue.palette());
+}
+
+void ColorationPicbasic::choisir_les_couleurs(const QPalette& palette) {
+    commentaire_ = couleur(palette, "#3c7a3c", "#8fce8f");
+    etiquette_ = couleur(palette, "#8a2be2", "#d3a6ff");
+    mot_ = couleur(palette, "#0047ab", "#7fb8ff");
+    nombre_ = couleur(palette, "#b34700", "#ffb070");
     etiquette_.setFontWeight(QFont::Bold);
     mot_.setFontWeight(QFont::DemiBold);
 }
@@ -66,8 +81,11 @@ void ColorationPicbasic::highlightBlock(const QString& texte) {
     setFormat(int(avant), int(texte.size() - avant), commentaire_);
 }
 
-ColorationDifference::ColorationDifference(QTextDocument* document, const QPalette& palette)
-    : QSyntaxHighlighter(document) {
+ColorationDifference::ColorationDifference(QPlainTextEdit& vue) : Coloration(vue) {
+    choisir_les_couleurs(vue.palette());
+}
+
+void ColorationDifference::choisir_les_couleurs(const QPalette& palette) {
     const bool sombre = est_sombre(palette);
     ajoute_.setForeground(QColor(sombre ? "#a5e6a5" : "#0b5d1e"));
     ajoute_.setBackground(QColor(sombre ? "#16361b" : "#e3f6e5"));
@@ -137,7 +155,17 @@ void VueCode::peindre_numeros(QPaintEvent* evenement) {
 
 void VueCode::mouseDoubleClickEvent(QMouseEvent* evenement) {
     QPlainTextEdit::mouseDoubleClickEvent(evenement);
-    const QTextCursor ici = cursorForPosition(evenement->pos());
+    suivre(cursorForPosition(evenement->pos()));
+}
+
+void VueCode::keyPressEvent(QKeyEvent* evenement) {
+    if (evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter)
+        suivre(textCursor());
+    else
+        QPlainTextEdit::keyPressEvent(evenement);
+}
+
+void VueCode::suivre(const QTextCursor& ici) const {
     if (au_double_clic)
         au_double_clic(ici.block().text(), ici.positionInBlock());
 }

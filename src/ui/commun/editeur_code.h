@@ -7,29 +7,39 @@
 
 #include <functional>
 
-/// Colours PICBASIC: comments, labels, jumps and tests, numbers. Follows the palette's lightness.
-class ColorationPicbasic final : public QSyntaxHighlighter {
+/// Colours a view's text by the view's palette, a new one at once.
+class Coloration : public QSyntaxHighlighter {
+protected:
+    explicit Coloration(QPlainTextEdit& vue);
+    virtual void choisir_les_couleurs(const QPalette& palette) = 0;
+    bool eventFilter(QObject* vue, QEvent* evenement) override;
+};
+
+/// Colours PICBASIC: comments, labels, jumps and tests, numbers.
+class ColorationPicbasic final : public Coloration {
 public:
-    ColorationPicbasic(QTextDocument* document, const QPalette& palette);
+    explicit ColorationPicbasic(QPlainTextEdit& vue);
 
 protected:
     void highlightBlock(const QString& texte) override;
 
 private:
+    void choisir_les_couleurs(const QPalette& palette) override;
     void colorer(const QString& texte, const QRegularExpression& motif,
                  const QTextCharFormat& format);
     QTextCharFormat commentaire_, etiquette_, mot_, nombre_;
 };
 
 /// Colours a difference by the first character of its lines: green for "+", red for "-".
-class ColorationDifference final : public QSyntaxHighlighter {
+class ColorationDifference final : public Coloration {
 public:
-    ColorationDifference(QTextDocument* document, const QPalette& palette);
+    explicit ColorationDifference(QPlainTextEdit& vue);
 
 protected:
     void highlightBlock(const QString& texte) override;
 
 private:
+    void choisir_les_couleurs(const QPalette& palette) override;
     QTextCharFormat ajoute_, retire_, coupe_;
 };
 
@@ -39,7 +49,8 @@ public:
     VueCode();
     /// @param premiere  line number of the first block; a block numbered below 1 has none
     void montrer(const QString& texte, int premiere);
-    /// Called with the line under a double click and the character's place in it.
+    /// Called with the line under a double click, or the cursor's on Enter, and the character's
+    /// place in it.
     std::function<void(const QString& ligne, int colonne)> au_double_clic;
     void peindre_numeros(QPaintEvent* evenement);
     int largeur_numeros() const;
@@ -47,8 +58,10 @@ public:
 protected:
     void resizeEvent(QResizeEvent* evenement) override;
     void mouseDoubleClickEvent(QMouseEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
 
 private:
+    void suivre(const QTextCursor& ici) const;
     void placer_marge();
     QWidget* marge_;
     int premiere_ = 1;

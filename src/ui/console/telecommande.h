@@ -52,6 +52,7 @@ protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
     void showEvent(QShowEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
 
 private:
     static constexpr std::size_t nb_actions = actions::boutons.size();

@@ -8,6 +8,8 @@
 #include "ui/commun/boites.h"
 #include "ui/commun/lisible.h"
 
+#include <QEvent>
+
 void Télécommande::actualiser_liste() {
     liste_.clear();
     if (const std::string annonce = console_.annonce_du_precedent(); !annonce.empty()) {
@@ -82,6 +84,16 @@ void Télécommande::indiquer_position() {
         textes << QString("Hors de la table (%1).").arg(etendue);
     indication_.setText(textes.join('\n'));
     indication_.setVisible(!textes.isEmpty());
+}
+
+// Colours of its own follow those of the desktop.
+void Télécommande::changeEvent(QEvent* evenement) {
+    QWidget::changeEvent(evenement);
+    if (evenement->type() != QEvent::PaletteChange)
+        return;
+    ecrire_le_temps();
+    indiquer_position();
+    surligner(nullptr);
 }
 
 // Shows which fields the action under the pointer or the keyboard reads.

@@ -25,7 +25,7 @@ QString noms(const std::vector<std::string>& fonctions) {
 } // namespace
 
 CopieTrajet::CopieTrajet(QWidget* parent, const Copie& propose, Composer composer)
-    : QDialog(parent), composer_(std::move(composer)), coloration_(apercu_.document(), palette()) {
+    : QDialog(parent), composer_(std::move(composer)), coloration_(apercu_) {
     nommer();
     placer();
     proposer(propose);

@@ -58,7 +58,7 @@ Dialog::Dialog(QWidget* parent, Seance& seance, Bureau& bureau)
                "Extention de fichier où se trouve le code de génération interne au simulateur",
                "de la trajectoire enregistrée",
                {"*.ini", "*.*"}}),
-      coloration_(apercu_.document(), palette()),
+      coloration_(apercu_),
       rejeu_(seance,
              [this] {
                  if (isVisible())

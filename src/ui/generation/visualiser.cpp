@@ -22,7 +22,7 @@ Visualiser::Visualiser(QWidget* parent, Fenetres& fenetres, Bureau& bureau,
       fenetres_(fenetres),
       bureau_(bureau),
       FichierVisu_(std::move(FichierVisu)),
-      coloration_(Visu.document(), palette()),
+      coloration_(Visu),
       veilleur_([this] { relire(); }) {
     nommer();
     placer();
@@ -71,7 +71,7 @@ void Visualiser::placer() {
     auto* droite = new QWidget;
     auto* colonne_droite = new QVBoxLayout(droite);
     colonne_droite->setContentsMargins(0, 0, 0, 0);
-    colonne_droite->addWidget(&Label2);
+    colonne_droite->addWidget(&Label2, 0, Qt::AlignTop); // above nothing, at first
     colonne_droite->addWidget(&Visu);
     auto* partage = new QSplitter;
     partage->addWidget(gauche);

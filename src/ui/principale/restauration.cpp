@@ -47,7 +47,7 @@ QString texte_compare(std::string_view present, std::string_view version) {
 Restauration::Restauration(QWidget* parent, Seance& seance)
     : QWidget(parent, Qt::Window),
       seance_(seance),
-      coloration_(apercu_.document(), palette()),
+      coloration_(apercu_),
       veilleur_([this] { lister(); }) {
     nommer();
     placer();
