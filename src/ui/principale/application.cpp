@@ -68,6 +68,17 @@ void poursuivre(Sim1& sim, const Demarrage& demarrage) {
     });
 }
 
+} // namespace
+
+void demarrer(Sim1& sim, const Demarrage& demarrage) {
+    preparer(sim, demarrage.projet);
+    sim.Form_Load();
+    if (!sim.seance().terminee())
+        poursuivre(sim, demarrage);
+}
+
+namespace {
+
 int executer(const std::filesystem::path& dossier, FinSignalee& fin, const Demarrage& demarrage,
              const std::function<void(Sim1&)>& prete) {
     std::optional<int> code;
@@ -76,10 +87,7 @@ int executer(const std::filesystem::path& dossier, FinSignalee& fin, const Demar
         QCoreApplication::exit(sortie);
     });
     ecouter_la_fin(sim, fin);
-    preparer(sim, demarrage.projet);
-    sim.Form_Load();
-    if (!code)
-        poursuivre(sim, demarrage);
+    demarrer(sim, demarrage);
     // After the windows are painted: the icon is a picture to be read.
     constexpr int apres_les_fenetres_ms = 20;
     QTimer::singleShot(apres_les_fenetres_ms, &sim,

@@ -15,6 +15,10 @@ struct Demarrage {
     bool demarrer = false;           ///< the match
 };
 
+/// The main window's start-up as the command line wants it.
+/// @throws ErreurExecution when there is no such project
+void demarrer(Sim1& sim, const Demarrage& demarrage);
+
 /// Opens the windows and runs the program until it ends.
 /// @param prete    called with the main window after the start-up, before the first event
 /// @returns the exit code
