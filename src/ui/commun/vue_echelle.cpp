@@ -8,11 +8,60 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <optional>
 
 namespace {
 
 constexpr double echelle_min = 0.05; ///< logical pixels per cm
 constexpr double echelle_max = 80;
+constexpr double facteur_de_touche = 1.25;
+
+/// What a key does to what is seen.
+struct Regard {
+    double facteur = 1; ///< 0: the whole drawing
+    QPointF ecart = {}; ///< logical pixels
+};
+
+std::optional<QPointF> sens_de(int fleche) {
+    switch (fleche) {
+    case Qt::Key_Left:
+        return QPointF(1, 0);
+    case Qt::Key_Right:
+        return QPointF(-1, 0);
+    case Qt::Key_Up:
+        return QPointF(0, 1);
+    case Qt::Key_Down:
+        return QPointF(0, -1);
+    default:
+        return std::nullopt;
+    }
+}
+
+// These are the view's that has the keyboard, whatever its window does with them.
+std::optional<Regard> regard(const QKeyEvent& touche) {
+    constexpr double pas = 40;
+    const auto avec = touche.modifiers() & ~Qt::KeypadModifier;
+    if (touche.matches(QKeySequence::ZoomIn))
+        return Regard{facteur_de_touche};
+    if (touche.matches(QKeySequence::ZoomOut))
+        return Regard{1 / facteur_de_touche};
+    if (avec == Qt::ControlModifier && touche.key() == Qt::Key_0)
+        return Regard{0};
+    const auto sens = sens_de(touche.key());
+    if (sens && avec == (Qt::ControlModifier | Qt::ShiftModifier))
+        return Regard{1, *sens * pas};
+    return std::nullopt;
+}
+
+// And these where the window leaves them.
+std::optional<Regard> regard_simple(const QKeyEvent& touche) {
+    if ((touche.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0)
+        return std::nullopt;
+    if (touche.key() == Qt::Key_Plus)
+        return Regard{facteur_de_touche};
+    return touche.key() == Qt::Key_Minus ? std::optional(Regard{1 / facteur_de_touche})
+                                         : std::nullopt;
+}
 
 } // namespace
 
@@ -161,8 +210,23 @@ void VueEchelle::wheelEvent(QWheelEvent* evenement) {
     evenement->accept();
 }
 
+bool VueEchelle::event(QEvent* evenement) {
+    if (evenement->type() == QEvent::ShortcutOverride &&
+        regard(*static_cast<QKeyEvent*>(evenement)))
+        evenement->accept();
+    return QWidget::event(evenement);
+}
+
 void VueEchelle::keyPressEvent(QKeyEvent* evenement) {
-    if (evenement->key() == Qt::Key_Space) {
+    auto vers = regard(*evenement);
+    if (!vers)
+        vers = regard_simple(*evenement);
+    if (vers) {
+        if (vers->facteur == 0)
+            return ajuster();
+        camera_.glisser(vers->ecart);
+        zoomer(vers->facteur, QRectF(rect()).center());
+    } else if (evenement->key() == Qt::Key_Space) {
         gestes_.tenir_espace(true);
     } else if (evenement->key() == Qt::Key_Escape) {
         suivre(gestes_.couper());

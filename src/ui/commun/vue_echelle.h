@@ -10,9 +10,10 @@
 
 class SurfaceQt;
 
-/// A drawing to scale, in centimetres, y upwards: rulers, grid, zoom at the cursor with the wheel,
-/// panning with the middle button or the space bar. What is drawn and what the left button does is
-/// up to the derived view. Positions in pixels are this widget's logical ones.
+/// A drawing to scale, in centimetres, y upwards: rulers, grid, zoom at the cursor with the wheel
+/// or in the middle with "+" and "-", panning with the middle button, the space bar, or the arrows
+/// with Ctrl and Shift. What is drawn and what the left button does is up to the derived view.
+/// Positions in pixels are this widget's logical ones.
 class VueEchelle : public QWidget {
 public:
     explicit VueEchelle(QWidget* parent);
@@ -60,6 +61,7 @@ protected:
     /// Sets a surface to this view's coordinates.
     void orienter(SurfaceQt& surface) const;
 
+    bool event(QEvent* evenement) override;
     void paintEvent(QPaintEvent*) override;
     void resizeEvent(QResizeEvent*) override;
     void mousePressEvent(QMouseEvent* evenement) override;

@@ -136,6 +136,15 @@ void VueTirable::placer(QPointF pixels, Qt::KeyboardModifiers touches) {
         outils_.reposer();
 }
 
+// What a click would, without a mouse; arrows and fields bring it where it belongs.
+void VueTirable::placer_au_milieu() {
+    const Outil outil = outils_.en_main();
+    if (outil.forme == Outil::Forme::selection || outil.forme == Outil::Forme::brisee)
+        return;
+    outils_.reposer();
+    poser(outil, aimanter(en_cm(QRectF(rect()).center()), {}));
+}
+
 void VueTirable::survoler(QPointF pixels) {
     const bool outil = outils_.en_main().forme != Outil::Forme::selection;
     setCursor(outil ? Qt::CrossCursor : curseur(pixels));
@@ -168,12 +177,13 @@ void VueTirable::dropEvent(QDropEvent* evenement) {
 
 void VueTirable::keyPressEvent(QKeyEvent* evenement) {
     const int touche = evenement->key();
-    if (chaine_.vide())
-        return VueEchelle::keyPressEvent(evenement);
-    if (touche == Qt::Key_Backspace)
-        chaine_.reprendre();
-    else if (touche == Qt::Key_Return || touche == Qt::Key_Enter)
+    const bool entree = touche == Qt::Key_Return || touche == Qt::Key_Enter;
+    if (entree && chaine_.vide())
+        placer_au_milieu();
+    else if (entree)
         finir_la_chaine();
+    else if (touche == Qt::Key_Backspace && !chaine_.vide())
+        chaine_.reprendre();
     else
         VueEchelle::keyPressEvent(evenement);
     update();

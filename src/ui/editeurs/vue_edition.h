@@ -66,6 +66,7 @@ protected:
 
 private:
     void placer(QPointF pixels, Qt::KeyboardModifiers touches);
+    void placer_au_milieu();
 
     bool brise() const; ///< the chain's tool is in hand
     void continuer_la_chaine(QPointF pixels, Qt::KeyboardModifiers touches);
@@ -88,6 +89,10 @@ public:
     void rafraichir() override {
         provisoire_.reset();
         geste_ = Geste::aucun;
+        const std::size_t n = h_.selection().size();
+        setAccessibleDescription(n == 0   ? QString("Rien n'est choisi")
+                                 : n == 1 ? QString("Un objet est choisi")
+                                          : QString("%1 objets sont choisis").arg(n));
         update();
     }
     /// The document as the present drag shows it.

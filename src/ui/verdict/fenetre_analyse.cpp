@@ -213,9 +213,11 @@ void FenetreAnalyse::ecrire_lecture() {
     if (vide())
         return lecture_.ecrire("Le match ne peut pas être joué.");
     const int robot = frise_.robot();
-    lecture_.ecrire(secondes(d_.temps()) + " · robot " + std::to_string(robot) + ", " +
-                    description(*etat_, match(), robot, d_.temps()) + " · " +
-                    texte_pose(match().pose(robot, d_.temps())));
+    const std::string texte = secondes(d_.temps()) + " · robot " + std::to_string(robot) + ", " +
+                              description(*etat_, match(), robot, d_.temps()) + " · " +
+                              texte_pose(match().pose(robot, d_.temps()));
+    lecture_.ecrire(texte);
+    frise_.dire(texte_qt(texte));
 }
 
 void FenetreAnalyse::hideEvent(QHideEvent* evenement) {

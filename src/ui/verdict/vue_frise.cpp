@@ -3,7 +3,9 @@
 #include "analyse/phrases.h"
 #include "ui/commun/boites.h"
 #include "ui/commun/style.h"
+#include "ui/verdict/frise_accessible.h"
 
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -29,6 +31,15 @@ VueFrise::VueFrise(const Deroulement& d, QWidget* parent)
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    rendre_la_frise_accessible();
+}
+
+void VueFrise::dire(const QString& lecture) {
+    lecture_ = lecture;
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleValueChangeEvent change(this, d_.temps() / 100.0);
+    QAccessible::updateAccessibility(&change);
 }
 
 DispositionFrise VueFrise::places() const {
@@ -239,10 +250,21 @@ void VueFrise::keyPressEvent(QKeyEvent* evenement) {
     const int sens = evenement->key() == Qt::Key_Down ? 1 : evenement->key() == Qt::Key_Up ? -1 : 0;
     if (sens != 0 && evenement->modifiers() == Qt::NoModifier)
         au_robot(std::clamp(contenu_.robot + sens, 1, places().robots));
+    else if (evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter)
+        modifier_au_curseur();
     else if (evenement->key() == Qt::Key_Escape && gestes_.en_cours())
         suivre(gestes_.couper());
     else
         QWidget::keyPressEvent(evenement);
+}
+
+// As a double click on its segment does.
+void VueFrise::modifier_au_curseur() {
+    if (contenu_.analyse == nullptr)
+        return;
+    if (const ActionJouee* const action =
+            action_au(contenu_.analyse->match, contenu_.robot, d_.temps()))
+        au_segment(contenu_.robot, action->numero);
 }
 
 void VueFrise::focusOutEvent(QFocusEvent* evenement) {

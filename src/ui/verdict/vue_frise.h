@@ -31,6 +31,10 @@ public:
     void suivre_le_curseur();
     /// Moves the view so that the cursor is in it.
     void faire_voir_le_curseur();
+    /// What is at the cursor, in words: the value that assistive tools read.
+    void dire(const QString& lecture);
+    const QString& lecture() const { return lecture_; }
+    const Deroulement& deroulement() const { return d_; }
     void ajuster();
     void zoomer(double facteur);
 
@@ -64,6 +68,7 @@ private:
     void suivre(Gestes::Suite suite);
     void prendre();
     void mettre_le_curseur();
+    void modifier_au_curseur();
     void vue_changee();
     const ActionJouee* action_en(QPointF pixels) const;
     QString bulle(QPointF pixels) const;
@@ -80,5 +85,6 @@ private:
     Gestes gestes_;
     std::int32_t avant_ = 0;  ///< where the cursor was when it was taken hold of
     std::int32_t montre_ = 0; ///< where it was last painted
+    QString lecture_;
     Couche<Cle> fond_;
 };
