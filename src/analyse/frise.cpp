@@ -105,10 +105,8 @@ std::string description(const Etat& e, const MatchCalcule& m, int robot, std::in
 }
 
 std::string texte_pose(const PoseTick& pose) {
-    constexpr double tour = 360;
-    const double cap = std::round((pose.cap - tour * std::floor(pose.cap / tour)) * 10) / 10;
     return "x = " + dixiemes(pose.x) + " cm, y = " + dixiemes(pose.y) +
-           " cm, cap = " + dixiemes(cap < tour ? cap : 0) + "°";
+           " cm, cap = " + dixiemes(cap_ramene(pose.cap)) + "°";
 }
 
 std::optional<ActionTrouvee> chercher_action(const MatchCalcule& m, std::string_view texte,

@@ -21,9 +21,10 @@ std::string dixiemes(double valeur) {
 }
 
 double cap_ramene(double cap) {
-    constexpr double presque = -179.95;
-    const double reste = std::remainder(cap, 360);
-    return reste <= presque ? reste + 360 : reste;
+    constexpr double tour = 360;
+    constexpr double presque = 359.95; // shown as 360,0
+    const double reste = cap - tour * std::floor(cap / tour);
+    return reste >= presque ? 0 : reste;
 }
 
 std::string compte(int n, std::string_view nom) {

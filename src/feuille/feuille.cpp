@@ -18,7 +18,7 @@ std::string temps_seul(std::int32_t centiemes) {
 }
 
 std::string pose(const PoseTick& p) {
-    return dixiemes(p.x) + " ; " + dixiemes(p.y) + " ; " + dixiemes(cap_dans_un_tour(p.cap)) + "°";
+    return dixiemes(p.x) + " ; " + dixiemes(p.y) + " ; " + dixiemes(cap_ramene(p.cap)) + "°";
 }
 
 std::string texte_de(const Etat& e, int robot, int numero) {

@@ -1,5 +1,6 @@
 #include "feuille/placement.h"
 
+#include "analyse/phrases.h"
 #include "analyse/verdict.h"
 #include "sim/contour.h"
 
@@ -33,18 +34,11 @@ std::string direction(double cap) {
 
 } // namespace
 
-double cap_dans_un_tour(double cap) {
-    constexpr double tour = 360;
-    constexpr double presque = 359.95;
-    const double reste = cap - tour * std::floor(cap / tour);
-    return reste >= presque ? 0 : reste;
-}
-
 Placement placement_de(const Etat& e, int i) {
     Placement p;
     p.robot = i;
     p.reference = {e.XInit(i), e.YInit(i)};
-    p.cap = cap_dans_un_tour(e.CapInit(i));
+    p.cap = cap_ramene(e.CapInit(i));
     p.horizontale = au_plus_pres(p.reference.x, e.XMax, "gauche", "droit");
     p.verticale = au_plus_pres(p.reference.y, e.YMax, "bas", "haut");
     const Contour contour(e, i);

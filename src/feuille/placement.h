@@ -35,8 +35,5 @@ private:
     std::string distances() const;
 };
 
-/// A heading within one turn (degrees), as it is written with one decimal.
-double cap_dans_un_tour(double cap);
-
 /// @param i  robot, 1..9; its start pose is taken
 Placement placement_de(const Etat& e, int i);

@@ -170,6 +170,14 @@ TEST_F(EditeurTrajet, les_lignes_se_copient_se_deplacent_et_se_retournent) {
     EXPECT_EQ(
         doc()[static_cast<std::size_t>(table().selectionModel()->selectedRows()[0].row())].cle,
         "VIRAVDR");
+    // A number is a whole one: "8" stands in 80 only.
+    for (const auto& [nombre, rang] : {std::pair{"80", 2}, {"30", 4}, {"2", 2}, {"8", -1}}) {
+        table().clearSelection();
+        trouver<QLineEdit>("chercheAction").setText(nombre);
+        QTest::keyClick(&trouver("chercheAction"), Qt::Key_Return);
+        const auto choisies = table().selectionModel()->selectedRows();
+        EXPECT_EQ(choisies.isEmpty() ? -1 : choisies[0].row(), rang) << nombre;
+    }
 }
 
 // Saved with its generation input, and as another robot's from the other side.

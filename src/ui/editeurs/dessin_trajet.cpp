@@ -62,8 +62,8 @@ void dessinTrajet::placer() {
     lignes->addWidget(&avis_);
     lignes->addWidget(&bilan_);
     lignes->addWidget(&generation_);
-    assembler({historique_, vue_, *panneau, {400, 740}});
-    resize(1160, 660);
+    assembler({historique_, vue_, *panneau, {380, 860}});
+    resize(1240, 660);
 }
 
 void dessinTrajet::connecter() {

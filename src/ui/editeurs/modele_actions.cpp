@@ -227,9 +227,24 @@ QVariant ModeleActions::data(const QModelIndex& index, int role) const {
     }
 }
 
+// A number is an action's own or one of its values, whole: "6" is not found in "16".
 bool ModeleActions::contient(int rang, const QString& cherche) const {
+    bool nombre = false;
+    const int voulu = cherche.toInt(&nombre);
+    if (nombre)
+        return a_le_nombre(static_cast<std::size_t>(rang), voulu);
     for (int colonne = 0; colonne < nombre_de_colonnes; ++colonne)
         if (texte(static_cast<std::size_t>(rang), colonne).contains(cherche, Qt::CaseInsensitive))
+            return true;
+    return false;
+}
+
+bool ModeleActions::a_le_nombre(std::size_t i, int nombre) const {
+    if (essai_ != nullptr && essai_->numeros[i] == nombre && nombre != 0)
+        return true;
+    const Fiche& f = montre_[i];
+    for (std::size_t k = 0; k < DocumentTrajet::champs(f.cle); ++k)
+        if (f.entier(k) == nombre)
             return true;
     return false;
 }

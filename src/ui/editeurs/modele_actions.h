@@ -35,7 +35,7 @@ public:
     QString limites_de(const QModelIndex& index) const;
     /// What is to be said about that row; empty: nothing.
     QString remarque_de(std::size_t i) const;
-    /// Some text of that row has this in it, whatever the case.
+    /// Some text of that row has this in it, whatever the case; a number is one of its own, whole.
     bool contient(int rang, const QString& texte) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -46,6 +46,7 @@ public:
     bool setData(const QModelIndex& index, const QVariant& valeur, int role) override;
 
 private:
+    bool a_le_nombre(std::size_t i, int nombre) const;
     struct Suspens {
         QString texte, raison;
     };

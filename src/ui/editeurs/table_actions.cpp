@@ -116,8 +116,8 @@ void TableActions::nommer() {
 // As wide as what they usually hold, however little of it is there.
 void TableActions::elargir() {
     constexpr const char* usuels[] = {
-        "00000000",  "Balise gauche", "4000 (40,00 s)", "rayon 100 cm",
-        "cap -179°", "90,00 s",       "90,00 s",        "-100,0 ; 100,0 ; -179,9°"};
+        "000000",    "Balise gauche", "4000 (40,00 s)", "rayon 100 cm",
+        "cap -179°", "90,00 s",       "90,00 s",        "-100,0 ; 100,0 ; 359,9°"};
     int colonne = 0;
     for (const char* texte : usuels) {
         setColumnWidth(colonne, std::max(fontMetrics().horizontalAdvance(texte) + 12,

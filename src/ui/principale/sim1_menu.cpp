@@ -9,11 +9,38 @@
 #include <QAction>
 #include <QMenu>
 
+#include <utility>
+
+namespace {
+
+/// What the lines of the menu do, where their name does not say it all.
+constexpr std::pair<const char*, const char*> bulles[] = {
+    {"menu_pause", "Arrête le temps du match là où il en est"},
+    {"menu_pas", "Avance d'un pas de temps un match en pause"},
+    {"menu_analyse", "La table à chaque instant, la frise des actions et les constats"},
+    {"menu_trajet", "Les actions d'un robot dans un tableau, son chemin sur la table"},
+    {"menu_restaurer", "Les copies datées des fichiers du projet, à comparer et à remettre"},
+    {"menu_feuille", "Une page pour l'équipe, en PDF ou SVG : placement, actions, constats"},
+    {"menu_image", "La table et la trace du match, en PNG, PDF ou SVG"},
+    {"menu_trace_csv", "La position de chaque robot à chaque pas, pour un tableur"},
+    {"menu_dossier", "Le dossier Configuration dans le gestionnaire de fichiers"},
+    {"menu_capture", "La fenêtre comme elle est, dans un fichier PNG"},
+    {"copier_position", "Le lieu sous la souris, en centimètres"}};
+
+void expliquer(QAction& action) {
+    for (const auto& [nom, bulle] : bulles)
+        if (action.objectName() == nom)
+            action.setToolTip(bulle);
+}
+
+} // namespace
+
 QAction& Sim1::commande(const char* nom, const QString& texte, const QKeySequence& touche,
                         std::function<void()> procedure) {
     auto* action = new QAction(texte, this);
     action->setObjectName(nom);
     action->setShortcut(touche);
+    expliquer(*action);
     connect(action, &QAction::triggered, this, std::move(procedure));
     addAction(action);
     options_.addAction(action);
@@ -67,6 +94,7 @@ void Sim1::modifier_le_trajet(int robot, int numero) {
 void Sim1::montrer_menu(const QPoint& ou) {
     QMenu menu(&Table);
     menu.setObjectName("menu_table");
+    menu.setToolTipsVisible(true);
     remplir_robots(*menu.addMenu("Nombre de robots"));
     remplir_vitesses(*menu.addMenu("Vitesse"));
     menu.addSeparator();

@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr int largeur_du_texte = 340;
 enum Colonne { instant, place, fichier, ligne, texte };
 // What a row leads to: a finding, or a robot and an instant.
 constexpr int role_constat = Qt::UserRole;
@@ -96,8 +95,7 @@ void ListeConstats::placer() {
     liste_.setAllColumnsShowFocus(true);
     liste_.setAlternatingRowColors(true);
     liste_.header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    liste_.header()->setSectionResizeMode(texte, QHeaderView::Interactive);
-    liste_.header()->resizeSection(texte, largeur_du_texte);
+    liste_.header()->setSectionResizeMode(texte, QHeaderView::Stretch); // whole below the list
     liste_.header()->moveSection(texte, place);
     liste_.header()->setStretchLastSection(false);
     for (QLabel* libre : {&verdict_, &texte_, &masques_}) {

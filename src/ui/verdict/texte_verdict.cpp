@@ -24,10 +24,8 @@ std::string arrivee_de(const Analyse& a) {
     if (a.robots.empty())
         return "";
     const PoseTick& p = a.robots.front().arrivee;
-    constexpr double tour = 360;
-    const double cap = p.cap - tour * std::floor(p.cap / tour);
     return (a.robots.size() > 1 ? "robot 1 en x = " : "arrivée x = ") + longueur(p.x) +
-           " cm, y = " + longueur(p.y) + " cm, cap = " + longueur(cap) + "°";
+           " cm, y = " + longueur(p.y) + " cm, cap = " + longueur(cap_ramene(p.cap)) + "°";
 }
 
 } // namespace
