@@ -9,7 +9,7 @@ namespace {
 
 class Arguments : public Banc {
 protected:
-    std::variant<Demarrage, int> lire(std::vector<std::string> mots) {
+    std::variant<Demarrage, int> lire(const std::vector<std::string>& mots) {
         std::vector<const char*> argv{"tavolmex"};
         for (const std::string& mot : mots)
             argv.push_back(mot.c_str());
