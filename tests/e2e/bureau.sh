@@ -15,7 +15,7 @@ if [[ ${1:-} != --dans-le-bureau ]]; then
     mkdir -m 700 "$maison/execution"
     mkfifo "$maison/ecran"
     exec 3<>"$maison/ecran" # the server chooses its number and writes it there once it is ready
-    Xvfb -displayfd 3 -screen 0 1280x720x24 -nolisten tcp -noreset >/dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 1280x720x24 -r -nolisten tcp -noreset >/dev/null 2>&1 &
     serveur=$!
     trap 'kill "$serveur" || true; wait "$serveur" || true; rm -rf "$maison"' EXIT
     read -r -t 30 -u 3 ecran

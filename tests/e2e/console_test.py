@@ -12,7 +12,9 @@ from pilote import Programme, attendre
 
 
 def remplir(p, motif, texte):
-    p.objet("text", motif).queryEditableText().setTextContents(texte)
+    champ = p.objet("text", motif)
+    champ.queryEditableText().setTextContents(texte)
+    attendre(f"« {texte} » dans {motif}", lambda: champ.queryText().getText(0, -1) == texte)
 
 
 def jouer(p, action):

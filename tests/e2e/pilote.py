@@ -50,8 +50,12 @@ def visible(a):
     return dans_l_etat(a, pyatspi.STATE_SHOWING)
 
 
+def enfants(a):
+    return (enfant for enfant in a if enfant)  # one that went meanwhile is None
+
+
 def descendants(a):
-    for enfant in a:
+    for enfant in enfants(a):
         yield enfant
         yield from descendants(enfant)
 
@@ -87,10 +91,11 @@ class Programme:
     def fenetre(self, titre):
         """The visible top-level window of that title, waited for."""
         return attendre(f"fenêtre « {titre} »", lambda: next(
-            (f for f in self.racine if f.name == titre and visible(f)), None))
+            (f for f in enfants(self.racine) if f.name == titre and visible(f)), None))
 
     def _chercher(self, role, motif):
-        return next((a for a in descendants(self.racine) if re.fullmatch(role, a.getRoleName())
+        return next((a for f in enfants(self.racine) if visible(f) for a in descendants(f)
+                     if re.fullmatch(role, a.getRoleName())
                      and re.search(motif, a.name) and visible(a)), None)
 
     def objet(self, role, motif):
@@ -106,6 +111,8 @@ class Programme:
         faire(self.objet(role, motif), action)
 
     def presser(self, motif):
+        """Presses a button once it can be: a disabled one would do nothing."""
+        attendre(f"« {motif} » à presser", lambda: self.actif("push button", motif))
         self.agir("push button", motif, "Press")
 
     def derouler(self, menu, choix):
@@ -113,10 +120,17 @@ class Programme:
         barre = self.objet("menu item", menu)
         faire(next(e for e in descendants(barre) if re.search(choix, e.name)), "Press")
 
-    def premier_plan(self, titre):
-        """That window, once keys go to it: mouse and keyboard reach what the window manager put first."""
-        return attendre(f"« {titre} » au premier plan", lambda: next(
-            (f for f in self.racine if f.name == titre and dans_l_etat(f, pyatspi.STATE_ACTIVE)), None))
+    def disparue(self, titre):
+        """Waits until no visible window bears that title."""
+        attendre(f"plus de « {titre} »", lambda: all(
+            f.name != titre or not visible(f) for f in enfants(self.racine)))
+
+    def premier_plan(self, *titres):
+        """The window of one of these titles, once keys go to it: mouse and keyboard reach what the
+        window manager put first."""
+        return attendre(f"« {' | '.join(titres)} » au premier plan", lambda: next(
+            (f for f in enfants(self.racine)
+             if f.name in titres and dans_l_etat(f, pyatspi.STATE_ACTIVE)), None))
 
     def cliquer(self, objet, clic="b1c"):
         """A click of the mouse in the middle of an object, once it no longer moves."""
@@ -200,7 +214,8 @@ class Programme:
         lignes = []
 
         def visiter(a, retrait):
-            lignes.append(f"{'  ' * retrait}{a.getRoleName()} « {a.name} »")
+            cache = "" if visible(a) else " (caché)"
+            lignes.append(f"{'  ' * retrait}{a.getRoleName()} « {a.name} »{cache}")
             for enfant in a:
                 visiter(enfant, retrait + 1)
 
