@@ -25,13 +25,13 @@ constexpr int demi_curseur = 8;
 
 VueFrise::VueFrise(const Deroulement& d, QWidget* parent)
     : QWidget(parent), d_(d), axe_(echelle_min, echelle_max) {
+    rendre_la_frise_accessible(); // before a name asks for what speaks of it
     setObjectName("frise");
     setAccessibleName("Frise du match");
     setAccessibleDescription("Une piste par robot, un segment par action");
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    rendre_la_frise_accessible();
 }
 
 void VueFrise::dire(const QString& lecture) {
