@@ -28,9 +28,15 @@ TEST_F(Manuel, chaque_page_existe_et_ses_liens_menent_a_une_page) {
         const QString texte = texte_de(page);
         EXPECT_TRUE(texte.startsWith("# ")) << page.fichier;
         EXPECT_FALSE(texte.contains("<")) << page.fichier; // would be taken for markup
-        for (const auto& trouve : lien.globalMatch(texte))
-            EXPECT_TRUE(fichiers.contains(trouve.captured(1)))
-                << page.fichier << trouve.captured(1).toStdString();
+        int images = 0;
+        for (const auto& trouve : lien.globalMatch(texte)) {
+            const QString cible = trouve.captured(1);
+            if (cible.startsWith("images/") && ++images > 0)
+                EXPECT_FALSE(QImage(":/manuel/" + cible).isNull()) << cible.toStdString();
+            else
+                EXPECT_TRUE(fichiers.contains(cible)) << page.fichier << cible.toStdString();
+        }
+        EXPECT_EQ(images, 2) << page.fichier;
     }
 }
 
